@@ -1,0 +1,19 @@
+// Headers that nearly every file of the logic reads.
+#pragma once
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <QByteArray>
+#include <QDate>
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <span>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>

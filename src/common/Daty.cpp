@@ -1,0 +1,97 @@
+#include "common/Daty.h"
+#include <algorithm>
+#include <array>
+#include <QStringView>
+
+namespace {
+
+/// Years below this were never dates here: a year typed with two digits is a slip.
+constexpr int kPierwszyRok = 100;
+
+bool cyfra(QChar znak) { return znak >= QLatin1Char('0') && znak <= QLatin1Char('9'); }
+
+bool sameCyfry(QStringView tekst) {
+    return !tekst.isEmpty() && std::all_of(tekst.begin(), tekst.end(), cyfra);
+}
+
+bool rozdzielacz(QChar znak) {
+    return znak == QLatin1Char('/') || znak == QLatin1Char('-') || znak == QLatin1Char('.');
+}
+
+std::optional<QDate> zCzesci(QStringView rok, QStringView mies, QStringView dzien) {
+    if (!sameCyfry(rok) || !sameCyfry(mies) || !sameCyfry(dzien)) return {};
+    const QDate data(rok.toInt(), mies.toInt(), dzien.toInt());
+    if (!data.isValid() || data.year() < kPierwszyRok) return {};
+    return data;
+}
+
+std::optional<QDate> zPozycji(QStringView dziesiec) {
+    return zCzesci(dziesiec.mid(6, 4), dziesiec.mid(3, 2), dziesiec.mid(0, 2));
+}
+
+} // namespace
+
+int DniWMiesiacu(int rok, int mies) { return QDate(rok, mies, 1).daysInMonth(); }
+
+QDate PierwszyDzien(int rok, int mies) { return {rok, mies, 1}; }
+
+QDate OstatniDzien(int rok, int mies) { return {rok, mies, DniWMiesiacu(rok, mies)}; }
+
+QString NazwaMiesiaca(int mies) {
+    static const std::array<QString, 12> nazwy = {
+        QStringLiteral("Styczeń"),     QStringLiteral("Luty"),     QStringLiteral("Marzec"),
+        QStringLiteral("Kwiecień"),    QStringLiteral("Maj"),      QStringLiteral("Czerwiec"),
+        QStringLiteral("Lipiec"),      QStringLiteral("Sierpień"), QStringLiteral("Wrzesień"),
+        QStringLiteral("Październik"), QStringLiteral("Listopad"), QStringLiteral("Grudzień")};
+    return mies >= 1 && mies <= 12 ? nazwy[static_cast<std::size_t>(mies - 1)] : QString();
+}
+
+QString Nazwa_dnia(QDate data) {
+    static const std::array<QString, 7> nazwy = {QStringLiteral("Poniedziałek"), QStringLiteral("Wtorek"),
+                                                 QStringLiteral("Środa"),        QStringLiteral("Czwartek"),
+                                                 QStringLiteral("Piątek"),       QStringLiteral("Sobota"),
+                                                 QStringLiteral("Niedziela")};
+    return data.isValid() ? nazwy[static_cast<std::size_t>(data.dayOfWeek() - 1)] : QString();
+}
+
+QString FormatDaty(QDate data) {
+    if (!data.isValid()) return {};
+    return QStringLiteral("%1-%2-%3")
+        .arg(FormatMiesiaca(data.day()), FormatMiesiaca(data.month()), FormatRoku(data.year()));
+}
+
+std::optional<QDate> CzytajDate(const QString& tekst) {
+    const QStringView t(tekst);
+    if (t.size() != 10) return {};
+    if (t[4] == QLatin1Char('-') && t[7] == QLatin1Char('-'))
+        return zCzesci(t.mid(0, 4), t.mid(5, 2), t.mid(8, 2));
+    if (!rozdzielacz(t[2]) || t[5] != t[2]) return {};
+    return zPozycji(t);
+}
+
+QString FormatMiesiaca(int mies) { return QStringLiteral("%1").arg(mies, 2, 10, QLatin1Char('0')); }
+
+QString FormatRoku(int rok) { return QStringLiteral("%1").arg(rok, 4, 10, QLatin1Char('0')); }
+
+QString MaskaDaty(const QString& tekst) {
+    QString wynik;
+    QString czesc;
+    int czesci = 1;
+    for (const QChar znak : tekst) {
+        if (!rozdzielacz(znak)) {
+            czesc += znak;
+            continue;
+        }
+        if (czesci == 3) break;
+        if (sameCyfry(czesc)) wynik += czesc;
+        wynik += znak;
+        czesc.clear();
+        ++czesci;
+    }
+    if (sameCyfry(czesc)) wynik += czesc;
+    return wynik;
+}
+
+QString SprawdzDate(const QString& tekst) {
+    return tekst.size() >= 10 && zPozycji(tekst) ? tekst.left(10) : QString();
+}

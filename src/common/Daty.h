@@ -1,0 +1,34 @@
+// Months, weekdays and dates typed or shown as text, free of the machine's locale.
+#pragma once
+#include <optional>
+#include <QDate>
+#include <QString>
+
+/// Days of the month, 28 to 31; 0 for a month outside 1 to 12.
+[[nodiscard]] int DniWMiesiacu(int rok, int mies);
+[[nodiscard]] QDate PierwszyDzien(int rok, int mies);
+[[nodiscard]] QDate OstatniDzien(int rok, int mies);
+
+/// "Styczeń" to "Grudzień" for 1 to 12, otherwise empty.
+[[nodiscard]] QString NazwaMiesiaca(int mies);
+/// "Poniedziałek" to "Niedziela", empty for an invalid date.
+[[nodiscard]] QString Nazwa_dnia(QDate data);
+/// The weekday as overtime stores it; the same names.
+[[nodiscard]] inline QString DzienT(QDate data) { return Nazwa_dnia(data); }
+
+/// "dd-mm-yyyy", empty for an invalid date.
+[[nodiscard]] QString FormatDaty(QDate data);
+/// Reads exactly dd-mm-yyyy, dd/mm/yyyy, dd.mm.yyyy or yyyy-mm-dd, years 100 to 9999. Nothing for any other
+/// text, a day that the month has not included.
+[[nodiscard]] std::optional<QDate> CzytajDate(const QString& tekst);
+/// "00".
+[[nodiscard]] QString FormatMiesiaca(int mies);
+/// "0000".
+[[nodiscard]] QString FormatRoku(int rok);
+
+/// The text of a date field while it is typed, rebuilt: split at "/" (also "-" and "."), at most three parts,
+/// a part that is no number becomes empty, the separators stay as typed.
+[[nodiscard]] QString MaskaDaty(const QString& tekst);
+/// The text of a date field on leaving: its first ten characters if characters 1-2, 4-5 and 7-10 are day,
+/// month and year of a date, otherwise empty.
+[[nodiscard]] QString SprawdzDate(const QString& tekst);

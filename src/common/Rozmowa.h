@@ -1,0 +1,53 @@
+// The user's side as a port: what logic tells and asks, without knowing whether a window, a console or a test
+// script answers.
+#pragma once
+#include <memory>
+#include <optional>
+#include <QString>
+
+enum class Styl { Informacja, Wykrzyknik, Krytyczny };
+
+/// Progress of a long action.
+class Postep {
+public:
+    virtual ~Postep() = default;
+    /// Shows `tekst` as the step `krok` (from 1). False once the clerk asked to stop; the caller then ends
+    /// between two steps and keeps what is done.
+    [[nodiscard]] virtual bool krok(int krok, const QString& tekst) = 0;
+};
+
+class Rozmowa {
+public:
+    virtual ~Rozmowa() = default;
+
+    virtual void komunikat(const QString& tekst, Styl styl, const QString& tytul = domyslnyTytul()) = 0;
+    /// A Yes/No question. Throws `Przerwanie` where nobody can answer (console without answers).
+    [[nodiscard]] virtual bool pytanie(const QString& tekst, const QString& tytul = domyslnyTytul()) = 0;
+    /// An input box. Nothing when it was cancelled.
+    [[nodiscard]] virtual std::optional<QString> wprowadz(const QString& tekst, const QString& tytul,
+                                                          const QString& domyslna = {}) = 0;
+    /// Progress over `ile` steps; it ends with the object's life.
+    [[nodiscard]] virtual std::unique_ptr<Postep> postep(const QString& tytul, int ile) = 0;
+
+    static QString domyslnyTytul() { return QStringLiteral("Tornel 2001"); }
+};
+
+/// Whether a calculation runs for one row before the clerk's eyes or inside a batch: in a batch warnings are
+/// suppressed and each question is asked once.
+enum class Tryb { Pojedynczy, Seria };
+
+/// One question of a batch with its answer, asked at the first row that needs it.
+class PytanieRaz {
+public:
+    /// In a batch asks `seryjne` the first time and repeats that answer; for one row asks `pojedyncze` each
+    /// time.
+    [[nodiscard]] bool pytaj(Rozmowa& rozmowa, Tryb tryb, const QString& seryjne, const QString& pojedyncze) {
+        if (tryb == Tryb::Pojedynczy) return rozmowa.pytanie(pojedyncze);
+        if (!odpowiedz_) odpowiedz_ = rozmowa.pytanie(seryjne);
+        return *odpowiedz_;
+    }
+    void zapomnij() { odpowiedz_.reset(); }
+
+private:
+    std::optional<bool> odpowiedz_;
+};

@@ -1,0 +1,155 @@
+#include "common/Blad.h"
+#include "common/Daty.h"
+#include "common/Liczby.h"
+#include "wsparcie/RozmowaSkrypt.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+QString u(const char* tekst) { return QString::fromUtf8(tekst); }
+
+TEST(Daty, MonthsAndWeekdays) {
+    EXPECT_EQ(DniWMiesiacu(2000, 2), 29);
+    EXPECT_EQ(DniWMiesiacu(1900, 2), 28);
+    EXPECT_EQ(DniWMiesiacu(2001, 4), 30);
+    EXPECT_EQ(DniWMiesiacu(2001, 13), 0);
+    EXPECT_EQ(OstatniDzien(2001, 2), QDate(2001, 2, 28));
+    EXPECT_EQ(PierwszyDzien(2001, 12), QDate(2001, 12, 1));
+    EXPECT_EQ(NazwaMiesiaca(1) + NazwaMiesiaca(10) + NazwaMiesiaca(12), u("StyczeńPaździernikGrudzień"));
+    EXPECT_EQ(NazwaMiesiaca(0) + NazwaMiesiaca(13), QString());
+    EXPECT_EQ(Nazwa_dnia(QDate(2001, 7, 1)), u("Niedziela"));
+    EXPECT_EQ(DzienT(QDate(2001, 7, 2)), u("Poniedziałek"));
+    EXPECT_EQ(Nazwa_dnia({}), QString());
+    EXPECT_EQ(FormatDaty(QDate(2001, 7, 2)), u("02-07-2001"));
+    EXPECT_EQ(FormatDaty({}), QString());
+    EXPECT_EQ(FormatMiesiaca(7) + FormatRoku(987), u("070987"));
+}
+
+TEST(Daty, ReadingIsStrict) {
+    for (const char* dobra : {"05-07-2001", "05/07/2001", "05.07.2001", "2001-07-05"})
+        EXPECT_EQ(CzytajDate(u(dobra)), QDate(2001, 7, 5)) << dobra;
+    EXPECT_EQ(CzytajDate(u("29-02-2000")), QDate(2000, 2, 29));
+    for (const char* zla :
+         {"", "31-02-2001", "29-02-2001", "00-07-2001", "05-13-2001", "5-7-2001", "05-07-01", "05-07/2001",
+          "05-07-2001 ", " 05-07-2001", "05-07-20011", "2001/07/05", "2001-02-30", "05-07-0001", "05 07 2001",
+          "+5-07-2001", "05-07-200x", "٠٥-07-2001"})
+        EXPECT_EQ(CzytajDate(u(zla)), std::nullopt) << zla;
+}
+
+TEST(Daty, FieldTexts) {
+    const struct {
+        const char *wpisany, *poMasce;
+    } maski[] = {
+        {"", ""},
+        {"1", "1"},
+        {"12/", "12/"},
+        {"12/05/20", "12/05/20"},
+        {"12/ab/2001", "12//2001"},
+        {"x", ""},
+        {"12/05/2001/9", "12/05/2001"},
+        {"12-05-2001", "12-05-2001"},
+    };
+    for (const auto& m : maski) EXPECT_EQ(MaskaDaty(u(m.wpisany)), u(m.poMasce)) << m.wpisany;
+
+    const struct {
+        const char *wpisany, *poWyjsciu;
+    } pola[] = {
+        {"12/05/2001", "12/05/2001"},
+        {"12-05-2001", "12-05-2001"},
+        {"12/05/2001 x", "12/05/2001"},
+        {"31/02/2001", ""},
+        {"12/05/201", ""},
+        {"", ""},
+        {"12/05/0001", ""},
+        {"1a/05/2001", ""},
+    };
+    for (const auto& p : pola) EXPECT_EQ(SprawdzDate(u(p.wpisany)), u(p.poWyjsciu)) << p.wpisany;
+}
+
+TEST(Liczby, AmountsAreReadFromTheirDigits) {
+    const struct {
+        const char* tekst;
+        std::int64_t kwota;
+    } dobre[] = {
+        {"1650", 1650'0000},
+        {" 1650,5 ", 1650'5000},
+        {"1650.50", 1650'5000},
+        {"-3", -3'0000},
+        {"+3,25", 3'2500},
+        {",5", 5000},
+        {"5,", 5'0000},
+        {"-0", 0},
+        {"-0,00004", 0},
+        {"0,00005", 0},
+        {"0,00015", 2},
+        {"0,000050000000000000001", 1},
+        {"-0,00015", -2},
+        {"1,99995", 2'0000},
+        {"0,000049999999999999999999", 0},
+        {"00000000000000000000000000000007", 7'0000},
+        {"922337203685477,5807", std::numeric_limits<std::int64_t>::max()},
+        {"-922337203685477,5808", std::numeric_limits<std::int64_t>::min()},
+    };
+    for (const auto& d : dobre) {
+        const auto kwota = CzytajKwote(u(d.tekst));
+        ASSERT_TRUE(kwota) << d.tekst;
+        EXPECT_EQ(kwota->surowa(), d.kwota) << d.tekst;
+    }
+    for (const char* zly : {"",
+                            " ",
+                            "-",
+                            "+",
+                            ",",
+                            "1,2,3",
+                            "1.2,3",
+                            "1 650",
+                            "1\u00a0650",
+                            "--1",
+                            "1-",
+                            "1e3",
+                            "1E300",
+                            "12zł",
+                            "0x10",
+                            "(5)",
+                            "inf",
+                            "nan",
+                            "😀",
+                            "١",
+                            "922337203685477,5808",
+                            "922337203685477,58075",
+                            "999999999999999999999999999999"}) {
+        EXPECT_EQ(CzytajKwote(u(zly)), std::nullopt) << zly;
+        EXPECT_EQ(KwotaAlboZero(u(zly)), Waluta{}) << zly;
+    }
+}
+
+TEST(Liczby, WholeNumbers) {
+    EXPECT_EQ(CzytajLiczbe(u(" 30 "), 0, 30), 30);
+    EXPECT_EQ(CzytajLiczbe(u("-5"), -5, 5), -5);
+    EXPECT_EQ(CzytajLiczbe(u("-9223372036854775808"), std::numeric_limits<qint64>::min(), 0),
+              std::numeric_limits<qint64>::min());
+    for (const char* zla : {"", "-", "31", "-1", "1,0", "1.", "1e1", "1 2", "99999999999999999999", "x"}) {
+        EXPECT_EQ(CzytajLiczbe(u(zla), 0, 30), std::nullopt) << zla;
+        EXPECT_EQ(LiczbaAlboZero(u(zla), 0, 30), 0) << zla;
+    }
+    EXPECT_EQ(LiczbaAlboZero(u("7"), 0, 30), 7);
+    EXPECT_EQ(FormatNumeru(7) + FormatNumeru(1234), u("0071234"));
+}
+
+TEST(Liczby, TheFormulaFormTakesACommaAndAnExponent) {
+    const struct {
+        const char* tekst;
+        std::int64_t kwota;
+    } dobre[] = {{"1E3", 1000'0000}, {"1,5E-04", 2}, {"2e+2", 200'0000},
+                 {" 7 ", 7'0000},    {"1E-400", 0},  {"0E99999999999999999999", 0}};
+    for (const auto& d : dobre) {
+        const auto liczba = RozbierzLiczbe(u(d.tekst), Zapis::Wzor);
+        ASSERT_TRUE(liczba) << d.tekst;
+        EXPECT_EQ(liczba->naKwote().surowa(), d.kwota) << d.tekst;
+    }
+    EXPECT_THROW((void)RozbierzLiczbe(u("1E99999999999999999999"), Zapis::Wzor)->naKwote(), Przepelnienie);
+    for (const char* zly : {"1.5", "1E", "1E+", "E5", "1E1,5", "1,5,"})
+        EXPECT_FALSE(RozbierzLiczbe(u(zly), Zapis::Wzor)) << zly;
+}
+
+} // namespace
