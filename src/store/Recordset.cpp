@@ -1,0 +1,654 @@
+#include "store/Recordset.h"
+#include "common/Blad.h"
+#include <algorithm>
+#include <bit>
+#include <numeric>
+#include <optional>
+#include <QScopeGuard>
+#include <sqlite3.h>
+#include <tuple>
+
+namespace {
+
+bool jestTekstem(Typ typ) { return typ == Typ::Text || typ == Typ::Char || typ == Typ::Memo; }
+bool jestRzeczywista(Typ typ) { return typ == Typ::Double || typ == Typ::Single; }
+
+QString nazwaKolumny(const KolumnaDef& k) {
+    return QString::fromLatin1(k.nazwa.data(), static_cast<qsizetype>(k.nazwa.size()));
+}
+
+/// YYYY-MM-DD to the day number; the one form in which dates stand in the file. Nothing for any other text.
+std::optional<qint64> dzienZTekstu(std::string_view t) {
+    constexpr std::string_view wzor = "0000-00-00";
+    const auto pasuje = [](char c, char z) { return z == '-' ? c == '-' : c >= '0' && c <= '9'; };
+    if (!std::equal(t.begin(), t.end(), wzor.begin(), wzor.end(), pasuje)) return std::nullopt;
+    const auto cyfra = [&](std::size_t i) { return t[i] - '0'; };
+    const QDate d(cyfra(0) * 1000 + cyfra(1) * 100 + cyfra(2) * 10 + cyfra(3), cyfra(5) * 10 + cyfra(6),
+                  cyfra(8) * 10 + cyfra(9));
+    return d.isValid() ? std::optional(d.toJulianDay()) : std::nullopt;
+}
+
+void tekstDnia(qint64 dzien, char (&bufor)[10]) {
+    int rok = 0, mies = 0, d = 0;
+    QDate::fromJulianDay(dzien).getDate(&rok, &mies, &d);
+    const auto pisz = [&](int od, int ile, int liczba) {
+        for (int i = od + ile - 1; i >= od; --i, liczba /= 10)
+            bufor[i] = static_cast<char>('0' + liczba % 10);
+    };
+    pisz(0, 4, rok);
+    bufor[4] = bufor[7] = '-';
+    pisz(5, 2, mies);
+    pisz(8, 2, d);
+}
+
+QByteArray listaKolumn(const TabelaDef& t) {
+    QByteArray wynik;
+    for (const KolumnaDef& k : t.kolumny) wynik += (wynik.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa);
+    return wynik;
+}
+
+const char* znakOperatora(Kryterium::Operator op) {
+    switch (op) {
+    case Kryterium::Operator::Rowne:
+        return " IS ";
+    case Kryterium::Operator::Rozne:
+        return " IS NOT ";
+    case Kryterium::Operator::NieMniejsze:
+        return " >= ";
+    case Kryterium::Operator::NieWieksze:
+        return " <= ";
+    case Kryterium::Operator::Wieksze:
+        return " > ";
+    case Kryterium::Operator::Mniejsze:
+        return " < ";
+    }
+    return " IS ";
+}
+
+void wiazWartosc(Instrukcja& instrukcja, int nr, const Wartosc& wartosc) {
+    if (const auto* n = std::get_if<qint64>(&wartosc))
+        instrukcja.wiaz(nr, *n);
+    else if (const auto* r = std::get_if<double>(&wartosc))
+        instrukcja.wiaz(nr, *r);
+    else if (const auto* w = std::get_if<Waluta>(&wartosc))
+        instrukcja.wiaz(nr, static_cast<qint64>(w->surowa()));
+    else if (const auto* t = std::get_if<QString>(&wartosc))
+        instrukcja.wiaz(nr, *t);
+    else if (const auto* d = std::get_if<QDate>(&wartosc))
+        instrukcja.wiaz(nr, d->toString(Qt::ISODate));
+    else
+        instrukcja.wiazNull(nr);
+}
+
+/// Rows made, read or freed at a time, so that no vector grows by doubling far past its need.
+constexpr std::size_t kPrzyrost = 4096;
+
+} // namespace
+
+// --- opening
+// -----------------------------------------------------------------------------------------------------
+
+void Recordset::Open(Polaczenie& polaczenie, const QString& nazwa) { Open(polaczenie, nazwa, {}); }
+
+void Recordset::Open(Polaczenie& polaczenie, const QString& nazwa, const Warunek& warunek) {
+    Recordset nowy(*tabela_);
+    nowy.polaczenie_ = &polaczenie;
+    nowy.nazwa_ = nazwa.isEmpty() ? QString::fromLatin1(tabela_->nazwa.data(),
+                                                        static_cast<qsizetype>(tabela_->nazwa.size()))
+                                  : nazwa;
+    nowy.warunekOtwarcia_ = warunek;
+    nowy.sort_ = sort_;
+    nowy.wczytaj();
+    *this = std::move(nowy);
+}
+
+void Recordset::Close() {
+    Recordset pusty(*tabela_);
+    *this = std::move(pusty);
+}
+
+void Recordset::Requery() {
+    const auto sort = sort_;
+    const auto filtr = filtr_;
+    Open(*polaczenie_, nazwa_, Warunek(warunekOtwarcia_));
+    sort_ = sort;
+    filtr_ = filtr;
+    ulozKolejnosc();
+    pozycja_ = 0;
+}
+
+void Recordset::wczytaj() {
+    QByteArray sql = "SELECT rowid, " + listaKolumn(*tabela_) + " FROM " + nazwaSql(nazwa_.toStdString());
+    for (qsizetype i = 0; i < warunekOtwarcia_.size(); ++i)
+        sql += (i == 0 ? " WHERE " : " AND ") + nazwaSql(warunekOtwarcia_[i].kolumna.def().nazwa) +
+               znakOperatora(warunekOtwarcia_[i].op) + "?";
+    teksty_ = {QString()};
+    pula_ = {{QString(), 0}};
+    Instrukcja instrukcja(*polaczenie_, sql.toStdString());
+    for (qsizetype i = 0; i < warunekOtwarcia_.size(); ++i)
+        wiazWartosc(instrukcja, static_cast<int>(i), warunekOtwarcia_[i].wartosc);
+    while (instrukcja.wiersz()) {
+        const int wiersz = nowyWiersz();
+        rowid_.back() = instrukcja.liczba(0);
+        stany_.back() = Stan::Czysty;
+        czytajWiersz(instrukcja, wiersz, 1);
+        indeksuj(wiersz);
+    }
+    ulozKolejnosc();
+    pozycja_ = 0;
+}
+
+void Recordset::czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierwszaKolumna) {
+    const auto uszkodzona = [&](const QString& wartosc, const KolumnaDef& k) {
+        return BladBazy(QStringLiteral("Uszkodzona %1 w kolumnie %2 tabeli %3 (plik „%4”).")
+                            .arg(wartosc, nazwaKolumny(k), nazwa_, polaczenie_->sciezka()));
+    };
+    for (int i = 0; i < szerokosc(); ++i) {
+        const KolumnaDef& k = tabela_->kolumny[static_cast<std::size_t>(i)];
+        const int zrodlo = i + pierwszaKolumna;
+        Komorka& cel = komorka(wiersz, i);
+        const int typ = instrukcja.typ(zrodlo);
+        if (typ == SQLITE_NULL) {
+            cel = kNull;
+        } else if (jestTekstem(k.typ)) {
+            const std::string_view utf8 = instrukcja.utf8(zrodlo);
+            cel = utf8.empty()
+                      ? 0
+                      : tekstNaKomorke(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+        } else if (k.typ == Typ::Date) {
+            const auto dzien = dzienZTekstu(instrukcja.utf8(zrodlo));
+            if (!dzien) throw uszkodzona(QStringLiteral("data"), k);
+            cel = *dzien;
+        } else if (jestRzeczywista(k.typ)) {
+            cel = std::bit_cast<Komorka>(instrukcja.rzeczywista(zrodlo));
+        } else if (typ == SQLITE_INTEGER) {
+            cel = instrukcja.liczba(zrodlo);
+        } else {
+            throw uszkodzona(QStringLiteral("liczba"), k);
+        }
+    }
+}
+
+int Recordset::nowyWiersz() {
+    const auto wiersz = static_cast<int>(rowid_.size());
+    const std::size_t potrzeba = (rowid_.size() + 1) * tabela_->kolumny.size();
+    if (potrzeba > komorki_.capacity())
+        komorki_.reserve(std::max(potrzeba + potrzeba / 4,
+                                  std::min(kPrzyrost, rowid_.size() + 16) * tabela_->kolumny.size()));
+    komorki_.resize(potrzeba, kNull);
+    rowid_.push_back(0);
+    stany_.push_back(Stan::Nowy);
+    return wiersz;
+}
+
+// --- order and position
+// --------------------------------------------------------------------------------------------
+
+int Recordset::porownaj(int a, int b) const {
+    for (const Kolumna& k : sort_) {
+        const Komorka x = komorka(a, k.nr), y = komorka(b, k.nr);
+        if (x == y) continue;
+        if (x == kNull || y == kNull) return x == kNull ? -1 : 1;
+        const Typ typ = k.def().typ;
+        if (jestTekstem(typ)) return puli(x) < puli(y) ? -1 : 1;
+        if (jestRzeczywista(typ)) return std::bit_cast<double>(x) < std::bit_cast<double>(y) ? -1 : 1;
+        return x < y ? -1 : 1;
+    }
+    return 0;
+}
+
+void Recordset::ulozKolejnosc() {
+    kolejnosc_.clear();
+    kolejnosc_.reserve(rowid_.size());
+    for (int w = 0; w < static_cast<int>(rowid_.size()); ++w)
+        if (stany_[static_cast<std::size_t>(w)] != Stan::Usuniety && spelnia(w, filtr_))
+            kolejnosc_.push_back(w);
+    if (!sort_.isEmpty())
+        std::stable_sort(kolejnosc_.begin(), kolejnosc_.end(),
+                         [this](int a, int b) { return porownaj(a, b) < 0; });
+}
+
+void Recordset::wstawDoKolejnosci(int wiersz) {
+    auto miejsce = kolejnosc_.end();
+    if (!sort_.isEmpty() && !kolejnosc_.empty() && porownaj(wiersz, kolejnosc_.back()) < 0)
+        miejsce = std::upper_bound(kolejnosc_.begin(), kolejnosc_.end(), wiersz,
+                                   [this](int a, int b) { return porownaj(a, b) < 0; });
+    pozycja_ = static_cast<int>(miejsce - kolejnosc_.begin());
+    kolejnosc_.insert(miejsce, wiersz);
+}
+
+int Recordset::miejsceWKolejnosci(int wiersz) const {
+    auto od = kolejnosc_.begin(), dokad = kolejnosc_.end();
+    if (!sort_.isEmpty())
+        std::tie(od, dokad) = std::equal_range(kolejnosc_.begin(), kolejnosc_.end(), wiersz,
+                                               [this](int a, int b) { return porownaj(a, b) < 0; });
+    const auto miejsce = std::find(od, dokad, wiersz);
+    return miejsce == dokad ? -1 : static_cast<int>(miejsce - kolejnosc_.begin());
+}
+
+void Recordset::usunZKolejnosci(int wiersz) {
+    if (const int miejsce = miejsceWKolejnosci(wiersz); miejsce >= 0)
+        kolejnosc_.erase(kolejnosc_.begin() + miejsce);
+}
+
+void Recordset::Sort(const QList<Kolumna>& kolumny) {
+    const Zakladka tu = Bookmark();
+    sort_ = kolumny;
+    ulozKolejnosc();
+    Bookmark(tu);
+}
+
+void Recordset::Filter(const Warunek& warunek) {
+    filtr_ = warunek;
+    ulozKolejnosc();
+    pozycja_ = 0;
+}
+
+int Recordset::RecordCount() const { return static_cast<int>(kolejnosc_.size()); }
+
+Zakladka Recordset::Bookmark() const {
+    return BOF_() || EOF_() ? -1 : kolejnosc_[static_cast<std::size_t>(pozycja_)];
+}
+
+void Recordset::Bookmark(Zakladka zakladka) {
+    const int miejsce = zakladka >= 0 ? miejsceWKolejnosci(zakladka) : -1;
+    pozycja_ = miejsce >= 0 ? miejsce : RecordCount();
+}
+
+namespace {
+
+/// -1, 0, 1 of two values of one kind; nothing when they cannot be compared (null, different kinds).
+std::optional<int> porownajWartosci(const Wartosc& a, const Wartosc& b) {
+    const auto znak = [](const auto& x, const auto& y) { return x < y ? -1 : (y < x ? 1 : 0); };
+    if (a.index() != b.index() || a.index() == 0) return std::nullopt;
+    return std::visit(
+        [&](const auto& x) -> std::optional<int> {
+            using T = std::decay_t<decltype(x)>;
+            if constexpr (std::is_same_v<T, std::monostate>)
+                return std::nullopt;
+            else
+                return znak(x, std::get<T>(b));
+        },
+        a);
+}
+
+} // namespace
+
+bool Recordset::spelnia(int wiersz, const Warunek& warunek) const {
+    using Op = Kryterium::Operator;
+    return std::all_of(warunek.begin(), warunek.end(), [&](const Kryterium& k) {
+        const Wartosc moja = wartoscKomorki(wiersz, k.kolumna.nr);
+        if (k.op == Op::Rowne) return moja == k.wartosc;
+        if (k.op == Op::Rozne) return moja != k.wartosc;
+        const auto znak = porownajWartosci(moja, k.wartosc);
+        if (!znak) return false;
+        switch (k.op) {
+        case Op::NieMniejsze:
+            return *znak >= 0;
+        case Op::NieWieksze:
+            return *znak <= 0;
+        case Op::Wieksze:
+            return *znak > 0;
+        default:
+            return *znak < 0;
+        }
+    });
+}
+
+bool Recordset::Find(const Kryterium& kryterium, Skad skad) {
+    if (skad == Skad::Poczatek) pozycja_ = 0;
+    for (pozycja_ = std::max(pozycja_, 0); pozycja_ < RecordCount(); ++pozycja_)
+        if (spelnia(kolejnosc_[static_cast<std::size_t>(pozycja_)], {kryterium})) return true;
+    return false;
+}
+
+bool Recordset::szukajKlucza(KluczWiersza szukany, bool zDrugim) {
+    // The first in order wins where several rows share the key's first column.
+    int najlepszy = -1;
+    const auto [od, dokad] = indeks_.equal_range(szukany.first);
+    for (auto i = od; i != dokad; ++i) {
+        const int w = i->second;
+        if (zDrugim && klucz(w).second != szukany.second) continue;
+        if (!filtr_.isEmpty() && !spelnia(w, filtr_)) continue;
+        const int znak = najlepszy < 0 ? -1 : porownaj(w, najlepszy);
+        if (znak < 0 || (znak == 0 && w < najlepszy)) najlepszy = w;
+    }
+    Bookmark(najlepszy);
+    return najlepszy >= 0;
+}
+
+bool Recordset::Znajdz(qint64 pierwszy) { return szukajKlucza({pierwszy, 0}, false); }
+bool Recordset::Znajdz(qint64 pierwszy, qint64 drugi) { return szukajKlucza({pierwszy, drugi}, true); }
+
+bool Recordset::Znajdz(qint64 pierwszy, const QString& drugi) {
+    const auto miejsce = pula_.constFind(drugi);
+    return miejsce == pula_.constEnd() ? szukajKlucza({kNull, 0}, true)
+                                       : szukajKlucza({pierwszy, *miejsce}, true);
+}
+
+bool Recordset::Znajdz(const QString& pierwszy) {
+    const auto miejsce = pula_.constFind(pierwszy);
+    return szukajKlucza({miejsce == pula_.constEnd() ? kNull : *miejsce, 0}, false);
+}
+
+bool Recordset::Znajdz(const QString& pierwszy, const QString& drugi) {
+    const auto miejsce = pula_.constFind(pierwszy);
+    return Znajdz(static_cast<qint64>(miejsce == pula_.constEnd() ? kNull : *miejsce), drugi);
+}
+
+QList<Zakladka> Recordset::wiersze(qint64 pierwszy) const {
+    QList<Zakladka> wynik;
+    const auto [od, dokad] = indeks_.equal_range(pierwszy);
+    for (auto i = od; i != dokad; ++i) wynik.append(i->second);
+    std::sort(wynik.begin(), wynik.end());
+    return wynik;
+}
+
+Recordset::KluczWiersza Recordset::klucz(int wiersz) const {
+    const auto kolumna = [&](std::size_t i) {
+        return tabela_->klucz.size() > i ? komorka(wiersz, tabela_->numer(tabela_->klucz[i])) : 0;
+    };
+    return {kolumna(0), kolumna(1)};
+}
+
+void Recordset::indeksuj(int wiersz) {
+    if (!tabela_->klucz.empty()) indeks_.emplace(klucz(wiersz).first, wiersz);
+}
+
+void Recordset::odindeksuj(int wiersz) {
+    const auto [od, dokad] = indeks_.equal_range(klucz(wiersz).first);
+    for (auto i = od; i != dokad; ++i)
+        if (i->second == wiersz) {
+            indeks_.erase(i);
+            return;
+        }
+}
+
+// --- the current row
+// -------------------------------------------------------------------------------------------
+
+int Recordset::biezacy() const {
+    if (!naWierszu())
+        throw Blad(QStringLiteral("Tabela %1 nie stoi na żadnym wierszu.")
+                       .arg(nazwa_.isEmpty()
+                                ? QString::fromLatin1(tabela_->nazwa.data(),
+                                                      static_cast<qsizetype>(tabela_->nazwa.size()))
+                                : nazwa_));
+    return kolejnosc_[static_cast<std::size_t>(pozycja_)];
+}
+
+Recordset::Komorka Recordset::komorka(Kolumna k) const {
+    Q_ASSERT(k.tabela == tabela_);
+    return komorka(biezacy(), k.nr);
+}
+
+Waluta Recordset::kwota(Kolumna k) const {
+    const Komorka c = komorka(k);
+    return c == kNull ? Waluta{} : Waluta::zSurowej(c);
+}
+
+qint64 Recordset::liczba(Kolumna k) const {
+    const Komorka c = komorka(k);
+    return c == kNull ? 0 : c;
+}
+
+double Recordset::rzeczywista(Kolumna k) const {
+    const Komorka c = komorka(k);
+    return c == kNull ? 0.0 : std::bit_cast<double>(c);
+}
+
+QString Recordset::tekst(Kolumna k) const {
+    const Komorka c = komorka(k);
+    return c == kNull ? QString() : puli(c);
+}
+
+QDate Recordset::data(Kolumna k) const {
+    const Komorka c = komorka(k);
+    return c == kNull ? QDate() : QDate::fromJulianDay(c);
+}
+
+bool Recordset::flaga(Kolumna k) const {
+    return tekst(k).compare(QLatin1String("T"), Qt::CaseInsensitive) == 0;
+}
+
+Wartosc Recordset::wartosc(Kolumna k) const { return wartoscKomorki(biezacy(), k.nr); }
+
+Wartosc Recordset::wartoscKomorki(int wiersz, int kolumna) const {
+    const Komorka c = komorka(wiersz, kolumna);
+    if (c == kNull) return Null;
+    const Typ typ = tabela_->kolumny[static_cast<std::size_t>(kolumna)].typ;
+    if (jestTekstem(typ)) return puli(c);
+    if (jestRzeczywista(typ)) return std::bit_cast<double>(c);
+    if (typ == Typ::Currency) return Waluta::zSurowej(c);
+    if (typ == Typ::Date) return QDate::fromJulianDay(c);
+    return static_cast<qint64>(c);
+}
+
+Recordset::Komorka Recordset::tekstNaKomorke(const QString& tekst) {
+    const auto miejsce = pula_.constFind(tekst);
+    if (miejsce != pula_.constEnd()) return *miejsce;
+    const auto nowa = static_cast<Komorka>(teksty_.size());
+    teksty_.append(tekst);
+    pula_.insert(tekst, nowa);
+    return nowa;
+}
+
+void Recordset::zaznaczZmiane(int wiersz) {
+    Stan& stan = stany_[static_cast<std::size_t>(wiersz)];
+    if (stan != Stan::Czysty) return;
+    const auto poczatek = komorki_.begin() + static_cast<std::ptrdiff_t>(wiersz) * szerokosc();
+    oryginaly_[wiersz] = std::vector<Komorka>(poczatek, poczatek + szerokosc());
+    stan = Stan::Zmieniony;
+    oczekujace_.push_back(wiersz);
+}
+
+void Recordset::zapisz(Kolumna k, Komorka wartosc) {
+    Q_ASSERT(k.tabela == tabela_);
+    const int wiersz = biezacy();
+    if (komorka(wiersz, k.nr) == wartosc) return;
+    zaznaczZmiane(wiersz);
+    const bool kluczowa = std::any_of(tabela_->klucz.begin(), tabela_->klucz.end(),
+                                      [&](std::string_view n) { return tabela_->numer(n) == k.nr; });
+    const bool sortujaca =
+        std::any_of(sort_.begin(), sort_.end(), [&](const Kolumna& s) { return s.nr == k.nr; });
+    if (kluczowa) odindeksuj(wiersz);
+    if (sortujaca) usunZKolejnosci(wiersz);
+    komorka(wiersz, k.nr) = wartosc;
+    if (kluczowa) indeksuj(wiersz);
+    if (sortujaca) wstawDoKolejnosci(wiersz);
+}
+
+void Recordset::ustaw(Kolumna k, Waluta kwota) {
+    if (kwota.surowa() == kNull)
+        throw Przepelnienie(QStringLiteral("Kwota przekracza zakres liczb programu."));
+    zapisz(k, kwota.surowa());
+}
+
+void Recordset::ustaw(Kolumna k, qint64 liczba) {
+    if (jestRzeczywista(k.def().typ)) return ustaw(k, static_cast<double>(liczba));
+    const auto [min, maks] = zakresTypu(k.def().typ);
+    if (liczba < min || liczba > maks)
+        throw Przepelnienie(
+            QStringLiteral("Liczba %1 nie mieści się w kolumnie %2.").arg(liczba).arg(nazwaKolumny(k.def())));
+    zapisz(k, liczba);
+}
+
+void Recordset::ustaw(Kolumna k, double liczba) { zapisz(k, std::bit_cast<Komorka>(liczba)); }
+
+void Recordset::ustaw(Kolumna k, const QString& tekst) {
+    const int rozmiar = k.def().rozmiar;
+    zapisz(k, tekstNaKomorke(rozmiar > 0 && tekst.size() > rozmiar ? tekst.left(rozmiar) : tekst));
+}
+
+void Recordset::ustaw(Kolumna k, QDate data) { zapisz(k, data.isValid() ? data.toJulianDay() : kNull); }
+void Recordset::ustaw(Kolumna k, std::monostate) { zapisz(k, kNull); }
+
+void Recordset::ustaw(Kolumna k, const Wartosc& wartosc) {
+    std::visit([&](const auto& v) { ustaw(k, v); }, wartosc);
+}
+
+void Recordset::ustawFlage(Kolumna k, bool wlaczona) {
+    ustaw(k, wlaczona ? QStringLiteral("T") : QStringLiteral("N"));
+}
+
+void Recordset::przyjmijNowy(int wiersz) {
+    oczekujace_.push_back(wiersz);
+    indeksuj(wiersz);
+    wstawDoKolejnosci(wiersz);
+}
+
+int Recordset::nowyWierszZer() {
+    const int wiersz = nowyWiersz();
+    for (int i = 0; i < szerokosc(); ++i)
+        if (tabela_->kolumny[static_cast<std::size_t>(i)].typ != Typ::Date) komorka(wiersz, i) = 0;
+    return wiersz;
+}
+
+void Recordset::AddNew() { przyjmijNowy(nowyWiersz()); }
+void Recordset::AddNewZero() { przyjmijNowy(nowyWierszZer()); }
+
+void Recordset::AddNewZero(qint64 pierwszy, const QString& drugi) {
+    const Kolumna kluczowa = tabela_->nr(tabela_->numer(tabela_->klucz[0]));
+    if (const auto [min, maks] = zakresTypu(kluczowa.def().typ); pierwszy < min || pierwszy > maks)
+        throw Przepelnienie(QStringLiteral("Numer %1 nie mieści się w tabeli %2.").arg(pierwszy).arg(nazwa_));
+    const int wiersz = nowyWierszZer();
+    komorka(wiersz, kluczowa.nr) = pierwszy;
+    if (!drugi.isNull()) komorka(wiersz, tabela_->numer(tabela_->klucz[1])) = tekstNaKomorke(drugi);
+    przyjmijNowy(wiersz);
+}
+
+void Recordset::Delete() {
+    const int wiersz = biezacy();
+    const int tu = pozycja_;
+    odindeksuj(wiersz);
+    kolejnosc_.erase(kolejnosc_.begin() + tu);
+    Stan& stan = stany_[static_cast<std::size_t>(wiersz)];
+    if (stan == Stan::Czysty) zaznaczZmiane(wiersz);
+    if (stan == Stan::Nowy) std::erase(oczekujace_, wiersz);
+    stan = Stan::Usuniety;
+}
+
+// --- writing
+// -----------------------------------------------------------------------------------------------------
+
+void Recordset::wiazWiersz(Instrukcja& instrukcja, int wiersz) const {
+    for (int i = 0; i < szerokosc(); ++i) {
+        const Typ typ = tabela_->kolumny[static_cast<std::size_t>(i)].typ;
+        const Komorka c = komorka(wiersz, i);
+        if (c == kNull) {
+            instrukcja.wiazNull(i);
+        } else if (jestTekstem(typ)) {
+            instrukcja.wiaz(i, puli(c));
+        } else if (typ == Typ::Date) {
+            char bufor[10];
+            tekstDnia(c, bufor);
+            instrukcja.wiaz(i, std::string_view(bufor, sizeof bufor));
+        } else if (jestRzeczywista(typ)) {
+            instrukcja.wiaz(i, std::bit_cast<double>(c));
+        } else {
+            instrukcja.wiaz(i, static_cast<qint64>(c));
+        }
+    }
+}
+
+void Recordset::sprawdzKonflikt(int wiersz) {
+    if (!czytaj_)
+        czytaj_ =
+            std::make_unique<Instrukcja>(*polaczenie_, ("SELECT " + listaKolumn(*tabela_) + " FROM " +
+                                                        nazwaSql(nazwa_.toStdString()) + " WHERE rowid=?")
+                                                           .toStdString());
+    // The stored row is read behind the last one for the time of the comparison. Even a row that can no
+    // longer be read must leave neither an extra row nor an open statement behind.
+    const int obraz = nowyWiersz();
+    const auto sprzatanie = qScopeGuard([this] {
+        czytaj_->od_nowa();
+        komorki_.resize(komorki_.size() - tabela_->kolumny.size());
+        rowid_.pop_back();
+        stany_.pop_back();
+    });
+    const std::vector<Komorka>& oryginal = oryginaly_.at(wiersz);
+    czytaj_->wiaz(0, rowid_[static_cast<std::size_t>(wiersz)]);
+    bool zgodny = czytaj_->wiersz();
+    if (zgodny) {
+        czytajWiersz(*czytaj_, obraz, 0);
+        zgodny = std::equal(oryginal.begin(), oryginal.end(),
+                            komorki_.begin() + static_cast<std::ptrdiff_t>(obraz) * szerokosc());
+    }
+    if (!zgodny)
+        throw Konflikt(
+            QStringLiteral("Wiersz tabeli %1 został tymczasem zmieniony w bazie. Zmiany nie zapisano.")
+                .arg(nazwa_));
+}
+
+void Recordset::zapiszWiersz(int wiersz) {
+    const auto w = static_cast<std::size_t>(wiersz);
+    const QByteArray tabela = nazwaSql(nazwa_.toStdString());
+    if (stany_[w] == Stan::Nowy) {
+        if (!wstaw_) {
+            QByteArray znaki("?");
+            for (int i = 1; i < szerokosc(); ++i) znaki += ",?";
+            wstaw_ = std::make_unique<Instrukcja>(
+                *polaczenie_,
+                ("INSERT INTO " + tabela + " (" + listaKolumn(*tabela_) + ") VALUES (" + znaki + ")")
+                    .toStdString());
+        }
+        wiazWiersz(*wstaw_, wiersz);
+        wstaw_->wykonaj();
+        rowid_[w] = polaczenie_->ostatniWiersz();
+        return;
+    }
+    sprawdzKonflikt(wiersz);
+    if (stany_[w] == Stan::Usuniety) {
+        if (!usun_)
+            usun_ = std::make_unique<Instrukcja>(*polaczenie_,
+                                                 ("DELETE FROM " + tabela + " WHERE rowid=?").toStdString());
+        usun_->wiaz(0, rowid_[w]).wykonaj();
+        return;
+    }
+    if (!zmien_) {
+        QByteArray pola;
+        for (const KolumnaDef& k : tabela_->kolumny)
+            pola += (pola.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa) + "=?";
+        zmien_ = std::make_unique<Instrukcja>(
+            *polaczenie_, ("UPDATE " + tabela + " SET " + pola + " WHERE rowid=?").toStdString());
+    }
+    wiazWiersz(*zmien_, wiersz);
+    zmien_->wiaz(szerokosc(), rowid_[w]).wykonaj();
+}
+
+void Recordset::UpdateBatch() {
+    if (oczekujace_.empty()) return;
+    Transakcja transakcja(*polaczenie_);
+    for (const int wiersz : oczekujace_) zapiszWiersz(wiersz);
+    transakcja.zatwierdz();
+    for (const int wiersz : oczekujace_)
+        if (Stan& stan = stany_[static_cast<std::size_t>(wiersz)]; stan != Stan::Usuniety)
+            stan = Stan::Czysty;
+    oczekujace_.clear();
+    oryginaly_.clear();
+}
+
+void Recordset::CancelBatch() {
+    if (oczekujace_.empty()) return;
+    const Zakladka tu = Bookmark();
+    for (const int wiersz : oczekujace_) {
+        Stan& stan = stany_[static_cast<std::size_t>(wiersz)];
+        if (stan != Stan::Usuniety) {
+            odindeksuj(wiersz);
+            usunZKolejnosci(wiersz);
+        }
+        if (stan == Stan::Nowy) {
+            stan = Stan::Usuniety;
+            continue;
+        }
+        const std::vector<Komorka>& oryginal = oryginaly_.at(wiersz);
+        std::copy(oryginal.begin(), oryginal.end(),
+                  komorki_.begin() + static_cast<std::ptrdiff_t>(wiersz) * szerokosc());
+        stan = Stan::Czysty;
+        indeksuj(wiersz);
+        if (spelnia(wiersz, filtr_)) wstawDoKolejnosci(wiersz);
+    }
+    oczekujace_.clear();
+    oryginaly_.clear();
+    Bookmark(tu);
+}

@@ -1,0 +1,195 @@
+// A table handle: an in-memory snapshot with a current row, edited in memory and written back as a batch.
+#pragma once
+#include "store/Polaczenie.h"
+#include "store/Tabela.h"
+#include "store/Wartosc.h"
+#include <functional>
+#include <limits>
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <unordered_map>
+#include <vector>
+
+/// One typed comparison of a column; several stand for "and". A quote in a text is just a letter.
+struct Kryterium {
+    enum class Operator { Rowne, Rozne, NieMniejsze, NieWieksze, Wieksze, Mniejsze };
+    Kolumna kolumna;
+    Operator op = Operator::Rowne;
+    Wartosc wartosc;
+};
+using Warunek = QList<Kryterium>;
+
+/// Stands for a row over all sorting, filtering and editing; -1 is no row.
+using Zakladka = int;
+
+/// From where `Find` searches.
+enum class Skad { Poczatek, Biezacy };
+
+class Recordset {
+public:
+    explicit Recordset(const TabelaDef& tabela) : tabela_(&tabela) {}
+    Recordset(const Recordset&) = delete;
+    Recordset& operator=(const Recordset&) = delete;
+    Recordset(Recordset&&) = default;
+    Recordset& operator=(Recordset&&) = default;
+
+    // --- opening
+    // ---------------------------------------------------------------------------------------------
+
+    /// Reads the whole table (`SELECT * FROM nazwa`); `nazwa` is that of a month table, or empty for the
+    /// table's own. Throws `BladBazy`; an open handle then stays as it was.
+    void Open(Polaczenie& polaczenie, const QString& nazwa = {});
+    /// Reads only the rows that meet `warunek`, through the file's indexes.
+    void Open(Polaczenie& polaczenie, const QString& nazwa, const Warunek& warunek);
+    void Close();
+    [[nodiscard]] bool otwarty() const { return polaczenie_ != nullptr; }
+    /// Reads the rows again with the same condition, sort and filter; unsaved changes are dropped.
+    void Requery();
+    /// The name of the table that is open, as PLA200107.
+    [[nodiscard]] const QString& nazwa() const { return nazwa_; }
+    [[nodiscard]] const TabelaDef& tabela() const { return *tabela_; }
+
+    // --- order and position
+    // ------------------------------------------------------------------------------------
+
+    /// Sorts by columns, ascending; the position stays on its row.
+    void Sort(const QList<Kolumna>& kolumny);
+    /// Shows only the rows that meet `warunek`; moves to the first of them. An empty condition takes it off.
+    void Filter(const Warunek& warunek);
+    [[nodiscard]] int RecordCount() const;
+    void MoveFirst() { pozycja_ = 0; }
+    void MoveNext() { ++pozycja_; }
+    [[nodiscard]] bool EOF_() const { return pozycja_ >= RecordCount(); }
+    [[nodiscard]] bool BOF_() const { return pozycja_ < 0; }
+    /// Whether the handle stands on a row.
+    [[nodiscard]] bool naWierszu() const { return otwarty() && !BOF_() && !EOF_(); }
+    [[nodiscard]] Zakladka Bookmark() const;
+    void Bookmark(Zakladka zakladka);
+    /// Forward search by one criterion. Past the last row and false when nothing is found.
+    bool Find(const Kryterium& kryterium, Skad skad = Skad::Poczatek);
+    /// Search by the key (`PRC_ID`, or `PRC_ID` and `LISTA`) through the index; past the last row and false
+    /// when nothing is found. It sees only rows that pass the filter.
+    bool Znajdz(qint64 klucz);
+    bool Znajdz(qint64 klucz, const QString& drugi);
+    bool Znajdz(qint64 klucz, qint64 drugi);
+    bool Znajdz(const QString& klucz); ///< for tables whose key is text
+    bool Znajdz(const QString& klucz, const QString& drugi);
+    /// All rows with this first key column, in reading order, whatever the filter.
+    [[nodiscard]] QList<Zakladka> wiersze(qint64 klucz) const;
+
+    // --- the current row
+    // ---------------------------------------------------------------------------------------
+
+    [[nodiscard]] bool jestNull(Kolumna k) const { return komorka(k) == kNull; }
+    [[nodiscard]] Waluta kwota(Kolumna k) const;       ///< null is 0
+    [[nodiscard]] qint64 liczba(Kolumna k) const;      ///< null is 0
+    [[nodiscard]] double rzeczywista(Kolumna k) const; ///< null is 0
+    [[nodiscard]] QString tekst(Kolumna k) const;      ///< null is the empty text
+    [[nodiscard]] QDate data(Kolumna k) const;         ///< null is an invalid date
+    [[nodiscard]] bool flaga(Kolumna k) const;         ///< the text is "T", whatever its case
+    [[nodiscard]] Wartosc wartosc(Kolumna k) const;
+
+    /// Sets a value in memory. A text longer than the column is cut to it; a number that the column's type
+    /// cannot hold throws `Przepelnienie`.
+    void ustaw(Kolumna k, Waluta kwota);
+    void ustaw(Kolumna k, qint64 liczba);
+    void ustaw(Kolumna k, int liczba) { ustaw(k, static_cast<qint64>(liczba)); }
+    void ustaw(Kolumna k, double liczba);
+    void ustaw(Kolumna k, const QString& tekst);
+    void ustaw(Kolumna k, QDate data); ///< an invalid date stores null
+    void ustaw(Kolumna k, std::monostate);
+    void ustaw(Kolumna k, const Wartosc& wartosc);
+    void ustawFlage(Kolumna k, bool wlaczona);
+    void ustaw(Kolumna k, bool) = delete;
+
+    /// A new row with null in every column, current from now on.
+    void AddNew();
+    /// A new row with numbers 0, texts empty, dates null; current from now on.
+    void AddNewZero();
+    /// The same with its key (`PRC_ID`, or `PRC_ID` and `LISTA`) already set.
+    void AddNewZero(qint64 klucz, const QString& drugi = {});
+    /// Takes the current row away; the position moves to the next one.
+    void Delete();
+
+    // --- writing
+    // -----------------------------------------------------------------------------------------------
+
+    /// Writes the changed, new and deleted rows, in a transaction (its own, or the one that is open). Throws
+    /// `Konflikt` if a stored row is no longer the one that was read, `BladBazy` for any other failure; the
+    /// changes then stay pending in memory.
+    void UpdateBatch();
+    /// Drops all pending changes in memory.
+    void CancelBatch();
+    [[nodiscard]] bool zmieniony() const { return !oczekujace_.empty(); }
+    /// Whether the current row is new or changed and not yet written.
+    [[nodiscard]] bool wierszZmieniony() const {
+        return stany_[static_cast<std::size_t>(biezacy())] != Stan::Czysty;
+    }
+
+private:
+    // Every cell is one 64-bit word: money, numbers and day numbers as they are, doubles by their bits, texts
+    // by their place in the pool. So 50,000 employees fit in tens of megabytes.
+    using Komorka = std::int64_t;
+    static constexpr Komorka kNull = std::numeric_limits<Komorka>::min();
+    enum class Stan : std::uint8_t { Czysty, Nowy, Zmieniony, Usuniety };
+    using KluczWiersza = std::pair<Komorka, Komorka>;
+    struct Skrot {
+        std::size_t operator()(const KluczWiersza& k) const {
+            return std::hash<Komorka>{}(k.first * 0x9E3779B97F4A7C15LL ^ k.second);
+        }
+    };
+
+    [[nodiscard]] int szerokosc() const { return static_cast<int>(tabela_->kolumny.size()); }
+    [[nodiscard]] int biezacy() const; ///< row index; throws without a current row
+    [[nodiscard]] Komorka& komorka(int wiersz, int kolumna) {
+        return komorki_[static_cast<std::size_t>(wiersz) * tabela_->kolumny.size() +
+                        static_cast<std::size_t>(kolumna)];
+    }
+    [[nodiscard]] Komorka komorka(int wiersz, int kolumna) const {
+        return komorki_[static_cast<std::size_t>(wiersz) * tabela_->kolumny.size() +
+                        static_cast<std::size_t>(kolumna)];
+    }
+    [[nodiscard]] Komorka komorka(Kolumna k) const;
+    void zapisz(Kolumna k, Komorka wartosc);
+    [[nodiscard]] Komorka tekstNaKomorke(const QString& tekst);
+    [[nodiscard]] const QString& puli(Komorka k) const { return teksty_[static_cast<std::size_t>(k)]; }
+    [[nodiscard]] Wartosc wartoscKomorki(int wiersz, int kolumna) const;
+    [[nodiscard]] KluczWiersza klucz(int wiersz) const;
+    [[nodiscard]] bool szukajKlucza(KluczWiersza klucz, bool zDrugim);
+    [[nodiscard]] bool spelnia(int wiersz, const Warunek& warunek) const;
+    [[nodiscard]] int porownaj(int a, int b) const;
+    void czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierwszaKolumna);
+    void wczytaj();
+    void ulozKolejnosc();
+    void wstawDoKolejnosci(int wiersz);
+    void usunZKolejnosci(int wiersz);
+    [[nodiscard]] int miejsceWKolejnosci(int wiersz) const; ///< -1 if the row is not shown
+    void indeksuj(int wiersz);
+    void odindeksuj(int wiersz);
+    void zaznaczZmiane(int wiersz);
+    void wiazWiersz(Instrukcja& instrukcja, int wiersz) const;
+    void sprawdzKonflikt(int wiersz);
+    void zapiszWiersz(int wiersz);
+    int nowyWiersz();
+    int nowyWierszZer();
+    void przyjmijNowy(int wiersz);
+
+    const TabelaDef* tabela_;
+    Polaczenie* polaczenie_ = nullptr;
+    QString nazwa_;
+    Warunek warunekOtwarcia_;
+    std::vector<Komorka> komorki_;
+    std::vector<qint64> rowid_;
+    std::vector<Stan> stany_;
+    QList<QString> teksty_;
+    QHash<QString, Komorka> pula_;
+    std::vector<int> kolejnosc_; // rows in sort order that pass the filter
+    QList<Kolumna> sort_;
+    Warunek filtr_;
+    int pozycja_ = 0;
+    std::unordered_multimap<Komorka, int> indeks_;            // first key column -> row
+    std::unordered_map<int, std::vector<Komorka>> oryginaly_; // rows as they were read
+    std::vector<int> oczekujace_; // rows with pending changes, in order of the first change
+    std::unique_ptr<Instrukcja> wstaw_, zmien_, czytaj_, usun_;
+};
