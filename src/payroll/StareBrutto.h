@@ -1,0 +1,27 @@
+// What an employee earned in the year before the open month, read through the file's indexes.
+#pragma once
+#include "common/Waluta.h"
+#include <memory>
+
+class Instrukcja;
+class Sesja;
+
+/// Look-ups for one open month. The statements are prepared once and serve every employee of the list.
+class StareBrutto {
+public:
+    /// For the month open in `sesja`. Reads `PLACE` (its position is kept).
+    explicit StareBrutto(Sesja& sesja);
+    ~StareBrutto();
+
+    /// `BRUTTO` in zł of all rows of the employee, on every list, in the months of the year before the open
+    /// one. Reads the tables `PLA` of those months.
+    [[nodiscard]] Waluta zListPlac(qint64 prcId);
+    /// Brutto in zł of the employee's contracts paid from 1 January to the last day of the open month. Reads
+    /// `UZL`, `UOD`, `HON`.
+    [[nodiscard]] Waluta zUmow(qint64 prcId);
+
+private:
+    Sesja& sesja_;
+    std::unique_ptr<Instrukcja> listy_; // none when the year has no earlier month
+    std::unique_ptr<Instrukcja> umowy_;
+};
