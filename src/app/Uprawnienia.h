@@ -1,0 +1,25 @@
+// Which entries of the main window are open to the user at work, by his type and by the program constants.
+#pragma once
+#include "app/Menu.h"
+
+struct Stale;
+struct Uzytkownik;
+
+/// Whether the user's type gives the right: type 0 gives every right, otherwise bit 1 gives "Kadry", bit 2
+/// "Płace".
+[[nodiscard]] bool maPrawo(Prawo prawo, const Uzytkownik& uzytkownik);
+
+/// Whether the entry, and its button on the toolbar, is open: the user has its right, and every program
+/// constant that switches it is on:
+/// - 67 `AktRejPrzepDni`: the menu "Dni wolne". The calendars are there to count the days worked; the
+///   registers of absences stay open, since sick pay and vacation pay are priced from them in any case.
+/// - 90 `AktywneUmowyZlecenia`: "Umowy zlecenia".
+/// - 91 `AktywneUmowyODzielo`: "Umowy o dzieło".
+/// - 92 `AktywneHonoraria`: "Honoraria".
+/// - 201 `OsobHarPrac`: "Dni wolne pracownika" and "Transport do pracownika".
+/// - 250 `AktRejNadg`: "Nadgodziny".
+[[nodiscard]] bool dozwolone(Wejscie wejscie, const Uzytkownik& uzytkownik, const Stale& stale);
+
+/// Whether the menu with the caption `menu` is open: the user has the right to one of its entries at least,
+/// whether or not the constants have it switched on.
+[[nodiscard]] bool dozwoloneMenu(QStringView menu, const Uzytkownik& uzytkownik);
