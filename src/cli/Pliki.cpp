@@ -1,0 +1,46 @@
+#include "cli/Pliki.h"
+#include "common/Blad.h"
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStringConverter>
+
+namespace {
+
+QString przyczynaOdczytu(const QFileInfo& plik) {
+    if (plik.isDir()) return QStringLiteral("to jest katalog");
+    return plik.exists() ? QStringLiteral("brak uprawnień albo błąd odczytu")
+                         : QStringLiteral("nie ma takiego pliku");
+}
+
+QString przyczynaZapisu(const QFileInfo& plik) {
+    if (plik.isDir()) return QStringLiteral("to jest katalog");
+    return plik.dir().exists() ? QStringLiteral("brak uprawnień albo miejsca na dysku")
+                               : QStringLiteral("nie ma takiego katalogu");
+}
+
+} // namespace
+
+QByteArray CzytajPlik(const QString& sciezka) {
+    QFile plik(sciezka);
+    if (!QFileInfo(sciezka).isDir() && plik.open(QIODevice::ReadOnly)) {
+        QByteArray tresc = plik.readAll();
+        if (plik.error() == QFileDevice::NoError) return tresc;
+    }
+    throw Blad(QStringLiteral("Nie można odczytać pliku „%1”: %2.")
+                   .arg(sciezka, przyczynaOdczytu(QFileInfo(sciezka))));
+}
+
+QString CzytajTekst(const QString& sciezka) {
+    QStringDecoder dekoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString tekst = dekoder.decode(CzytajPlik(sciezka));
+    if (dekoder.hasError()) throw Blad(QStringLiteral("Plik „%1” nie jest zapisany w UTF-8.").arg(sciezka));
+    return tekst;
+}
+
+void ZapiszPlik(const QString& sciezka, const QByteArray& tresc) {
+    QSaveFile plik(sciezka);
+    if (!plik.open(QIODevice::WriteOnly) || plik.write(tresc) != tresc.size() || !plik.commit())
+        throw Blad(QStringLiteral("Nie można zapisać pliku „%1”: %2.")
+                       .arg(sciezka, przyczynaZapisu(QFileInfo(sciezka))));
+}

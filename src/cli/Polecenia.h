@@ -1,0 +1,32 @@
+// The commands of the console as a table: name, what follows it, what it does.
+#pragma once
+#include "cli/Wywolanie.h"
+#include <QList>
+#include <QStringView>
+
+/// An option of the command line, without its hyphens; `wartosc` is empty for a switch.
+struct OpcjaPolecenia {
+    QStringView nazwa;
+    QStringView wartosc;
+};
+
+struct Polecenie {
+    QStringView nazwa;     ///< one or two words
+    QStringView argumenty; ///< as the help shows them
+    QStringView opis;      ///< one line of help
+    int najmniej = 0;      ///< positional arguments behind the name
+    int najwiecej = 0;
+    QList<OpcjaPolecenia> opcje; ///< besides those that every command takes
+    /// The work; gives the status. Throws `ZleUzycie`, `Blad`, `Przerwanie`.
+    int (*wykonaj)(Wywolanie& w) = nullptr;
+};
+
+/// As many positional arguments as wanted.
+inline constexpr int kDowolnieWiele = 1'000'000;
+
+[[nodiscard]] QList<Polecenie> poleceniaBazy();
+[[nodiscard]] QList<Polecenie> poleceniaRegul();
+[[nodiscard]] QList<Polecenie> poleceniaKadr();
+[[nodiscard]] QList<Polecenie> poleceniaTabel();
+[[nodiscard]] QList<Polecenie> poleceniaMiesiecy();
+[[nodiscard]] QList<Polecenie> poleceniaListy();

@@ -1,0 +1,74 @@
+#include "cli/Wywolanie.h"
+#include "common/Daty.h"
+#include "common/Liczby.h"
+#include "personnel/Pracownicy.h"
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRegularExpression>
+
+QString Argumenty::wartosc(const QString& opcja) const {
+    const QStringList wartosci = opcje.value(opcja);
+    return wartosci.isEmpty() ? QString() : wartosci.last();
+}
+
+Wywolanie::Wywolanie(Argumenty podane, QString folder, Rozmowa& strona)
+    : argumenty(std::move(podane)), folderProgramu(std::move(folder)), rozmowa(strona) {}
+
+Otoczenie& Wywolanie::otoczenie() {
+    if (!program_) {
+        const QString baza = QStringLiteral("baza");
+        program_ = std::make_unique<Program>(argumenty.ma(baza) ? argumenty.wartosc(baza)
+                                                                : ZnajdzBaze(folderProgramu, rozmowa),
+                                             folderProgramu, rozmowa);
+    }
+    return program_->otoczenie();
+}
+
+void Wywolanie::pisz(const QString& linia) { wyjscie_ += linia.toUtf8() + '\n'; }
+
+void Wywolanie::pisz(const QJsonValue& wartosc) {
+    const QJsonDocument dokument =
+        wartosc.isArray() ? QJsonDocument(wartosc.toArray()) : QJsonDocument(wartosc.toObject());
+    wyjscie_ += dokument.toJson(QJsonDocument::Compact) + '\n';
+}
+
+void Wywolanie::piszTabele(const QList<QStringList>& wiersze, const QList<bool>& doPrawej) {
+    QList<qsizetype> szerokosci(doPrawej.size(), 0);
+    for (const QStringList& wiersz : wiersze)
+        for (qsizetype i = 0; i < wiersz.size(); ++i)
+            szerokosci[i] = std::max(szerokosci[i], wiersz[i].size());
+    for (const QStringList& wiersz : wiersze) {
+        QString linia;
+        for (qsizetype i = 0; i < wiersz.size(); ++i) {
+            if (i > 0) linia += QStringLiteral("  ");
+            linia += doPrawej[i] ? wiersz[i].rightJustified(szerokosci[i])
+                                 : wiersz[i].leftJustified(szerokosci[i]);
+        }
+        while (linia.endsWith(QLatin1Char(' '))) linia.chop(1);
+        pisz(linia);
+    }
+}
+
+RokMies miesiacZTekstu(const QString& tekst) {
+    static const QRegularExpression wzor(QStringLiteral("^([0-9]{4})-(0[1-9]|1[0-2])$"));
+    const QRegularExpressionMatch czesci = wzor.match(tekst);
+    if (!czesci.hasMatch())
+        throw ZleUzycie(QStringLiteral("\"%1\" nie jest miesiącem zapisanym jako RRRR-MM.").arg(tekst));
+    return {czesci.captured(1).toInt(), czesci.captured(2).toInt()};
+}
+
+int liczbaZTekstu(const QString& tekst, int min, int max, const QString& nazwa) {
+    const auto liczba = CzytajLiczbe(tekst, min, max);
+    if (!liczba)
+        throw ZleUzycie(QStringLiteral("%1: \"%2\" nie jest liczbą od %3 do %4.")
+                            .arg(nazwa, tekst, QString::number(min), QString::number(max)));
+    return static_cast<int>(*liczba);
+}
+
+qint64 numerPracownikaZTekstu(const QString& tekst) {
+    return liczbaZTekstu(tekst, 1, static_cast<int>(kNajwyzszyNumer), QStringLiteral("Numer pracownika"));
+}
+
+QString tekstMiesiaca(RokMies miesiac) {
+    return FormatRoku(miesiac.rok) + QLatin1Char('-') + FormatMiesiaca(miesiac.mies);
+}

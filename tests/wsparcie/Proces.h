@@ -1,0 +1,47 @@
+// A forked child of the test: a second program, or one that is killed in the middle of its work.
+#pragma once
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+class Proces {
+public:
+    /// Runs `praca` in a child that ends with its result. Expectations that fail in the child are printed and
+    /// give 97; an exception that leaves `praca` gives 98.
+    explicit Proces(const std::function<int()>& praca) : pid_(fork()) {
+        if (pid_ != 0) return;
+        int kod = 98;
+        try {
+            kod = praca();
+            if (testing::Test::HasFailure()) kod = 97;
+        } catch (const std::exception& wyjatek) {
+            std::fprintf(stderr, "the child: %s\n", wyjatek.what());
+        }
+        std::fflush(nullptr);
+        _exit(kod);
+    }
+    ~Proces() { zabij(); }
+    Proces(const Proces&) = delete;
+    Proces& operator=(const Proces&) = delete;
+
+    /// SIGKILL; whether the child was alive until then.
+    bool zabij() {
+        if (pid_ <= 0) return false;
+        kill(pid_, SIGKILL);
+        return wynik() == -SIGKILL;
+    }
+    /// Waits for the end: the exit code, or minus the number of the signal that ended it.
+    [[nodiscard]] int wynik() {
+        int stan = 0;
+        if (pid_ <= 0 || waitpid(pid_, &stan, 0) != pid_) return -1;
+        pid_ = 0;
+        return WIFSIGNALED(stan) ? -WTERMSIG(stan) : WEXITSTATUS(stan);
+    }
+
+private:
+    pid_t pid_;
+};
