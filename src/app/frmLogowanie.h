@@ -1,0 +1,22 @@
+// The login: name and password, handed over as typed.
+#pragma once
+#include <QDialog>
+
+class PoleTekstu;
+
+/// Accepted: somebody wants in, and the caller checks who. Rejected: no login.
+class frmLogowanie : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmLogowanie(QWidget* rodzic = nullptr);
+
+    [[nodiscard]] QString nazwa() const;
+    [[nodiscard]] QString haslo() const;
+
+protected:
+    bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
+
+private:
+    PoleTekstu* txtUser_;
+    PoleTekstu* txtPass_;
+};

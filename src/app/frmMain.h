@@ -1,0 +1,76 @@
+// The main window: menu, toolbar, the firm's title panel, a calm start page, and the exit question.
+#pragma once
+#include "app/Menu.h"
+#include "rules/Otoczenie.h"
+#include <functional>
+#include <map>
+#include <QMainWindow>
+#include <vector>
+
+class QAction;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QToolButton;
+
+class frmMain : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit frmMain(Otoczenie& otoczenie);
+
+    /// Names what opens an entry; the function returns when its screen is closed. An entry without one is
+    /// closed to everybody. `Koniec` and `OProgramie` are the window's own.
+    void rejestruj(Wejscie wejscie, std::function<void()> otwarcie);
+    /// What happens once all entries are registered: rights, title, and the warning about a removed password
+    /// (constant 998). Reads `KON`.
+    void wczytaj();
+
+    /// Opens and closes the entries by the user's rights, the constants and the registered screens; to be run
+    /// again after either changed.
+    void UstawDostepnoscMenu();
+    void UstawUprawnienia() { UstawDostepnoscMenu(); }
+    /// Shows the firm's name and address: constants 300, 301, 304, 303.
+    void RefreshTitle();
+    /// Shows user, database and open month, and what to do next while there are no employees.
+    void odswiezStan();
+
+    /// Ends the program without the exit question, as the archive does.
+    void zamknijBezPytania();
+    [[nodiscard]] QAction* akcja(Wejscie wejscie) const { return akcje_.at(wejscie); }
+
+protected:
+    void closeEvent(QCloseEvent* zdarzenie) override;
+
+private:
+    struct PrzyciskPaska {
+        QToolButton* przycisk;
+        QAction* akcja;
+        QMenu* lista; ///< null for a plain button
+    };
+
+    void budujMenu();
+    void budujPasek();
+    void dodajNaPasek(const PozycjaMenu& pozycja);
+    void budujStan();
+    [[nodiscard]] QWidget* panelTytulu();
+    [[nodiscard]] QWidget* stronaStartowa();
+    void ulozKafle();
+    void otworz(Wejscie wejscie);
+    [[nodiscard]] bool pozegnaj();
+
+    Otoczenie& o_;
+    std::map<Wejscie, std::function<void()>> ekrany_;
+    std::map<Wejscie, QAction*> akcje_;
+    std::map<QString, QMenu*> menu_;
+    std::vector<PrzyciskPaska> pasek_;
+    std::vector<std::pair<Wejscie, QPushButton*>> skroty_;
+    QLabel* labTitle_[4] = {};
+    QGroupBox* ramkaPodpowiedzi_ = nullptr;
+    QGridLayout* kafle_ = nullptr;
+    QLabel* labUzytkownik_ = nullptr;
+    QLabel* labBaza_ = nullptr;
+    QLabel* labMiesiac_ = nullptr;
+    bool bezPytania_ = false;
+};

@@ -1,0 +1,29 @@
+// The outermost handler of the window program: a failure in any action is shown and undone, and the clerk
+// goes on.
+#pragma once
+#include <functional>
+#include <QApplication>
+
+class Aplikacja : public QApplication {
+    Q_OBJECT
+
+public:
+    Aplikacja(int& argc, char** argv);
+
+    /// What a failed action does before screens are told: show `komunikat` and read the session's handles
+    /// again. It may throw; then the session itself is lost and the program ends.
+    using Naprawa = std::function<void(const QString& komunikat)>;
+    void ustawNaprawe(Naprawa naprawa) { naprawa_ = std::move(naprawa); }
+
+    bool notify(QObject* odbiorca, QEvent* zdarzenie) override;
+
+signals:
+    /// The handles were read anew: screens show their current row again.
+    void danePrzeczytane();
+
+private:
+    void napraw(const QString& komunikat);
+
+    Naprawa naprawa_;
+    bool wNaprawie_ = false;
+};

@@ -1,0 +1,52 @@
+// A field of a screen as a row of a table: its control, caption, column and kind, and what each kind does
+// with text and value.
+#pragma once
+#include "store/Tabela.h"
+#include "store/Wartosc.h"
+#include <QList>
+#include <QString>
+
+enum class Rodzaj {
+    Tekst,   ///< one line, as long as the column at most
+    Notatka, ///< several lines
+    Kwota,   ///< money or percent: "0,00", comma or dot read, a non-number becomes 0
+    Liczba,  ///< whole number within the column's type; anything else becomes 0
+    Data,    ///< dd-mm-yyyy; empty is null, a text that is no date becomes empty
+    Flaga,   ///< "T" or "N", a check box
+    Wybor,   ///< one of `Pole::pozycje`
+};
+
+/// Whether a field is typed into or only shows what was computed.
+enum class Dostep { Edycja, Odczyt };
+
+/// One choice: what is stored and what is shown.
+struct Pozycja {
+    Wartosc wartosc;
+    QString opis;
+};
+
+struct Pole {
+    QString nazwa; ///< objectName of the control
+    /// Caption, mnemonic included. A field without one stands to the right of the field before it, under the
+    /// same caption.
+    QString podpis;
+    Kolumna kolumna; ///< empty for a source other than table rows
+    Rodzaj rodzaj = Rodzaj::Tekst;
+    Dostep dostep = Dostep::Edycja;
+    QList<Pozycja> pozycje = {}; ///< of `Wybor`
+    int klucz = 0;               ///< by which a source other than table rows finds the value
+    int rozmiar = 0;             ///< longest text, where no column tells it; 0 sets no bound
+    QString opis = {};           ///< accessible name and tool tip, where the caption does not tell enough
+};
+
+/// The longest text the field takes, 0 for no bound.
+[[nodiscard]] int najdluzszy(const Pole& pole);
+/// The value as the field shows it. Null is an empty date or text, "0,00", "0" or "N".
+[[nodiscard]] QString tekstWartosci(const Pole& pole, const Wartosc& wartosc);
+/// What becomes of a typed text when the field is left.
+[[nodiscard]] QString uporzadkuj(const Pole& pole, const QString& wpisany);
+/// The value to store for a text that `uporzadkuj` gave: `Waluta`, whole number, date or null, text; for
+/// `Wybor` the chosen one's stored value, null for a text that is none of the choices.
+[[nodiscard]] Wartosc wartoscTekstu(const Pole& pole, const QString& tekst);
+/// Caption without mnemonic and colon, as a screen reader says it.
+[[nodiscard]] QString nazwaDostepna(const QString& podpis);

@@ -1,0 +1,82 @@
+#include "okna/PoleTekstu.h"
+#include "common/Daty.h"
+#include <algorithm>
+#include <QFocusEvent>
+#include <utility>
+
+namespace {
+
+constexpr int kDlugoscDaty = 10;
+
+/// The typed text with dashes: "01072001" is cut behind day and month, "1/7" becomes "01-7".
+QString zKreskami(const QString& wpisany) {
+    QString wynik;
+    int wCzesci = 0;
+    int czesci = 1;
+    for (const QChar znak : wpisany) {
+        const bool cyfra = znak >= QLatin1Char('0') && znak <= QLatin1Char('9');
+        const bool kolejna = czesci < 3 && wCzesci > 0;
+        if (kolejna && (!cyfra || wCzesci == 2)) {
+            if (wCzesci == 1) wynik.insert(wynik.size() - 1, QLatin1Char('0'));
+            wynik += QLatin1Char('-');
+            wCzesci = 0;
+            ++czesci;
+        }
+        if (!cyfra) continue;
+        wynik += znak;
+        ++wCzesci;
+    }
+    if (czesci < 3 && wCzesci == 2) wynik += QLatin1Char('-');
+    return wynik.left(kDlugoscDaty);
+}
+
+} // namespace
+
+void ZaznaczTekst(QLineEdit& pole) {
+    const auto dlugosc = static_cast<int>(pole.text().size());
+    pole.setSelection(dlugosc, -dlugosc);
+}
+
+void ZaznaczDate(QLineEdit& pole) {
+    const int dlugosc = std::min(kDlugoscDaty, static_cast<int>(pole.text().size()));
+    pole.setSelection(dlugosc, -dlugosc);
+}
+
+void PoleTekstu::focusInEvent(QFocusEvent* zdarzenie) {
+    QLineEdit::focusInEvent(zdarzenie);
+    if (std::exchange(czekaNaPowrot_, false)) return;
+    wejscieMysza_ = zdarzenie->reason() == Qt::MouseFocusReason;
+    zaznacz();
+}
+
+void PoleTekstu::focusOutEvent(QFocusEvent* zdarzenie) {
+    const auto powod = zdarzenie->reason();
+    czekaNaPowrot_ = powod == Qt::ActiveWindowFocusReason || powod == Qt::PopupFocusReason;
+    QLineEdit::focusOutEvent(zdarzenie);
+}
+
+void PoleTekstu::mouseReleaseEvent(QMouseEvent* zdarzenie) {
+    QLineEdit::mouseReleaseEvent(zdarzenie);
+    // The click that entered the field has put the caret under the pointer; a drag keeps what it selected.
+    if (wejscieMysza_ && !hasSelectedText()) zaznacz();
+    wejscieMysza_ = false;
+}
+
+PoleDaty::PoleDaty(QWidget* rodzic) : PoleTekstu(rodzic) {
+    setMaxLength(kDlugoscDaty);
+    connect(this, &QLineEdit::textEdited, this, &PoleDaty::maskuj);
+    connect(this, &QLineEdit::textChanged, this, [this] { poprzednia_ = text().size(); });
+}
+
+void PoleDaty::maskuj(const QString& wpisany) {
+    const bool dopisano = wpisany.size() > poprzednia_ && cursorPosition() == wpisany.size();
+    QString nowy;
+    if (const auto wklejona = CzytajDate(wpisany))
+        nowy = FormatDaty(*wklejona);
+    else
+        nowy = dopisano ? zKreskami(wpisany) : MaskaDaty(wpisany);
+    if (nowy == wpisany) return;
+    const int kursor = cursorPosition();
+    setText(nowy);
+    setCursorPosition(dopisano ? static_cast<int>(nowy.size()) : kursor);
+}

@@ -1,0 +1,40 @@
+// The text and date fields of every screen: entering one selects its text, a date puts its own dashes.
+#pragma once
+#include <QLineEdit>
+
+/// Puts the caret at 0 and selects the whole text.
+void ZaznaczTekst(QLineEdit& pole);
+/// Selects the first ten characters, which are the date.
+void ZaznaczDate(QLineEdit& pole);
+
+/// A line of text that selects itself on entry, by key or by click.
+class PoleTekstu : public QLineEdit {
+    Q_OBJECT
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    virtual void zaznacz() { ZaznaczTekst(*this); }
+    void focusInEvent(QFocusEvent* zdarzenie) override;
+    void focusOutEvent(QFocusEvent* zdarzenie) override;
+    void mouseReleaseEvent(QMouseEvent* zdarzenie) override;
+
+private:
+    bool wejscieMysza_ = false;
+    bool czekaNaPowrot_ = false; ///< the focus went to another window or a menu, the field was not left
+};
+
+/// A date as dd-mm-yyyy: day and month get their dashes while they are typed at the end, digits only
+/// otherwise. What is no date stays until the owner checks it on leaving.
+class PoleDaty : public PoleTekstu {
+    Q_OBJECT
+public:
+    explicit PoleDaty(QWidget* rodzic = nullptr);
+
+protected:
+    void zaznacz() override { ZaznaczDate(*this); }
+
+private:
+    void maskuj(const QString& wpisany);
+    qsizetype poprzednia_ = 0;
+};

@@ -1,0 +1,19 @@
+// Rows of buttons at the bottom right of screens and dialogs.
+#pragma once
+#include <QList>
+#include <QString>
+#include <QStringView>
+
+class QDialog;
+class QPushButton;
+class QWidget;
+
+/// A button with its name and caption (mnemonic included), and a picture if `ikona` names one.
+[[nodiscard]] QPushButton* przycisk(const QString& nazwa, const QString& napis, QStringView ikona = {});
+
+/// The buttons in one row at the right, in the order given.
+[[nodiscard]] QWidget* rzadPrzyciskow(const QList<QPushButton*>& przyciski);
+
+/// `cmdOK` with the caption `ok`, the default button, which accepts the dialog, and `cmdAnuluj` "&Anuluj",
+/// which rejects it as Escape does.
+[[nodiscard]] QWidget* przyciskiOkAnuluj(QDialog& okno, const QString& ok);

@@ -1,0 +1,283 @@
+#include "okna/Wiazanie.h"
+#include "common/Blad.h"
+#include "okna/Kontrolki.h"
+#include "okna/PoleTekstu.h"
+#include "okna/SiatkaPol.h"
+#include "okna/Wyglad.h"
+#include "store/Recordset.h"
+#include <algorithm>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+#include <stdexcept>
+
+namespace {
+
+/// The value in the form that the column's type stores.
+Wartosc wTypie(Typ typ, const Wartosc& wartosc) {
+    const auto* kwota = std::get_if<Waluta>(&wartosc);
+    const auto* liczba = std::get_if<qint64>(&wartosc);
+    if (typ == Typ::Currency && liczba) return Waluta::zlotych(*liczba);
+    if ((typ == Typ::Single || typ == Typ::Double) && kwota) return kwota->naLiczbe();
+    const bool tekstowa = typ == Typ::Text || typ == Typ::Char || typ == Typ::Memo;
+    if (tekstowa && liczba) return QString::number(*liczba);
+    if (tekstowa && kwota) return FormatKwoty(*kwota);
+    return wartosc;
+}
+
+} // namespace
+
+Recordset& ZrodloWierszy::tabela(const Pole& pole) const {
+    const auto ta = std::ranges::find_if(
+        tabele_, [&](const Recordset* rs) { return &rs->tabela() == pole.kolumna.tabela; });
+    if (ta == tabele_.end()) throw std::out_of_range("no table for field " + pole.nazwa.toStdString());
+    return **ta;
+}
+
+Wartosc ZrodloWierszy::czytaj(const Pole& pole) const {
+    const Recordset& rs = tabela(pole);
+    return rs.naWierszu() ? rs.wartosc(pole.kolumna) : Wartosc(Null);
+}
+
+void ZrodloWierszy::zapisz(const Pole& pole, const Wartosc& wartosc) {
+    tabela(pole).ustaw(pole.kolumna, wTypie(pole.kolumna.def().typ, wartosc));
+}
+
+Wiazanie::Wiazanie(ZrodloPol& zrodlo, QObject* rodzic) : QObject(rodzic), zrodlo_(zrodlo) {}
+
+QGroupBox* Wiazanie::grupa(const QString& tytul, const QList<Pole>& pola, int kolumn) {
+    auto* ramka = new QGroupBox(tytul);
+    auto* uklad = new QVBoxLayout(ramka);
+    uklad->addWidget(siatka(pola, kolumn));
+    return ramka;
+}
+
+QWidget* Wiazanie::siatka(const QList<Pole>& pola, int kolumn) {
+    auto* siatka = new SiatkaPol(kolumn);
+    for (const Pole& pole : pola) dodaj(pole, *siatka);
+    siatka->uloz();
+    return siatka;
+}
+
+void Wiazanie::dodaj(const Pole& pole, SiatkaPol& siatka) {
+    const bool pierwsze = kontrolki_.empty() || kontrolki_.back().siatka != &siatka;
+    const Kontrolka* poprzednia = pierwsze ? nullptr : &kontrolki_.back();
+    Kontrolka& k = kontrolki_.emplace_back();
+    k.pole = pole;
+    k.siatka = &siatka;
+    k.widzet = zbudujKontrolke(pole);
+    if (poprzednia && pole.podpis.isEmpty()) {
+        k.podpis = poprzednia->podpis;
+        k.miejsce = poprzednia->miejsce;
+        siatka.dolacz(k.miejsce, k.widzet);
+        k.widzet->setAccessibleName(poprzednia->widzet->accessibleName());
+    } else {
+        if (pole.rodzaj != Rodzaj::Flaga && !pole.podpis.isEmpty()) {
+            k.podpis = new QLabel(pole.podpis);
+            k.podpis->setTextFormat(Qt::PlainText);
+            k.podpis->setBuddy(k.widzet);
+            if (pole.rodzaj == Rodzaj::Notatka) k.podpis->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        }
+        k.miejsce = siatka.dodaj(k.podpis, k.widzet);
+        k.widzet->setAccessibleName(nazwaDostepna(pole.podpis));
+    }
+    if (!pole.opis.isEmpty()) {
+        k.widzet->setAccessibleName(pole.opis);
+        k.widzet->setToolTip(pole.opis);
+    }
+    poNazwie_.insert(pole.nazwa, &k);
+    poWidzecie_.insert(k.widzet, &k);
+    pokazTekst(k, tekstWartosci(pole, Null));
+    podlacz(k);
+}
+
+void Wiazanie::podlacz(Kontrolka& k) {
+    k.widzet->installEventFilter(this);
+    const auto zmiana = [this, &k] { emit zmienione(k.pole.nazwa); };
+    // A click or a choice is a whole act: the field is changed and done with at once.
+    const auto czyn = [this, &k] {
+        emit zmienione(k.pole.nazwa);
+        opusc(k);
+    };
+    if (auto* linia = qobject_cast<QLineEdit*>(k.widzet)) {
+        connect(linia, &QLineEdit::textEdited, this, zmiana);
+        connect(linia, &QLineEdit::returnPressed, this, &Wiazanie::zakoncz);
+    } else if (auto* flaga = qobject_cast<QCheckBox*>(k.widzet)) {
+        connect(flaga, &QCheckBox::clicked, this, czyn);
+    } else if (auto* lista = qobject_cast<QComboBox*>(k.widzet)) {
+        connect(lista, &QComboBox::activated, this, czyn);
+    } else if (auto* pudlo = qobject_cast<QPlainTextEdit*>(k.widzet)) {
+        connect(pudlo, &QPlainTextEdit::textChanged, this, zmiana);
+    }
+}
+
+bool Wiazanie::opuszczaPole(const QEvent& zdarzenie, const QWidget& widzet) const {
+    const auto powod = static_cast<const QFocusEvent&>(zdarzenie).reason();
+    if (powod == Qt::PopupFocusReason || powod == Qt::ActiveWindowFocusReason ||
+        powod == Qt::MenuBarFocusReason)
+        return false;
+    // A window that closes takes the focus away too; whether its fields count is for its owner to say.
+    return widzet.window()->isVisible();
+}
+
+bool Wiazanie::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
+    const auto ta = poWidzecie_.constFind(obiekt);
+    auto* widzet = qobject_cast<QWidget*>(obiekt);
+    if (ta == poWidzecie_.constEnd() || !widzet) return QObject::eventFilter(obiekt, zdarzenie);
+    Kontrolka& k = **ta;
+    switch (zdarzenie->type()) {
+    case QEvent::FocusIn:
+        // A field that a message took the focus from has not been left yet.
+        if (wPracy_ && wPracy_ != &k) opusc(*wPracy_);
+        if (wPracy_ != &k) k.przyWejsciu = tekstKontrolki(*widzet);
+        wPracy_ = &k;
+        break;
+    case QEvent::FocusOut:
+        if (wPracy_ == &k && opuszczaPole(*zdarzenie, *widzet)) opusc(k);
+        break;
+    case QEvent::Wheel:
+        // Scrolling over a screen must not change a choice under the pointer.
+        if (qobject_cast<QComboBox*>(obiekt) && !widzet->hasFocus()) {
+            zdarzenie->ignore();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(obiekt, zdarzenie);
+}
+
+void Wiazanie::pokazTekst(Kontrolka& k, const QString& tekst) {
+    wpiszDoKontrolki(*k.widzet, tekst);
+    k.wczytany = tekstKontrolki(*k.widzet);
+    k.przyWejsciu = k.wczytany;
+}
+
+void Wiazanie::opusc(Kontrolka& k) {
+    if (wPracy_ == &k) wPracy_ = nullptr;
+    const QString bylo = k.przyWejsciu;
+    QString tekst = uporzadkuj(k.pole, tekstKontrolki(*k.widzet));
+    k.przyWejsciu = tekst;
+    if (k.sprawdzenie && tekst != bylo) k.przyWejsciu = tekst = k.sprawdzenie(tekst, bylo);
+    if (tekst != tekstKontrolki(*k.widzet)) wpiszDoKontrolki(*k.widzet, tekst);
+    if (tekst != bylo) emit opuszczone(k.pole.nazwa);
+}
+
+void Wiazanie::zakoncz() {
+    if (!wPracy_) return;
+    Kontrolka& k = *wPracy_;
+    opusc(k);
+    if (!k.widzet->hasFocus() || wPracy_) return;
+    wPracy_ = &k;
+    if (auto* linia = qobject_cast<QLineEdit*>(k.widzet)) ZaznaczTekst(*linia);
+}
+
+void Wiazanie::wczytaj() {
+    for (Kontrolka& k : kontrolki_) {
+        pokazTekst(k, tekstWartosci(k.pole, zrodlo_.czytaj(k.pole)));
+        if (auto* linia = qobject_cast<QLineEdit*>(k.widzet); linia && linia->hasFocus())
+            ZaznaczTekst(*linia);
+    }
+}
+
+void Wiazanie::czysc() {
+    for (Kontrolka& k : kontrolki_) pokazTekst(k, tekstWartosci(k.pole, Null));
+}
+
+bool Wiazanie::zmieniona(const Kontrolka& k) const {
+    if (k.pole.dostep == Dostep::Odczyt) return false;
+    const QString jest = tekstKontrolki(*k.widzet);
+    return jest != k.wczytany && uporzadkuj(k.pole, jest) != k.wczytany;
+}
+
+void Wiazanie::zbierz() {
+    zakoncz();
+    for (Kontrolka& k : kontrolki_) {
+        if (!zmieniona(k)) continue;
+        const QString tekst = uporzadkuj(k.pole, tekstKontrolki(*k.widzet));
+        zrodlo_.zapisz(k.pole, wartoscTekstu(k.pole, tekst));
+        k.wczytany = tekst;
+    }
+}
+
+bool Wiazanie::jestZmiana() const {
+    return std::ranges::any_of(kontrolki_, [this](const Kontrolka& k) { return zmieniona(k); });
+}
+
+void Wiazanie::blokuj(bool zablokowane) {
+    for (Kontrolka& k : kontrolki_)
+        if (k.pole.dostep == Dostep::Edycja) k.widzet->setEnabled(!zablokowane);
+}
+
+Wiazanie::Kontrolka& Wiazanie::znajdz(const QString& nazwa) const {
+    const auto ta = poNazwie_.constFind(nazwa);
+    if (ta == poNazwie_.constEnd()) throw std::out_of_range("no field " + nazwa.toStdString());
+    return **ta;
+}
+
+QString Wiazanie::tekst(const QString& nazwa) const { return tekstKontrolki(*znajdz(nazwa).widzet); }
+
+Wartosc Wiazanie::wartosc(const QString& nazwa) const {
+    const Kontrolka& k = znajdz(nazwa);
+    return wartoscTekstu(k.pole, uporzadkuj(k.pole, tekstKontrolki(*k.widzet)));
+}
+
+void Wiazanie::ustawTekst(const QString& nazwa, const QString& tekst) {
+    Kontrolka& k = znajdz(nazwa);
+    const QString nowy = uporzadkuj(k.pole, tekst);
+    if (nowy == tekstKontrolki(*k.widzet)) return;
+    wpiszDoKontrolki(*k.widzet, nowy);
+    k.przyWejsciu = nowy;
+    if (k.pole.dostep == Dostep::Edycja) emit zmienione(nazwa);
+}
+
+void Wiazanie::ustawPozycje(const QString& nazwa, const QList<Pozycja>& pozycje) {
+    Kontrolka& k = znajdz(nazwa);
+    k.pole.pozycje = pozycje;
+    wypelnijWybor(*k.widzet, k.pole);
+}
+
+void Wiazanie::sprawdzaj(const QString& nazwa, Sprawdzenie sprawdzenie) {
+    znajdz(nazwa).sprawdzenie = std::move(sprawdzenie);
+}
+
+QWidget* Wiazanie::kontrolka(const QString& nazwa) const { return znajdz(nazwa).widzet; }
+
+void Wiazanie::ustawPodpis(const QString& nazwa, const QString& podpis) {
+    Kontrolka& k = znajdz(nazwa);
+    if (auto* flaga = qobject_cast<QCheckBox*>(k.widzet))
+        flaga->setText(podpis);
+    else if (k.podpis)
+        k.podpis->setText(podpis);
+    k.widzet->setAccessibleName(nazwaDostepna(podpis));
+}
+
+void Wiazanie::dolacz(const QString& nazwa, QWidget* widzet) {
+    Kontrolka& k = znajdz(nazwa);
+    k.siatka->dolacz(k.miejsce, widzet, k.widzet);
+}
+
+void Wiazanie::ustawDopisek(const QString& nazwa, const QString& dopisek) {
+    Kontrolka& k = znajdz(nazwa);
+    if (!k.dopisek) {
+        k.dopisek = new QLabel;
+        k.dopisek->setTextFormat(Qt::PlainText);
+        k.siatka->dolacz(k.miejsce, k.dopisek);
+    }
+    k.dopisek->setText(dopisek);
+}
+
+void Wiazanie::pokaz(const QHash<QString, bool>& widoczne) {
+    QList<SiatkaPol*> naruszone;
+    for (auto i = widoczne.begin(); i != widoczne.end(); ++i) {
+        const Kontrolka& k = znajdz(i.key());
+        k.siatka->pokaz(k.miejsce, i.value());
+        if (!naruszone.contains(k.siatka)) naruszone.append(k.siatka);
+    }
+    for (SiatkaPol* siatka : naruszone) siatka->uloz();
+}

@@ -1,0 +1,46 @@
+// The one look of the program: style, palette, style sheet, the 8 px grid and the pictures.
+#pragma once
+#include <QColor>
+#include <QIcon>
+#include <QStringView>
+
+class QAbstractButton;
+class QApplication;
+class QLabel;
+class QString;
+class QWidget;
+
+namespace Wyglad {
+
+/// The step of the grid in pixels; margins and spacings are its multiples.
+inline constexpr int kSiatka = 8;
+/// Width of every money field in characters: the widest amount of the data with its sign and decimals.
+inline constexpr int kZnakiKwoty = 13;
+/// The smallest height of an entry field.
+inline constexpr int kWysokoscPola = 26;
+
+/// Ground of a button whose row waits for its calculation.
+inline constexpr QColor kDoPrzeliczenia{238, 238, 64};
+
+/// Sets style, font, palette and style sheet of the whole program. On a dark desktop the dark palette is
+/// taken.
+void zastosuj(QApplication& program);
+
+/// The picture `nazwa` of data/obrazy, drawn in the text colour of the palette in force (dimmed when
+/// disabled). An unknown name gives an empty icon.
+[[nodiscard]] QIcon ikona(QStringView nazwa);
+
+/// Marks a button as due for calculation, or takes the mark off.
+void oznaczDoPrzeliczenia(QAbstractButton& przycisk, bool doPrzeliczenia);
+
+/// Marks a field as computed: it looks unlike one that is typed into.
+void oznaczObliczane(QWidget& pole);
+
+/// Marks a field as one of the few amounts that the eye looks for first.
+void oznaczGlowne(QWidget& pole);
+
+/// A label that stands out as a banner over a screen, as for a blocked month. Hidden while `tekst` is empty.
+[[nodiscard]] QLabel* baner(const QString& tekst, QWidget* rodzic);
+void ustawBaner(QLabel& baner, const QString& tekst);
+
+} // namespace Wyglad

@@ -1,0 +1,36 @@
+// Asks for a month or for a day.
+#pragma once
+#include <QDate>
+#include <QDialog>
+
+class PoleDaty;
+class QComboBox;
+class QSpinBox;
+
+class frmInputData : public QDialog {
+    Q_OBJECT
+public:
+    enum class Tryb { Miesiac, Data };
+
+    static constexpr int kPierwszyRok = 1990;
+    static constexpr int kOstatniRok = 2099;
+
+    /// `tytul` is the caption of the window, `wstepna` the proposal: its month, or the day itself.
+    frmInputData(Tryb tryb, const QString& tytul, QDate wstepna, QWidget* rodzic = nullptr);
+
+    /// The chosen day; in the mode of months the first of the month. Meaningful once the dialog was accepted.
+    [[nodiscard]] QDate data() const;
+    [[nodiscard]] int rok() const { return data().year(); }
+    [[nodiscard]] int mies() const { return data().month(); }
+
+    void accept() override;
+
+private:
+    [[nodiscard]] QWidget* polaMiesiaca(QDate wstepna);
+    [[nodiscard]] QWidget* polaDaty(QDate wstepna);
+
+    Tryb tryb_;
+    QComboBox* cboMies_ = nullptr;
+    QSpinBox* spnRok_ = nullptr;
+    PoleDaty* dtData_ = nullptr;
+};

@@ -1,0 +1,114 @@
+#include "personnel/frmWybPr.h"
+#include "common/Liczby.h"
+#include "common/Rozmowa.h"
+#include "okna/PoleSzukania.h"
+#include "okna/Przyciski.h"
+#include "okna/WidokListy.h"
+#include "okna/Wyglad.h"
+#include <algorithm>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+enum KolumnaWyboru { Numer, Nazwisko, Imie, Dzial };
+
+QList<WierszListy> wiersze(const QList<Osoba>& osoby) {
+    QList<WierszListy> wynik;
+    wynik.reserve(osoby.size());
+    for (const Osoba& o : osoby)
+        wynik.append({o.prcId, {FormatNumeru(o.prcId), o.nazwisko, o.imie, o.dzial}});
+    return wynik;
+}
+
+} // namespace
+
+frmWybPr::frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic)
+    : QDialog(rodzic), o_(otoczenie), tryb_(tryb), osoby_(Pracownicy(otoczenie).doWyboru(tryb)),
+      lvwWybPr_(new WidokListy({{QStringLiteral("NR"), Qt::AlignRight},
+                                {QStringLiteral("NAZWISKO")},
+                                {QStringLiteral("IMIĘ")},
+                                {QStringLiteral("DZIAŁ")}},
+                               {12, 36, 26, 26})),
+      labZaznaczono_(new QLabel) {
+    setObjectName(QStringLiteral("frmWybPr"));
+    setWindowTitle(QStringLiteral("Wybór pracownika"));
+    lvwWybPr_->setObjectName(QStringLiteral("lvwWybPr"));
+    labZaznaczono_->setObjectName(QStringLiteral("labZaznaczono"));
+    buduj(ilu);
+    resize(86 * Wyglad::kSiatka, 76 * Wyglad::kSiatka);
+    lvwWybPr_->ustaw(wiersze(osoby_));
+    pokazIlu();
+    connect(lvwWybPr_, &WidokListy::wejscie, this, &QDialog::accept);
+    connect(lvwWybPr_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmWybPr::pokazIlu);
+}
+
+void frmWybPr::buduj(Ilu ilu) {
+    if (ilu == Ilu::Wielu) lvwWybPr_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    auto* cmdWszyscy = przycisk(QStringLiteral("cmdWszyscy"), QStringLiteral("Wszyscy"));
+    auto* cmdDzial = przycisk(QStringLiteral("cmdDzial"), QStringLiteral("&Zaznacz dział"));
+    auto* cmdWybierz = przycisk(QStringLiteral("cmdWybierz"), QStringLiteral("&Wybierz"));
+    auto* cmdAnuluj = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Anuluj"));
+    for (QPushButton* p : {cmdWszyscy, cmdDzial}) {
+        p->setAutoDefault(false);
+        p->setVisible(ilu == Ilu::Wielu);
+    }
+    connect(cmdWszyscy, &QPushButton::clicked, this, [this] { lvwWybPr_->selectAll(); });
+    connect(cmdDzial, &QPushButton::clicked, this, &frmWybPr::zaznaczDzial);
+    connect(cmdWybierz, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdAnuluj, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* uklad = new QVBoxLayout(this);
+    auto* gora = new QHBoxLayout;
+    auto* txtSzukaj = new PoleSzukania(*lvwWybPr_, Numer, Nazwisko);
+    gora->addWidget(txtSzukaj);
+    gora->addWidget(labZaznaczono_);
+    uklad->addLayout(gora);
+    uklad->addWidget(lvwWybPr_, 1);
+    uklad->addWidget(rzadPrzyciskow({cmdWszyscy, cmdDzial, cmdWybierz, cmdAnuluj}));
+    cmdWybierz->setDefault(true);
+    lvwWybPr_->setFocus();
+}
+
+int frmWybPr::exec() {
+    if (!osoby_.isEmpty()) return QDialog::exec();
+    if (const QString komunikat = Pracownicy::komunikatPustejListy(tryb_); !komunikat.isEmpty())
+        o_.rozmowa.komunikat(komunikat, Styl::Informacja);
+    return Rejected;
+}
+
+QList<qint64> frmWybPr::wybrani() const {
+    QList<qint64> numery;
+    for (const QItemSelectionRange& zakres : lvwWybPr_->selectionModel()->selection())
+        for (int i = zakres.top(); i <= zakres.bottom(); ++i) numery.append(lvwWybPr_->lista().id(i));
+    std::ranges::sort(numery);
+    return numery;
+}
+
+QList<qint64> frmWybPr::wybierz(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic) {
+    frmWybPr okno(otoczenie, tryb, ilu, rodzic);
+    return okno.exec() == Accepted ? okno.wybrani() : QList<qint64>();
+}
+
+void frmWybPr::zaznaczDzial() {
+    const int biezacy = lvwWybPr_->currentIndex().row();
+    if (biezacy < 0) return;
+    const QString dzial = osoby_.at(biezacy).dzial;
+    // Whole stretches of rows: a range for each person would cost the square of their number.
+    QItemSelection zaznaczenie;
+    const auto ile = static_cast<int>(osoby_.size());
+    for (int od = 0; od < ile; ++od) {
+        if (osoby_.at(od).dzial != dzial) continue;
+        int dokad = od;
+        while (dokad + 1 < ile && osoby_.at(dokad + 1).dzial == dzial) ++dokad;
+        zaznaczenie.append({lvwWybPr_->model()->index(od, Numer), lvwWybPr_->model()->index(dokad, Dzial)});
+        od = dokad;
+    }
+    lvwWybPr_->selectionModel()->select(zaznaczenie, QItemSelectionModel::Select);
+}
+
+void frmWybPr::pokazIlu() {
+    labZaznaczono_->setText(QStringLiteral("Zaznaczono: %1 z %2").arg(wybrani().size()).arg(osoby_.size()));
+}

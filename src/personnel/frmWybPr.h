@@ -1,0 +1,38 @@
+// The person picker.
+#pragma once
+#include "personnel/Pracownicy.h"
+#include "rules/Otoczenie.h"
+#include <QDialog>
+
+class QLabel;
+class WidokListy;
+
+class frmWybPr : public QDialog {
+    Q_OBJECT
+public:
+    enum class Ilu { Jeden, Wielu };
+
+    /// `tryb`: whom it offers, as in `Pracownicy::doWyboru`. Reads the personnel tables, whose handles stand
+    /// elsewhere afterwards.
+    frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu = Ilu::Wielu, QWidget* rodzic = nullptr);
+
+    /// With nobody to offer it gives the mode's message, if there is one, and is cancelled at once.
+    int exec() override;
+    /// The chosen `PRC_ID`s, ascending.
+    [[nodiscard]] QList<qint64> wybrani() const;
+
+    /// Opens the picker; nobody when it was cancelled.
+    [[nodiscard]] static QList<qint64> wybierz(Otoczenie& otoczenie, int tryb, Ilu ilu = Ilu::Wielu,
+                                               QWidget* rodzic = nullptr);
+
+private:
+    void buduj(Ilu ilu);
+    void zaznaczDzial();
+    void pokazIlu();
+
+    Otoczenie& o_;
+    int tryb_;
+    QList<Osoba> osoby_;
+    WidokListy* lvwWybPr_;
+    QLabel* labZaznaczono_;
+};

@@ -1,0 +1,313 @@
+#include "okna/ListaModel.h"
+#include "okna/Wiazanie.h"
+#include "okna/WidokListy.h"
+#include "store/Sesja.h"
+#include "wsparcie/RozmowaSkrypt.h"
+#include <QAbstractItemModelTester>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using schemat::PRACDP;
+using schemat::PRACINF;
+using schemat::PRACPR;
+
+/// Types as a keyboard does, one character after the other, whatever script it is of.
+void wpisz(QWidget& pole, const QString& tekst) {
+    for (const char32_t znak : tekst.toUcs4()) {
+        const QString jeden = QString::fromUcs4(&znak, 1);
+        QKeyEvent zdarzenie(QEvent::KeyPress, 0, Qt::NoModifier, jeden);
+        QApplication::sendEvent(&pole, &zdarzenie);
+    }
+}
+
+class WiazanieTest : public testing::Test {
+protected:
+    void SetUp() override {
+        UtworzBaze(plik);
+        sesja = std::make_unique<Sesja>(plik);
+        for (Recordset* rs : {&sesja->rsPRACDP, &sesja->rsPRACPR, &sesja->rsPRACINF}) {
+            rs->AddNew();
+            rs->ustaw(rs->tabela().nr(0), 7);
+        }
+        sesja->rsPRACPR.ustaw(PRACPR("placa_zas"), Waluta::zSurowej(16501234)); // 1650,1234
+        zrodlo = std::make_unique<ZrodloWierszy>(
+            std::initializer_list<Recordset*>{&sesja->rsPRACDP, &sesja->rsPRACPR, &sesja->rsPRACINF});
+        wiazanie = std::make_unique<Wiazanie>(*zrodlo);
+        auto* uklad = new QVBoxLayout(&okno);
+        uklad->addWidget(wiazanie->grupa(u"Dane"_s, pola(), 2));
+        przycisk = new QPushButton(u"&OK"_s);
+        uklad->addWidget(przycisk);
+        wiazanie->wczytaj();
+        QObject::connect(wiazanie.get(), &Wiazanie::opuszczone, &okno,
+                         [this](const QString& nazwa) { opuszczone += nazwa; });
+        okno.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&okno));
+    }
+
+    static QList<Pole> pola() {
+        const auto pole = [](const QString& nazwa, const QString& podpis, Kolumna kolumna, Rodzaj rodzaj,
+                             const QList<Pozycja>& pozycje = {}) {
+            Pole p{nazwa, podpis, kolumna, rodzaj};
+            p.pozycje = pozycje;
+            return p;
+        };
+        Pole numer = pole(u"txtNumer"_s, u"Numer pracownika:"_s, PRACDP("prc_id"), Rodzaj::Liczba);
+        numer.dostep = Dostep::Odczyt;
+        return {
+            numer,
+            pole(u"txtNaz"_s, u"&Nazwisko:"_s, PRACDP("Naz"), Rodzaj::Tekst),
+            pole(u"txtSeria"_s, u"Dowód osobisty:"_s, PRACDP("dowod_ser"), Rodzaj::Tekst),
+            pole(u"txtNrDowodu"_s, u""_s, PRACDP("dowod_nr"), Rodzaj::Tekst),
+            pole(u"txtPlaca"_s, u"Płaca:"_s, PRACPR("placa_zas"), Rodzaj::Kwota),
+            pole(u"txtDzieci"_s, u"Ilość dzieci:"_s, PRACDP("il_dzieci"), Rodzaj::Liczba),
+            pole(u"dtUr"_s, u"Data urodzenia:"_s, PRACDP("data_ur"), Rodzaj::Data),
+            pole(u"chkZwoln"_s, u"Zwolniony"_s, PRACPR("Zwoln"), Rodzaj::Flaga),
+            pole(u"cboPlec"_s, u"Płeć:"_s, PRACDP("plec"), Rodzaj::Wybor,
+                 {{u"M"_s, u"mężczyzna"_s}, {u"K"_s, u"kobieta"_s}}),
+            pole(u"cboGrupa"_s, u"Grupa:"_s, PRACPR("gr_pod"), Rodzaj::Wybor,
+                 {{qint64{0}, u"Wyliczaj automatycznie"_s}, {qint64{2}, u"Grupa II"_s}}),
+            pole(u"txtInfo"_s, u"Notatka:"_s, PRACINF("inf_opis"), Rodzaj::Notatka),
+        };
+    }
+
+    template <typename K = QLineEdit>
+    K& kontrolka(const QString& nazwa) {
+        return *okno.findChild<K*>(nazwa);
+    }
+    Wartosc stored(const QString& nazwa) {
+        for (const Pole& p : pola())
+            if (p.nazwa == nazwa) return zrodlo->czytaj(p);
+        return {};
+    }
+    void wpiszDo(const QString& nazwa, const QString& tekst) {
+        auto& pole = kontrolka<QWidget>(nazwa);
+        pole.setFocus(Qt::TabFocusReason);
+        if (auto* notatka = qobject_cast<QPlainTextEdit*>(&pole)) notatka->selectAll();
+        wpisz(pole, tekst);
+    }
+    void opusc() { przycisk->setFocus(Qt::TabFocusReason); }
+
+    QTemporaryDir folder;
+    QString plik = folder.filePath(u"Tornel.mdb"_s);
+    std::unique_ptr<Sesja> sesja;
+    std::unique_ptr<ZrodloWierszy> zrodlo;
+    std::unique_ptr<Wiazanie> wiazanie;
+    QDialog okno;
+    QPushButton* przycisk = nullptr;
+    QStringList opuszczone;
+};
+
+TEST_F(WiazanieTest, KazdyRodzajPorzadkujeIZapisuje) {
+    const auto zl = [](qint64 grosze) { return Waluta::zSurowej(grosze * 100); };
+    const QString dlugi(200, QLatin1Char('9'));
+    const QString emoji = QString::fromUtf8("\xF0\x9F\x98\x80");
+    const int nazwisko = PRACDP("Naz").def().rozmiar;
+    const QString doPary = QString(nazwisko - 1, QLatin1Char('a'));
+    struct Przypadek {
+        QString nazwa;
+        QString wpisany, pokazany;
+        Wartosc zapisany;
+    };
+    const Przypadek przypadki[] = {
+        {u"txtPlaca"_s, u"1500"_s, u"1500,00"_s, zl(150000)},
+        {u"txtPlaca"_s, u"12.5"_s, u"12,50"_s, zl(1250)},
+        {u"txtPlaca"_s, u"9,765"_s, u"9,77"_s, zl(977)},
+        {u"txtPlaca"_s, u" 7 "_s, u"7,00"_s, zl(700)},
+        {u"txtPlaca"_s, u"-3,5"_s, u"-3,50"_s, zl(-350)},
+        {u"txtPlaca"_s, u"abc"_s, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, u"1,2,3"_s, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, u"1 234,00"_s, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, u"1e300"_s, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, u"-0"_s, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, dlugi, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, u"922337203685477,579"_s, u"922337203685477,58"_s,
+         Waluta::zSurowej(9223372036854775800)},
+        {u"txtPlaca"_s, emoji, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, u"';--"_s, u"0,00"_s, zl(0)},
+        {u"txtDzieci"_s, u"3"_s, u"3"_s, qint64{3}},
+        {u"txtDzieci"_s, u"2,7"_s, u"3"_s, qint64{3}},
+        {u"txtDzieci"_s, u"32768"_s, u"0"_s, qint64{0}},
+        {u"txtDzieci"_s, u"-32768"_s, u"-32768"_s, qint64{-32768}},
+        {u"txtDzieci"_s, u"-0"_s, u"0"_s, qint64{0}},
+        {u"txtDzieci"_s, u"1e3"_s, u"0"_s, qint64{0}},
+        {u"txtDzieci"_s, dlugi, u"0"_s, qint64{0}},
+        {u"dtUr"_s, u"01072001"_s, u"01-07-2001"_s, QDate(2001, 7, 1)},
+        {u"dtUr"_s, u"1/7/2001"_s, u"01-07-2001"_s, QDate(2001, 7, 1)},
+        {u"dtUr"_s, u"29.02.2000"_s, u"29-02-2000"_s, QDate(2000, 2, 29)},
+        {u"dtUr"_s, u"31-02-2001"_s, QString(), Null},
+        {u"dtUr"_s, u"1-7-01"_s, QString(), Null},
+        {u"dtUr"_s, u"ala ma"_s + emoji, QString(), Null},
+        {u"dtUr"_s, dlugi, QString(), Null},
+        {u"txtNaz"_s, u"O'Hara; DROP"_s, u"O'Hara; DROP"_s, u"O'Hara; DROP"_s},
+        {u"txtNaz"_s, u"  Żółć"_s, u"  Żółć"_s, u"  Żółć"_s},
+        {u"txtNaz"_s, dlugi, dlugi.left(nazwisko), dlugi.left(nazwisko)},
+        {u"txtNaz"_s, doPary + emoji, doPary, doPary}, // half a character is none
+        {u"txtInfo"_s, u"a;b'"_s + emoji, u"a;b'"_s + emoji, u"a;b'"_s + emoji},
+    };
+    for (const Przypadek& p : przypadki) {
+        // From another text each time, so that every case is a change.
+        wiazanie->ustawTekst(p.nazwa, u"8"_s);
+        wpiszDo(p.nazwa, p.wpisany);
+        opusc();
+        EXPECT_EQ(wiazanie->tekst(p.nazwa), p.pokazany) << p.wpisany.toStdString();
+        wiazanie->zbierz();
+        EXPECT_EQ(stored(p.nazwa), p.zapisany) << p.wpisany.toStdString();
+    }
+}
+
+TEST_F(WiazanieTest, FlagaIWyborZapisujaSwojeWartosci) {
+    EXPECT_FALSE(wiazanie->jestZmiana());
+    kontrolka<QCheckBox>(u"chkZwoln"_s).click();
+    EXPECT_TRUE(wiazanie->jestZmiana());
+    auto& plec = kontrolka<QComboBox>(u"cboPlec"_s);
+    plec.setFocus();
+    QTest::keyClick(&plec, Qt::Key_End);
+    QTest::keyClick(&kontrolka<QComboBox>(u"cboGrupa"_s), Qt::Key_End);
+    EXPECT_EQ(opuszczone, (QStringList{u"chkZwoln"_s, u"cboPlec"_s, u"cboGrupa"_s}));
+    wiazanie->zbierz();
+    EXPECT_FALSE(wiazanie->jestZmiana());
+    EXPECT_EQ(stored(u"chkZwoln"_s), Wartosc(u"T"_s));
+    EXPECT_EQ(stored(u"cboPlec"_s), Wartosc(u"K"_s));
+    EXPECT_EQ(stored(u"cboGrupa"_s), Wartosc(qint64{2}));
+    kontrolka<QCheckBox>(u"chkZwoln"_s).click();
+    wiazanie->zbierz();
+    EXPECT_EQ(stored(u"chkZwoln"_s), Wartosc(u"N"_s));
+}
+
+TEST_F(WiazanieTest, CzegoNieZmienionoTegoNieZapisuje) {
+    sesja->rsPRACDP.ustaw(PRACDP("plec"), u"?"_s); // no choice of the list
+    wiazanie->wczytaj();
+    EXPECT_EQ(wiazanie->tekst(u"txtPlaca"_s), u"1650,12"_s);
+    for (const Pole& p : pola()) kontrolka<QWidget>(p.nazwa).setFocus();
+    wpiszDo(u"txtPlaca"_s, u"1650.12"_s);
+    opusc();
+    wiazanie->zbierz();
+    EXPECT_TRUE(opuszczone.isEmpty()) << opuszczone.join(u' ').toStdString();
+    EXPECT_EQ(stored(u"txtPlaca"_s), Wartosc(Waluta::zSurowej(16501234)))
+        << "the third and fourth decimals stay";
+    EXPECT_EQ(stored(u"cboPlec"_s), Wartosc(u"?"_s));
+    for (const QString& nazwa :
+         {u"txtNaz"_s, u"txtDzieci"_s, u"dtUr"_s, u"chkZwoln"_s, u"cboGrupa"_s, u"txtInfo"_s})
+        EXPECT_EQ(stored(nazwa), Wartosc(Null)) << nazwa.toStdString();
+
+    QWheelEvent kolko({2, 2}, {2, 2}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&kontrolka<QComboBox>(u"cboGrupa"_s), &kolko);
+    EXPECT_FALSE(wiazanie->jestZmiana()) << "scrolling past a choice does not change it";
+}
+
+TEST_F(WiazanieTest, OpuszczenieZmienionegoPolaMowiSieRaz) {
+    // A recalculation as screens do it: store, compute, show.
+    QObject::connect(wiazanie.get(), &Wiazanie::opuszczone, &okno, [this](const QString&) {
+        wiazanie->zbierz();
+        sesja->rsPRACDP.ustaw(PRACDP("il_dzieci"), 5);
+        wiazanie->wczytaj();
+    });
+    wpiszDo(u"txtPlaca"_s, u"100"_s);
+    EXPECT_TRUE(opuszczone.isEmpty());
+    QTest::keyClick(&kontrolka(u"txtPlaca"_s), Qt::Key_Return);
+    EXPECT_EQ(opuszczone, QStringList{u"txtPlaca"_s});
+    EXPECT_EQ(kontrolka(u"txtPlaca"_s).selectedText(), u"100,00"_s);
+    opusc();
+    EXPECT_EQ(opuszczone.size(), 1);
+    EXPECT_EQ(wiazanie->tekst(u"txtDzieci"_s), u"5"_s);
+
+    // A mnemonic acts while the focus stays; what it starts collects first.
+    wpiszDo(u"txtPlaca"_s, u"200"_s);
+    wiazanie->zbierz();
+    EXPECT_EQ(opuszczone.size(), 2);
+    EXPECT_EQ(stored(u"txtPlaca"_s), Wartosc(Waluta::zlotych(200)));
+
+    // Closing the window is no leaving: Escape means what it says.
+    wpiszDo(u"txtPlaca"_s, u"300"_s);
+    QTest::keyClick(&okno, Qt::Key_Escape);
+    EXPECT_FALSE(okno.isVisible());
+    EXPECT_EQ(opuszczone.size(), 2);
+}
+
+TEST_F(WiazanieTest, WlasneSprawdzeniePolaWidziTekstZWejscia) {
+    wiazanie->sprawdzaj(u"txtDzieci"_s, [](const QString& tekst, const QString& przyWejsciu) {
+        return tekst.toInt() > 10 ? przyWejsciu : tekst;
+    });
+    wpiszDo(u"txtDzieci"_s, u"4"_s);
+    opusc();
+    wpiszDo(u"txtDzieci"_s, u"44"_s);
+    opusc();
+    EXPECT_EQ(wiazanie->tekst(u"txtDzieci"_s), u"4"_s);
+    EXPECT_EQ(opuszczone.size(), 1) << "put back is not changed";
+}
+
+TEST_F(WiazanieTest, KlawiaturaBlokadaINazwy) {
+    EXPECT_EQ(kontrolka(u"txtNaz"_s).accessibleName(), u"Nazwisko"_s);
+    EXPECT_EQ(kontrolka(u"txtNrDowodu"_s).accessibleName(), u"Dowód osobisty"_s);
+    kontrolka(u"txtSeria"_s).setText(u"ABC"_s);
+    kontrolka(u"txtNaz"_s).setFocus();
+    QStringList kolejnosc;
+    for (int i = 0; i < 9; ++i) {
+        kolejnosc += QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        if (i == 0) {
+            EXPECT_EQ(kontrolka(u"txtSeria"_s).selectedText(), u"ABC"_s);
+        }
+    }
+    EXPECT_EQ(kolejnosc.join(u' '),
+              QStringLiteral("txtNaz txtSeria txtNrDowodu txtPlaca txtDzieci dtUr chkZwoln "
+                             "cboPlec cboGrupa"))
+        << "the computed number is passed over";
+    wiazanie->blokuj(true);
+    EXPECT_FALSE(kontrolka(u"txtNaz"_s).isEnabled());
+    EXPECT_TRUE(kontrolka(u"txtNumer"_s).isEnabled()) << "computed fields stay to be read and copied";
+    wiazanie->blokuj(false);
+    wiazanie->pokaz({{u"txtSeria"_s, false}});
+    EXPECT_FALSE(kontrolka(u"txtNrDowodu"_s).isVisible()) << "goes with the caption it shares";
+    EXPECT_THROW((void)wiazanie->tekst(u"brak"_s), std::out_of_range);
+}
+
+TEST(ListaModelOknaTest, PrzechodziSprawdzianModeliIOtwieraDziesiecTysiecyWierszy) {
+    WidokListy widok({{u"NR"_s, Qt::AlignRight}, {u"NAZWISKO"_s}}, {20, 80});
+    ListaModel& model = widok.lista();
+    const QAbstractItemModelTester sprawdzian(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy wybrano(&widok, &WidokListy::wybrano);
+    QSignalSpy wejscie(&widok, &WidokListy::wejscie);
+    widok.resize(300, 400);
+    widok.show();
+
+    widok.ustaw({});
+    EXPECT_EQ(widok.wybrany(), -1);
+    EXPECT_EQ(wybrano.count(), 0);
+    QList<WierszListy> wiersze;
+    for (int i = 0; i < 10'000; ++i) wiersze.append({20'000 - i, {QString::number(i), u"Nowak"_s}});
+    wiersze[3].teksty = {u"3"_s}; // a row with fewer texts than columns
+    widok.ustaw(wiersze, 12'345);
+    EXPECT_EQ(widok.wybrany(), 12'345);
+    EXPECT_EQ(wybrano.count(), 1);
+    EXPECT_EQ(model.data(model.index(7'655, 0), Qt::DisplayRole).toString(), u"7655"_s);
+    EXPECT_EQ(model.data(model.index(0, 0), Qt::TextAlignmentRole).toInt(),
+              Qt::AlignRight | Qt::AlignVCenter);
+    EXPECT_EQ(widok.columnWidth(0), widok.viewport()->width() / 5);
+
+    model.zmien(12'345, {u"x"_s, u"Kowal"_s});
+    EXPECT_EQ(model.index(model.wiersz(12'345), 1).data().toString(), u"Kowal"_s);
+    EXPECT_EQ(model.id(10'000), -1);
+    QTest::keyClick(&widok, Qt::Key_Down);
+    QTest::keyClick(&widok, Qt::Key_Return);
+    ASSERT_EQ(wejscie.count(), 1);
+    EXPECT_EQ(wejscie.at(0).at(0).toLongLong(), 12'344);
+    widok.ustaw(wiersze.mid(0, 2), 12'345);
+    EXPECT_EQ(widok.wybrany(), 20'000) << "a row that is gone gives way to the first";
+}
+
+} // namespace
