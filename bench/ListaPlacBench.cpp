@@ -1,0 +1,175 @@
+// What the payroll costs as it grows: the batch against the raw write of the same rows, the start and the
+// month's screen against the raw read of the rows shown. Prints a Markdown table with the ratios.
+#include "app/Przyklad.h"
+#include "app/Rozruch.h"
+#include "bench/Surowe.h"
+#include "common/Daty.h"
+#include "okna/Wyglad.h"
+#include "payroll/frmPlaceLista.h"
+#include "payroll/ListaPlac.h"
+#include "payroll/Miesiace.h"
+#include "personnel/Pracownicy.h"
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+
+namespace {
+
+/// Answers Yes and says nothing.
+class RozmowaCicha : public Rozmowa {
+public:
+    void komunikat(const QString&, Styl, const QString&) override {}
+    bool pytanie(const QString&, const QString&) override { return true; }
+    std::optional<QString> wprowadz(const QString&, const QString&, const QString&) override {
+        return std::nullopt;
+    }
+    std::unique_ptr<Postep> postep(const QString&, int) override {
+        struct Cichy : Postep {
+            bool krok(int, const QString&) override { return true; }
+        };
+        return std::make_unique<Cichy>();
+    }
+};
+
+double sekundy(const std::function<void()>& praca) {
+    QElapsedTimer zegar;
+    zegar.start();
+    praca();
+    return static_cast<double>(zegar.nsecsElapsed()) / 1e9;
+}
+
+void zerujSzczytPamieci() { std::ofstream("/proc/self/clear_refs") << "5"; }
+
+double szczytPamieciMiB() {
+    std::ifstream stan("/proc/self/status");
+    for (std::string linia; std::getline(stan, linia);)
+        if (linia.starts_with("VmHWM:")) return std::stod(linia.substr(6)) / 1024.0;
+    return 0;
+}
+
+/// A copy of the example firm with `ile` employees and `miesiecy` computed months; made once for each pair.
+QString kopiaFirmy(int ile, int miesiecy) {
+    const QDir folder(QDir::temp().filePath(QStringLiteral("tornel-bench")));
+    folder.mkpath(QStringLiteral("."));
+    const QString wzor = folder.filePath(QStringLiteral("firma-%1-%2.mdb").arg(ile).arg(miesiecy));
+    if (!QFile::exists(wzor)) UtworzPrzyklad(wzor, ile, miesiecy, folder.path());
+    QString robocza = folder.filePath(QStringLiteral("robocza.mdb"));
+    QFile::remove(robocza);
+    QFile::copy(wzor, robocza);
+    return robocza;
+}
+
+void Wsad(benchmark::State& stan, int miesiac) {
+    const auto ile = static_cast<int>(stan.range(0));
+    const QString baza = kopiaFirmy(ile, miesiac - 1);
+    RozmowaCicha rozmowa;
+    double wsad = 0, surowy = 0;
+    int wierszy = 0;
+    for (auto _ : stan) {
+        zerujSzczytPamieci();
+        Program program(baza, QDir::tempPath(), rozmowa);
+        Miesiace miesiace(program.otoczenie());
+        miesiace.Nowy_miesiac([&] { return RokMies{2001, miesiac}; });
+        QList<qint64> numery;
+        for (const Osoba& osoba : Pracownicy(program.otoczenie()).doWyboru(1)) numery.append(osoba.prcId);
+        std::sort(numery.begin(), numery.end());
+        ListaPlac lista(program.otoczenie(), 2001, miesiac, QStringLiteral(" "));
+        wsad = sekundy([&] { wierszy = lista.DodajPracownikow(numery).wykonane; });
+        stan.counters["pamiec_MiB"] = szczytPamieciMiB();
+        surowy = ZapiszSurowo(program.sesja(), miesiac);
+        stan.SetIterationTime(wsad);
+    }
+    stan.counters["wierszy"] = wierszy;
+    stan.counters["us_na_wiersz"] = wsad * 1e6 / wierszy;
+    stan.counters["surowo_ms"] = surowy * 1e3;
+    stan.counters["razy"] = wsad / surowy;
+}
+
+void WsadStyczen(benchmark::State& stan) { Wsad(stan, 1); }
+void WsadGrudzien(benchmark::State& stan) { Wsad(stan, 12); }
+
+/// Opening the program against the raw read of the personnel rows that it takes in.
+void StartProgramu(benchmark::State& stan) {
+    const QString baza = kopiaFirmy(static_cast<int>(stan.range(0)), 1);
+    RozmowaCicha rozmowa;
+    double start = 0, surowy = 0;
+    for (auto _ : stan) {
+        std::unique_ptr<Program> program;
+        start = sekundy([&] { program = std::make_unique<Program>(baza, QDir::tempPath(), rozmowa); });
+        surowy = CzytajSurowo(program->sesja(),
+                              {"PRACDP", "PRACSK", "PRACINF", "PRACPR", "PRACZUS", "SZ_PL", "KON"});
+        stan.SetIterationTime(start);
+    }
+    stan.counters["surowo_ms"] = surowy * 1e3;
+    stan.counters["razy"] = start / surowy;
+}
+
+/// Opening the month's screen until it is painted, against the raw read of its four tables.
+void EkranMiesiaca(benchmark::State& stan) {
+    const QString baza = kopiaFirmy(static_cast<int>(stan.range(0)), 1);
+    RozmowaCicha rozmowa;
+    Program program(baza, QDir::tempPath(), rozmowa);
+    double ekran = 0, surowy = 0;
+    for (auto _ : stan) {
+        ekran = sekundy([&] {
+            frmPlaceLista okno(program.otoczenie(), 2001, 1, QStringLiteral(" "));
+            okno.show();
+            QApplication::processEvents();
+            stan.PauseTiming();
+        });
+        surowy = CzytajSurowo(program.sesja(), {"PLA200101", "PLB200101", "PLS200101", "PLD200101"});
+        stan.SetIterationTime(ekran);
+    }
+    stan.counters["surowo_ms"] = surowy * 1e3;
+    stan.counters["razy"] = ekran / surowy;
+}
+
+/// One employee of many recalculated and saved.
+void JedenPracownik(benchmark::State& stan) {
+    const QString baza = kopiaFirmy(static_cast<int>(stan.range(0)), 1);
+    RozmowaCicha rozmowa;
+    Program program(baza, QDir::tempPath(), rozmowa);
+    ListaPlac lista(program.otoczenie(), 2001, 1, QStringLiteral(" "));
+    const auto wiersze = lista.Wczytaj_listep();
+    lista.Wypisz_daneP(wiersze[wiersze.size() / 2].klucz);
+    for (auto _ : stan) {
+        lista.Przelicz2();
+        lista.Przelicz1();
+    }
+}
+
+BENCHMARK(WsadStyczen)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(50000)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(WsadGrudzien)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(50000)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(StartProgramu)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(EkranMiesiaca)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(JedenPracownik)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication program(argc, argv);
+    Wyglad::zastosuj(program);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
