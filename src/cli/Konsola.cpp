@@ -56,9 +56,6 @@ QString pomoc() {
                "Status: 0 wykonane, 1 odmowa lub błąd, 2 złe użycie.\n");
 }
 
-// --- the command line
-// --------------------------------------------------------------------------------------------
-
 QList<OpcjaPolecenia> wszystkieOpcje() {
     QList<OpcjaPolecenia> opcje = opcjeOgolne();
     for (const Polecenie& p : polecenia())
@@ -137,9 +134,6 @@ OdpowiedziKonsoli odpowiedzi(const Argumenty& argumenty) {
     if (plik) return OdpowiedziKonsoli::zPliku(argumenty.wartosc(QStringLiteral("odpowiedzi")));
     return tak || nie ? OdpowiedziKonsoli::jednakowe(tak) : OdpowiedziKonsoli();
 }
-
-// --- running
-// -----------------------------------------------------------------------------------------------------
 
 void wypisz(QIODevice& urzadzenie, const QByteArray& tresc) {
     auto* plik = qobject_cast<QFileDevice*>(&urzadzenie);

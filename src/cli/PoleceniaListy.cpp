@@ -46,9 +46,6 @@ QList<LiniaListy> wierszeListy(const Wywolanie& w, Sesja& sesja, ListaPlac& list
     return lista.Wczytaj_listep();
 }
 
-// --- batches
-// -----------------------------------------------------------------------------------------------------
-
 /// Runs the batch and stores the month's sums with it, as one action; tells how it ended.
 int wykonajSerie(Wywolanie& w, ListaPlac& lista, const std::function<RaportSerii()>& seria) {
     Transakcja transakcja(w.otoczenie().sesja.cnPlace);
@@ -106,9 +103,6 @@ int przelicz(Wywolanie& w, Obliczenie obliczenie) {
 
 int przepisz(Wywolanie& w) { return przelicz(w, Obliczenie::Przepisanie); }
 int przeliczWiersze(Wywolanie& w) { return przelicz(w, Obliczenie::Przeliczenie); }
-
-// --- showing
-// -----------------------------------------------------------------------------------------------------
 
 struct KolumnaSumy {
     QStringView napis;
@@ -173,9 +167,6 @@ void wypiszPodsumowanie(Wywolanie& w) {
         wiersze.append({suma.napis.toString(), FormatKwoty(place.kwota(suma.kolumna))});
     w.piszTabele(wiersze, {false, true});
 }
-
-// --- JSON
-// --------------------------------------------------------------------------------------------------------
 
 QJsonValue wartoscJson(const Wartosc& wartosc) {
     if (const auto* liczba = std::get_if<qint64>(&wartosc)) return *liczba;

@@ -49,9 +49,6 @@ int slownie(Wywolanie& w) {
     return status::Wykonane;
 }
 
-// --- constants
-// ---------------------------------------------------------------------------------------------------
-
 QJsonObject stalaJson(int num, const QString& wartosc) {
     const StalaDef* stala = znajdzStala(num);
     return {{QStringLiteral("num"), num},

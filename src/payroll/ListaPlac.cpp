@@ -27,9 +27,6 @@ QString RaportSerii::tekst() const {
     return linie.join(QLatin1Char('\n'));
 }
 
-// --- opening
-// -----------------------------------------------------------------------------------------------------
-
 ListaPlac::ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol)
     : o_(otoczenie), rok_(rok), mies_(mies), symbol_(symbol.isEmpty() ? kWszystkieListy : symbol.left(1)),
       naliczanie_(otoczenie, pozycje_, odpowiedzi_) {
@@ -136,9 +133,6 @@ void ListaPlac::CofnijWiersz() {
     for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->CancelBatch();
 }
 
-// --- adding and removing
-// -------------------------------------------------------------------------------------------
-
 bool ListaPlac::naLiscie(qint64 prcId, const QString& lista) {
     Recordset& a = o_.sesja.rsPLA;
     const Zakladka tu = a.Bookmark();
@@ -229,6 +223,7 @@ RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
     odpowiedzi_ = {};
     wiersz_.reset();
     CofnijWiersz();
+    naliczanie_.przygotujSerie(ile);
     const auto postep = o_.rozmowa.postep(tytul, static_cast<int>(ile));
     Transakcja transakcja(o_.sesja.cnPlace);
     for (qsizetype i = 0; i < ile; ++i) {
@@ -289,9 +284,6 @@ bool ListaPlac::Usun_prac() {
     return true;
 }
 
-// --- calculations
-// --------------------------------------------------------------------------------------------------
-
 void ListaPlac::zmienWiersz(const std::function<void()>& zmiana) {
     odpowiedzi_ = {};
     try {
@@ -331,9 +323,6 @@ RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczLis
             return true;
         });
 }
-
-// --- hand edits
-// ----------------------------------------------------------------------------------------------------
 
 void ListaPlac::wykonajLancuch(Lancuch lancuch) {
     constexpr Tryb tryb = Tryb::Pojedynczy;
@@ -413,9 +402,6 @@ bool ListaPlac::DniZgodneZMiesiacem() const {
         dni += a.liczba(k);
     return dni == DniWMiesiacu(rok_, mies_);
 }
-
-// --- month sums
-// ----------------------------------------------------------------------------------------------------
 
 void ListaPlac::ZapiszSumy() {
     if (zablokowany_) return; // a blocked month is never written

@@ -15,9 +15,6 @@ Naliczanie::Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziS
 
 Naliczanie::~Naliczanie() = default;
 
-// --- components
-// --------------------------------------------------------------------------------------------------
-
 void Naliczanie::WypelnijDodatni(int i) {
     Sesja& s = o_.sesja;
     const Waluta zasadnicza = s.rsPRACPR.kwota(PRACPR("placa_zas"));
@@ -51,9 +48,6 @@ void Naliczanie::Przelicz2(Tryb) {
     for (int i = 1; i <= 15; ++i)
         if (pozycje_.ujemna(i).aktywna()) WypelnijUjemny(i);
 }
-
-// --- bases
-// -------------------------------------------------------------------------------------------------------
 
 void Naliczanie::dolicz(const PozycjaSkladnika& pozycja, Waluta kwota) {
     if (kwota.zero()) return;
@@ -108,9 +102,6 @@ void Naliczanie::WyliczPodstawy(Tryb tryb) {
     s.rsPLA.ustaw(PLA("POTRACENIA"), potracenia);
     s.rsPLB.ustaw(PLB("UBRUTTOW"), sumy_.RoznicaUbr);
 }
-
-// --- contributions, income, health insurance
-// -----------------------------------------------------------------------
 
 void Naliczanie::WyliczSkladki() {
     Recordset& a = o_.sesja.rsPLA;
@@ -167,8 +158,11 @@ void Naliczanie::PrzyjmijUbzdrNalezne() {
     o_.sesja.rsPLB.ustaw(PLB("UBZDR"), o_.sesja.rsPLB.kwota(PLB("UBZDR_NAL")));
 }
 
-// --- tax
-// ---------------------------------------------------------------------------------------------------------
+void Naliczanie::przygotujSerie(qsizetype ile) {
+    stareBrutto_ = std::make_unique<StareBrutto>(o_.sesja);
+    constexpr qsizetype kCzescFirmy = 8;
+    if (ile * kCzescFirmy >= o_.sesja.rsPRACPR.RecordCount()) stareBrutto_->wczytajWszystkich();
+}
 
 BruttoRoku Naliczanie::OdczytajStareBrutto(Tryb tryb) {
     const Recordset& pr = o_.sesja.rsPRACPR;
@@ -235,9 +229,6 @@ void Naliczanie::WyliczPodatek(Tryb tryb) {
     if (zaliczka < b.kwota(PLB("UBZDR"))) b.ustaw(PLB("UBZDR"), NieMniejNizZero(zaliczka));
     a.ustaw(PLA("PODATEK"), Round(NieMniejNizZero(zaliczka - b.kwota(PLB("UBZDR"))), o_.stale.ZaokZal));
 }
-
-// --- amount to pay
-// -----------------------------------------------------------------------------------------------
 
 Waluta Naliczanie::ZasilekChorobowy() const {
     const Sesja& s = o_.sesja;

@@ -44,6 +44,10 @@ public:
     /// employee. Reads `PRACPR`, `PLS`; changes `PLA`, `PLB`.
     void Przelicz1(Tryb tryb);
 
+    /// Before a batch over `ile` employees: the gross of earlier months, which do not change
+    /// while this one is open, is read once for all if the batch takes a good part of the firm.
+    void przygotujSerie(qsizetype ile);
+
     /// One additive component i from 1 to 30, with its period, by the personnel file.
     void WypelnijDodatni(int i);
     /// One deductive component i from 1 to 15.

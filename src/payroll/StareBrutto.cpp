@@ -24,10 +24,11 @@ StareBrutto::StareBrutto(Sesja& sesja) : sesja_(sesja) {
     QList<QByteArray> miesiace;
     for (int m = 1; m < sesja.mies(); ++m) {
         const QString tabela = Sesja::nazwaMiesiaca("PLA", sesja.rok(), m);
-        if (sesja.rsPLACE.Znajdz(FormatRoku(sesja.rok()), FormatMiesiaca(m)) &&
-            sesja.cnPlace.jestTabela(tabela))
-            miesiace.append("SELECT SUM(BRUTTO) FROM " + nazwaSql(tabela.toStdString()) +
-                            " WHERE PRC_ID = ?1");
+        if (!sesja.rsPLACE.Znajdz(FormatRoku(sesja.rok()), FormatMiesiaca(m)) ||
+            !sesja.cnPlace.jestTabela(tabela))
+            continue;
+        tabele_.append(tabela);
+        miesiace.append("SELECT SUM(BRUTTO) FROM " + nazwaSql(tabela.toStdString()) + " WHERE PRC_ID = ?1");
     }
     sesja.rsPLACE.Bookmark(tu);
     if (!miesiace.isEmpty())
@@ -36,7 +37,17 @@ StareBrutto::StareBrutto(Sesja& sesja) : sesja_(sesja) {
 
 StareBrutto::~StareBrutto() = default;
 
+void StareBrutto::wczytajWszystkich() {
+    wszyscy_.emplace();
+    for (const QString& tabela : tabele_) {
+        Instrukcja wiersze(sesja_.cnPlace,
+                           ("SELECT PRC_ID, BRUTTO FROM " + nazwaSql(tabela.toStdString())).toStdString());
+        while (wiersze.wiersz()) (*wszyscy_)[wiersze.liczba(0)] += Waluta::zSurowej(wiersze.liczba(1));
+    }
+}
+
 Waluta StareBrutto::zListPlac(qint64 prcId) {
+    if (wszyscy_) return wszyscy_->value(prcId);
     if (!listy_) return {};
     listy_->wiaz(0, prcId);
     return jednaKwota(*listy_);

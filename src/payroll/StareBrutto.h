@@ -2,6 +2,9 @@
 #pragma once
 #include "common/Waluta.h"
 #include <memory>
+#include <optional>
+#include <QHash>
+#include <QStringList>
 
 class Instrukcja;
 class Sesja;
@@ -13,6 +16,10 @@ public:
     explicit StareBrutto(Sesja& sesja);
     ~StareBrutto();
 
+    /// From now on the lists' gross comes from memory, read once for all employees: for a batch over most of
+    /// them. Reads the tables `PLA` of the earlier months.
+    void wczytajWszystkich();
+
     /// `BRUTTO` in zł of all rows of the employee, on every list, in the months of the year before the open
     /// one. Reads the tables `PLA` of those months.
     [[nodiscard]] Waluta zListPlac(qint64 prcId);
@@ -22,6 +29,8 @@ public:
 
 private:
     Sesja& sesja_;
-    std::unique_ptr<Instrukcja> listy_; // none when the year has no earlier month
+    QStringList tabele_;                // PLA of the year's earlier months
+    std::unique_ptr<Instrukcja> listy_; // none when there is no earlier month
+    std::optional<QHash<qint64, Waluta>> wszyscy_;
     std::unique_ptr<Instrukcja> umowy_;
 };

@@ -41,9 +41,6 @@ QLabel* napis(const QString& nazwa) {
 
 } // namespace
 
-// --- building
-// ----------------------------------------------------------------------------------------------------
-
 frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic)
     : QDialog(rodzic), o_(otoczenie), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol),
       lvwPlace_(new WidokListy(
@@ -132,9 +129,6 @@ QWidget* frmPlaceLista::prawaStrona() {
     return prawa;
 }
 
-// --- list and row
-// ------------------------------------------------------------------------------------------------
-
 std::optional<KluczListy> frmPlaceLista::biezacy() const {
     const qint64 id = lvwPlace_->wybrany();
     if (id < 0) return std::nullopt;
@@ -220,9 +214,6 @@ void frmPlaceLista::pokazOznaczenie() {
     zakladki_->wyroznij(ZakladkiListy::Placa, czeka);
     zakladki_->wyroznij(ZakladkiListy::Dodatnie, false);
 }
-
-// --- the clerk's actions
-// -----------------------------------------------------------------------------------------
 
 void frmPlaceLista::nowy() {
     zakladki_->zakoncz();
@@ -328,9 +319,6 @@ void frmPlaceLista::pokazRaport(const RaportSerii& raport) {
     }
     o_.rozmowa.komunikat(linie.join(QLatin1Char('\n')), Styl::Wykrzyknik);
 }
-
-// --- closing and keys
-// --------------------------------------------------------------------------------------------
 
 void frmPlaceLista::done(int wynik) {
     zakladki_->zakoncz();

@@ -66,9 +66,6 @@ Wartosc ZrodloWiersza::czytaj(const Pole& pole) const {
     return wartosc;
 }
 
-// --- building
-// ----------------------------------------------------------------------------------------------------
-
 ZakladkiListy::ZakladkiListy(Otoczenie& otoczenie, ListaPlac& lista, QWidget* rodzic)
     : QTabWidget(rodzic), o_(otoczenie), lista_(lista), zrodlo_(otoczenie.sesja, lista), wiazanie_(zrodlo_) {
     setObjectName(QStringLiteral("tabPlace"));
@@ -161,9 +158,6 @@ void ZakladkiListy::wykoncz() {
     });
 }
 
-// --- captions
-// ----------------------------------------------------------------------------------------------------
-
 void ZakladkiListy::opiszSkladnik(const QString& nazwa, const QString& ostatnie, const QString& podpis,
                                   const QString& flagi) {
     // A nameless component still needs a caption of its own.
@@ -203,9 +197,6 @@ void ZakladkiListy::opiszStawki() {
 }
 
 void ZakladkiListy::wyroznij(Zakladka zakladka, bool tak) { setTabIcon(zakladka, tak ? kropka() : QIcon()); }
-
-// --- showing and storing
-// -----------------------------------------------------------------------------------------
 
 void ZakladkiListy::Wypisz_daneP() {
     wiazanie_.wczytaj();

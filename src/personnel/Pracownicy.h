@@ -29,7 +29,7 @@ struct DaneNowegoPracownika {
 };
 
 /// Employee numbers go from 1 to this.
-inline constexpr qint64 kNajwyzszyNumer = 32767;
+inline constexpr qint64 kNajwyzszyNumer = 99999;
 
 class Pracownicy {
 public:

@@ -18,9 +18,6 @@ void UsunPlikBazy(const QString& sciezka) {
     QFile::remove(sciezka + QStringLiteral("-journal"));
 }
 
-// --- Instrukcja
-// --------------------------------------------------------------------------------------------------
-
 Instrukcja::Instrukcja(Polaczenie& polaczenie, std::string_view sql) : polaczenie_(&polaczenie) {
     const int wynik = sqlite3_prepare_v3(polaczenie.uchwyt(), sql.data(), static_cast<int>(sql.size()),
                                          SQLITE_PREPARE_PERSISTENT, &stmt_, nullptr);
@@ -94,9 +91,6 @@ QString Instrukcja::tekst(int kolumna) const {
     const std::string_view utf8Tekst = utf8(kolumna);
     return QString::fromUtf8(utf8Tekst.data(), static_cast<qsizetype>(utf8Tekst.size()));
 }
-
-// --- Polaczenie
-// --------------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -187,9 +181,6 @@ bool Polaczenie::wTransakcji() const { return sqlite3_get_autocommit(baza_) == 0
 void Polaczenie::zglosBlad(const QString& czynnosc) const {
     throw BladBazy(QStringLiteral("%1 (plik „%2”): %3.").arg(czynnosc, sciezka_, przyczyna(baza_)));
 }
-
-// --- Transakcja
-// --------------------------------------------------------------------------------------------------
 
 Transakcja::Transakcja(Polaczenie& polaczenie)
     : polaczenie_(polaczenie), zewnetrzna_(!polaczenie.wTransakcji()) {

@@ -34,8 +34,7 @@ public:
     Recordset(Recordset&&) = default;
     Recordset& operator=(Recordset&&) = default;
 
-    // --- opening
-    // ---------------------------------------------------------------------------------------------
+    // Opening.
 
     /// Reads the whole table (`SELECT * FROM nazwa`); `nazwa` is that of a month table, or empty for the
     /// table's own. Throws `BladBazy`; an open handle then stays as it was.
@@ -50,8 +49,7 @@ public:
     [[nodiscard]] const QString& nazwa() const { return nazwa_; }
     [[nodiscard]] const TabelaDef& tabela() const { return *tabela_; }
 
-    // --- order and position
-    // ------------------------------------------------------------------------------------
+    // Order and position.
 
     /// Sorts by columns, ascending; the position stays on its row.
     void Sort(const QList<Kolumna>& kolumny);
@@ -78,8 +76,7 @@ public:
     /// All rows with this first key column, in reading order, whatever the filter.
     [[nodiscard]] QList<Zakladka> wiersze(qint64 klucz) const;
 
-    // --- the current row
-    // ---------------------------------------------------------------------------------------
+    // The current row.
 
     [[nodiscard]] bool jestNull(Kolumna k) const { return komorka(k) == kNull; }
     [[nodiscard]] Waluta kwota(Kolumna k) const;       ///< null is 0
@@ -112,8 +109,7 @@ public:
     /// Takes the current row away; the position moves to the next one.
     void Delete();
 
-    // --- writing
-    // -----------------------------------------------------------------------------------------------
+    // Writing.
 
     /// Writes the changed, new and deleted rows, in a transaction (its own, or the one that is open). Throws
     /// `Konflikt` if a stored row is no longer the one that was read, `BladBazy` for any other failure; the

@@ -31,9 +31,6 @@ QList<Kolumna> kolumnyKlucza(const TabelaDef& tabela) {
     return wynik;
 }
 
-// --- values
-// ------------------------------------------------------------------------------------------------------
-
 QString tekstWartosci(const Wartosc& wartosc, Typ typ) {
     if (const auto* liczba = std::get_if<qint64>(&wartosc)) return QString::number(*liczba);
     if (const auto* kwota = std::get_if<Waluta>(&wartosc)) return TekstKwoty(*kwota);
@@ -106,9 +103,6 @@ QString wymaganie(const KolumnaDef& kolumna) {
     const auto [min, maks] = zakresTypu(kolumna.typ);
     return QStringLiteral("to nie jest liczba całkowita od %1 do %2").arg(min).arg(maks);
 }
-
-// --- the file
-// ----------------------------------------------------------------------------------------------------
 
 /// A row of the file, its values in the order of the header.
 struct Rekord {
@@ -197,9 +191,6 @@ PlikCsv czytajPlik(const TabelaDef& tabela, const QByteArray& csv) {
     }
     return plik;
 }
-
-// --- writing
-// -----------------------------------------------------------------------------------------------------
 
 void wpisz(Recordset& rs, const QList<Kolumna>& kolumny, const QList<Wartosc>& wartosci) {
     for (qsizetype i = 0; i < kolumny.size(); ++i) rs.ustaw(kolumny[i], wartosci[i]);

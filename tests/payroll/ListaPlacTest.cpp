@@ -38,8 +38,6 @@ protected:
     }
 };
 
-// --- new rows
-
 TEST_F(ListaPlacTest, ANewRowTakesTheEmployeesDataAndNothingElse) {
     stale().WskUbruttow = zl(112.5);
     pracownik(7,
@@ -133,8 +131,6 @@ TEST_F(ListaPlacTest, NobodyStandsTwiceOnOneList) {
     oczekujCzystych();
 }
 
-// --- calculations
-
 TEST_F(ListaPlacTest, Przelicz2RefillsTheComponentsAndLeavesTheRest) {
     pracownik(1, "placa_zas=1000 DOD_5=50 POT_9=10");
     const auto l = lista();
@@ -192,6 +188,19 @@ TEST_F(ListaPlacTest, AStoppedBatchKeepsWhatIsDone) {
     EXPECT_EQ(rozmowa_.kroki().value(1), u"PROSZĘ CZEKAĆ ! Wyliczanie pracownika nr 2"_s);
 }
 
+TEST_F(ListaPlacTest, AFailureOfTheFileStoresNothingOfTheBatch) {
+    for (const qint64 nr : {1, 2, 3}) pracownik(nr, "placa_zas=1000");
+    (void)lista()->DodajPracownikow({1});
+    // A record without its three partners stands in the way of employee 3.
+    Recordset sierota = zPliku(PLB);
+    sierota.AddNewZero(3, u" "_s);
+    sierota.UpdateBatch();
+    EXPECT_THROW((void)lista()->DodajPracownikow({2, 3}), BladBazy);
+    sierota.Delete();
+    sierota.UpdateBatch();
+    EXPECT_EQ(wierszeWPliku(), "1 ");
+}
+
 TEST_F(ListaPlacTest, AQuestionWithoutAnAnswerStoresNothing) {
     pracownik(1, "placa_zas=1000");
     pracownik(2, "il_z_rodz=1");
@@ -209,8 +218,6 @@ TEST_F(ListaPlacTest, AQuestionWithoutAnAnswerStoresNothing) {
     (void)lista()->DodajPracownikow({1});
     EXPECT_EQ(wierszeWPliku(), "1 ");
 }
-
-// --- hand edits
 
 TEST_F(ListaPlacTest, EachFieldHasItsChain) {
     pracownik(1, "placa_zas=2000 Kup=100 czy_kuz=T czy_ulga=T");
@@ -326,8 +333,6 @@ TEST_F(ListaPlacTest, ComponentsPeriodsAndDaysAreStoredOrDropped) {
     oczekuj("DN_INN=1 SP_5=5");
     oczekujCzystych();
 }
-
-// --- the list
 
 TEST_F(ListaPlacTest, TitlesAndLinesGoByTheSymbol) {
     for (const qint64 nr : {3, 1, 2}) pracownik(nr, "placa_zas=1", u"N%1"_s.arg(nr));

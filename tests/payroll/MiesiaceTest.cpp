@@ -63,15 +63,18 @@ TEST_F(MiesiaceTest, ARefusedOrDoubleMonthIsNotMade) {
     EXPECT_FALSE(m.Nowy_miesiac([] { return std::nullopt; }));
     EXPECT_EQ(naglowki(), 0);
     miesiac();
+    miesiac(kSierpien);
+    ASSERT_TRUE(m.Ustaw(kSierpien));
     rozmowa_.spodziewaj(kNowa, Odpowiedz::Tak);
     rozmowa_.spodziewaj(u"Podany miesiąc już istnieje!"_s, Styl::Wykrzyknik);
     EXPECT_FALSE(m.Nowy_miesiac([] { return kLipiec; }));
-    EXPECT_EQ(naglowki(), 1);
+    EXPECT_EQ(sesja().rsPLACE.tekst(PLACE("Mies")), u"08"_s) << "the position is kept";
+    EXPECT_EQ(naglowki(), 2);
     for (const RokMies zly : {RokMies{2001, 0}, {2001, 13}, {0, 1}}) {
         rozmowa_.spodziewaj(kNowa, Odpowiedz::Tak);
         EXPECT_THROW((void)m.Nowy_miesiac([&] { return zly; }), Blad);
     }
-    EXPECT_EQ(naglowki(), 1);
+    EXPECT_EQ(naglowki(), 2);
 }
 
 TEST_F(MiesiaceTest, AFailureInTheMiddleLeavesNothingBehind) {

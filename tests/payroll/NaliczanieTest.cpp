@@ -46,8 +46,6 @@ protected:
     OdpowiedziSerii odpowiedzi_;
 };
 
-// --- components
-
 TEST_F(NaliczanieTest, ComponentsComeFromThePersonnelFile) {
     zmienPracownika(1, "placa_zas=1001,05 Premia_pr=7,25 DOD_1=5 DOD_3=70 DOD_5=null DOD_30=-30,5 POT_1=11 "
                        "POT_2=22 POT_15=0,0001");
@@ -76,8 +74,6 @@ TEST_F(NaliczanieTest, PeriodsBeginWithTheMonthOrTheContract) {
         oczekuj("SDO_1=2001-07-31 SOD_1=" + poczatek);
     }
 }
-
-// --- bases
 
 TEST_F(NaliczanieTest, FlagsDecideWhichBasesAComponentEnters) {
     // 33,35 at the index 150% is 50,025, a tie that goes down to 50,02.
@@ -159,8 +155,6 @@ TEST_F(NaliczanieTest, ThePensionPlanMovesTheBases) {
     }
 }
 
-// --- whole rows
-
 TEST_F(NaliczanieTest, WholeRowsFromGrossToPay) {
     const struct {
         std::string kadry, wiersz, wynik;
@@ -220,8 +214,6 @@ TEST_F(NaliczanieTest, EmployersRatesComeFromTheConstantsAndTheOthersFromTheRow)
             "FCPRC=0 SKL_FP=25 SKL_FGSP=1,5");
     oczekuj("PPD=8,3333"); // a twelfth of 100 at four places, not doubled
 }
-
-// --- tax
 
 TEST_F(NaliczanieTest, TheYearsGrossDecidesTheTaxGroup) {
     const struct {
@@ -405,8 +397,6 @@ TEST_F(NaliczanieTest, ARateWithAFractionIsStoredRoundedAndUsedExactly) {
         oczekuj(wynik);
     }
 }
-
-// --- amount to pay
 
 TEST_F(NaliczanieTest, SickBenefitLeavesTheAmountToPayWhenTheClerkWantsIt) {
     stale().L4ZUS = {12, 30, 0, 0};

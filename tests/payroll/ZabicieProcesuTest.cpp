@@ -7,9 +7,11 @@
 #include "wsparcie/Proces.h"
 #include "wsparcie/RozmowaZgoda.h"
 #include <chrono>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <random>
+#include <sys/stat.h>
 #include <thread>
 
 namespace {
@@ -109,6 +111,18 @@ void sprawdzMiesiac(Polaczenie& baza, const QString& m) {
         << "an edit in part";
 }
 
+/// Waits until the child writes into the file itself, at most 200 ms: a kill then meets a commit half done.
+void czekajNaZapis(const QByteArray& plik) {
+    const auto chwila = [&] {
+        struct stat stan {};
+        stat(plik.constData(), &stan);
+        return std::pair(stan.st_mtim.tv_sec, stan.st_mtim.tv_nsec);
+    };
+    const auto koniec = std::chrono::steady_clock::now() + std::chrono::milliseconds(200);
+    for (const auto przed = chwila(); chwila() == przed && std::chrono::steady_clock::now() < koniec;) {
+    }
+}
+
 TEST(ZabicieProcesuTest, EveryActionIsInTheFileWholeOrNotAtAll) {
     const QTemporaryDir folder;
     const QString plik = folder.filePath(QStringLiteral("Tornel.mdb"));
@@ -133,6 +147,7 @@ TEST(ZabicieProcesuTest, EveryActionIsInTheFileWholeOrNotAtAll) {
             for (Praca praca(program.otoczenie(), ziarno);;) praca.krok();
         });
         std::this_thread::sleep_for(std::chrono::milliseconds(opoznienie));
+        if (i % 2) czekajNaZapis(QFile::encodeName(plik));
         ASSERT_TRUE(potomek.zabij()) << "the child ended by itself";
         wZapisie += QFileInfo(plik + QStringLiteral("-journal")).size() > 0;
 

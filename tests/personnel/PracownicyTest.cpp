@@ -101,15 +101,15 @@ TEST_F(PracownicyTest, ANewEmployeeHasTheDefaultsInAllFiveTables) {
 
 TEST_F(PracownicyTest, WrongDataAddNobody) {
     dodajPracownika(5);
-    const std::pair<qint64, QString> zle[] = {{0, u"A"_s}, {-1, u"A"_s}, {32768, u"A"_s},
+    const std::pair<qint64, QString> zle[] = {{0, u"A"_s}, {-1, u"A"_s}, {kNajwyzszyNumer + 1, u"A"_s},
                                               {5, u"A"_s}, {6, u" "_s},  {6, u""_s}};
     for (const auto& [nr, nazwisko] : zle)
         EXPECT_THROW(pracownicy().NowyPracownik({nr, nazwisko, u"B"_s}), Blad) << nr;
     EXPECT_EQ(pracownicy().proponowanyNumer(), 6);
-    dodajPracownika(32767);
+    dodajPracownika(kNajwyzszyNumer);
     EXPECT_EQ(numery(pracownicy().lista(FiltrPracownikow::Wszyscy, PorzadekPracownikow::Numery)),
-              u"5,32767"_s);
-    EXPECT_EQ(pracownicy().proponowanyNumer(), 32768);
+              u"5,99999"_s);
+    EXPECT_EQ(pracownicy().proponowanyNumer(), kNajwyzszyNumer + 1);
 
     RozmowaBezOdpowiedzi niema;
     Otoczenie bezOdpowiedzi{sesja(), stale(), otoczenie().skladniki, niema};

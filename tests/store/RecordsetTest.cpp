@@ -239,9 +239,6 @@ TEST_F(RecordsetTest, OpeningWithAConditionReadsOnlyThoseRows) {
     EXPECT_EQ(konta.RecordCount(), 2);
 }
 
-// --- the file
-// ------------------------------------------------------------------------------------------------------
-
 TEST_F(RecordsetTest, FilesThatCannotServeAreRefusedByName) {
     const auto komunikat = [&](const QString& plik) {
         try {

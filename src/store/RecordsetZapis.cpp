@@ -1,0 +1,146 @@
+#include "common/Blad.h"
+#include "store/Komorki.h"
+#include "store/Recordset.h"
+#include <algorithm>
+#include <bit>
+#include <QScopeGuard>
+
+namespace {
+
+/// The day number as YYYY-MM-DD.
+void tekstDnia(qint64 dzien, char (&bufor)[10]) {
+    int rok = 0, mies = 0, d = 0;
+    QDate::fromJulianDay(dzien).getDate(&rok, &mies, &d);
+    const auto pisz = [&](int od, int ile, int liczba) {
+        for (int i = od + ile - 1; i >= od; --i, liczba /= 10)
+            bufor[i] = static_cast<char>('0' + liczba % 10);
+    };
+    pisz(0, 4, rok);
+    bufor[4] = bufor[7] = '-';
+    pisz(5, 2, mies);
+    pisz(8, 2, d);
+}
+
+} // namespace
+
+void Recordset::wiazWiersz(Instrukcja& instrukcja, int wiersz) const {
+    for (int i = 0; i < szerokosc(); ++i) {
+        const Typ typ = tabela_->kolumny[static_cast<std::size_t>(i)].typ;
+        const Komorka c = komorka(wiersz, i);
+        if (c == kNull) {
+            instrukcja.wiazNull(i);
+        } else if (jestTekstem(typ)) {
+            instrukcja.wiaz(i, puli(c));
+        } else if (typ == Typ::Date) {
+            char bufor[10];
+            tekstDnia(c, bufor);
+            instrukcja.wiaz(i, std::string_view(bufor, sizeof bufor));
+        } else if (jestRzeczywista(typ)) {
+            instrukcja.wiaz(i, std::bit_cast<double>(c));
+        } else {
+            instrukcja.wiaz(i, static_cast<qint64>(c));
+        }
+    }
+}
+
+void Recordset::sprawdzKonflikt(int wiersz) {
+    if (!czytaj_)
+        czytaj_ =
+            std::make_unique<Instrukcja>(*polaczenie_, ("SELECT " + listaKolumn(*tabela_) + " FROM " +
+                                                        nazwaSql(nazwa_.toStdString()) + " WHERE rowid=?")
+                                                           .toStdString());
+    // The stored row is read behind the last one for the time of the comparison. Even a row that can no
+    // longer be read must leave neither an extra row nor an open statement behind.
+    const int obraz = nowyWiersz();
+    const auto sprzatanie = qScopeGuard([this] {
+        czytaj_->od_nowa();
+        komorki_.resize(komorki_.size() - tabela_->kolumny.size());
+        rowid_.pop_back();
+        stany_.pop_back();
+    });
+    const std::vector<Komorka>& oryginal = oryginaly_.at(wiersz);
+    czytaj_->wiaz(0, rowid_[static_cast<std::size_t>(wiersz)]);
+    bool zgodny = czytaj_->wiersz();
+    if (zgodny) {
+        czytajWiersz(*czytaj_, obraz, 0);
+        zgodny = std::equal(oryginal.begin(), oryginal.end(),
+                            komorki_.begin() + static_cast<std::ptrdiff_t>(obraz) * szerokosc());
+    }
+    if (!zgodny)
+        throw Konflikt(
+            QStringLiteral("Wiersz tabeli %1 został tymczasem zmieniony w bazie. Zmiany nie zapisano.")
+                .arg(nazwa_));
+}
+
+void Recordset::zapiszWiersz(int wiersz) {
+    const auto w = static_cast<std::size_t>(wiersz);
+    const QByteArray tabela = nazwaSql(nazwa_.toStdString());
+    if (stany_[w] == Stan::Nowy) {
+        if (!wstaw_) {
+            QByteArray znaki("?");
+            for (int i = 1; i < szerokosc(); ++i) znaki += ",?";
+            wstaw_ = std::make_unique<Instrukcja>(
+                *polaczenie_,
+                ("INSERT INTO " + tabela + " (" + listaKolumn(*tabela_) + ") VALUES (" + znaki + ")")
+                    .toStdString());
+        }
+        wiazWiersz(*wstaw_, wiersz);
+        wstaw_->wykonaj();
+        rowid_[w] = polaczenie_->ostatniWiersz();
+        return;
+    }
+    sprawdzKonflikt(wiersz);
+    if (stany_[w] == Stan::Usuniety) {
+        if (!usun_)
+            usun_ = std::make_unique<Instrukcja>(*polaczenie_,
+                                                 ("DELETE FROM " + tabela + " WHERE rowid=?").toStdString());
+        usun_->wiaz(0, rowid_[w]).wykonaj();
+        return;
+    }
+    if (!zmien_) {
+        QByteArray pola;
+        for (const KolumnaDef& k : tabela_->kolumny)
+            pola += (pola.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa) + "=?";
+        zmien_ = std::make_unique<Instrukcja>(
+            *polaczenie_, ("UPDATE " + tabela + " SET " + pola + " WHERE rowid=?").toStdString());
+    }
+    wiazWiersz(*zmien_, wiersz);
+    zmien_->wiaz(szerokosc(), rowid_[w]).wykonaj();
+}
+
+void Recordset::UpdateBatch() {
+    if (oczekujace_.empty()) return;
+    Transakcja transakcja(*polaczenie_);
+    for (const int wiersz : oczekujace_) zapiszWiersz(wiersz);
+    transakcja.zatwierdz();
+    for (const int wiersz : oczekujace_)
+        if (Stan& stan = stany_[static_cast<std::size_t>(wiersz)]; stan != Stan::Usuniety)
+            stan = Stan::Czysty;
+    oczekujace_.clear();
+    oryginaly_.clear();
+}
+
+void Recordset::CancelBatch() {
+    if (oczekujace_.empty()) return;
+    const Zakladka tu = Bookmark();
+    for (const int wiersz : oczekujace_) {
+        Stan& stan = stany_[static_cast<std::size_t>(wiersz)];
+        if (stan != Stan::Usuniety) {
+            odindeksuj(wiersz);
+            usunZKolejnosci(wiersz);
+        }
+        if (stan == Stan::Nowy) {
+            stan = Stan::Usuniety;
+            continue;
+        }
+        const std::vector<Komorka>& oryginal = oryginaly_.at(wiersz);
+        std::copy(oryginal.begin(), oryginal.end(),
+                  komorki_.begin() + static_cast<std::ptrdiff_t>(wiersz) * szerokosc());
+        stan = Stan::Czysty;
+        indeksuj(wiersz);
+        if (spelnia(wiersz, filtr_)) wstawDoKolejnosci(wiersz);
+    }
+    oczekujace_.clear();
+    oryginaly_.clear();
+    Bookmark(tu);
+}
