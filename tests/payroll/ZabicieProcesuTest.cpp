@@ -111,14 +111,14 @@ void sprawdzMiesiac(Polaczenie& baza, const QString& m) {
         << "an edit in part";
 }
 
-/// Waits until the child writes into the file itself, at most 200 ms: a kill then meets a commit half done.
+/// Waits until the child writes into the file itself, at most 2 s: a kill then meets a commit half done.
 void czekajNaZapis(const QByteArray& plik) {
     const auto chwila = [&] {
         struct stat stan {};
         stat(plik.constData(), &stan);
         return std::pair(stan.st_mtim.tv_sec, stan.st_mtim.tv_nsec);
     };
-    const auto koniec = std::chrono::steady_clock::now() + std::chrono::milliseconds(200);
+    const auto koniec = std::chrono::steady_clock::now() + std::chrono::seconds(2);
     for (const auto przed = chwila(); chwila() == przed && std::chrono::steady_clock::now() < koniec;) {
     }
 }
@@ -139,13 +139,16 @@ TEST(ZabicieProcesuTest, EveryActionIsInTheFileWholeOrNotAtAll) {
     int wZapisie = 0;
     for (int i = 0; i < kZabic; ++i) {
         const auto ziarno = static_cast<unsigned>(los());
-        const int opoznienie = std::uniform_int_distribution(1, 200)(los);
+        const int opoznienie = std::uniform_int_distribution(0, 120)(los);
         SCOPED_TRACE("kill " + std::to_string(i) + " after " + std::to_string(opoznienie) + " ms, seed " +
                      std::to_string(ziarno));
+        Sygnal otwarty;
         Proces potomek([&]() -> int {
             Program program(plik, folder.path(), rozmowa);
+            otwarty.daj();
             for (Praca praca(program.otoczenie(), ziarno);;) praca.krok();
         });
+        if (i % 6) ASSERT_TRUE(otwarty.czekaj()); // every sixth is killed at its start
         std::this_thread::sleep_for(std::chrono::milliseconds(opoznienie));
         if (i % 2) czekajNaZapis(QFile::encodeName(plik));
         ASSERT_TRUE(potomek.zabij()) << "the child ended by itself";

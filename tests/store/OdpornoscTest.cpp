@@ -307,8 +307,7 @@ TEST_F(OdpornoscTest, WhatMayNotBeWrittenIsNamedAndLeftAlone) {
 }
 
 TEST_F(OdpornoscTest, ASecondProgramIsRefusedAndAKilledOneLeavesNoTrace) {
-    int rura[2];
-    ASSERT_EQ(pipe(rura), 0);
+    Sygnal zapisane;
     const QByteArray przed = bajty(plik_);
     Proces pierwszy([&] {
         const auto program = otworz(plik_);
@@ -318,13 +317,10 @@ TEST_F(OdpornoscTest, ASecondProgramIsRefusedAndAKilledOneLeavesNoTrace) {
         sesja.rsKONTA.Open(sesja.cnPlace);
         for (int i = 1; i <= 3000; ++i) sesja.rsKONTA.AddNewZero(i);
         sesja.rsKONTA.UpdateBatch();
-        if (write(rura[1], "x", 1) == 1) pause();
-        return 1;
+        zapisane.daj();
+        return pause();
     });
-    close(rura[1]);
-    char znak = 0;
-    ASSERT_EQ(read(rura[0], &znak, 1), 1);
-    close(rura[0]);
+    ASSERT_TRUE(zapisane.czekaj());
     try {
         otworz(plik_);
         ADD_FAILURE() << "two programs on one file";

@@ -7,6 +7,31 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
+
+/// By which a child says once that it has come so far. Made before the child.
+class Sygnal {
+public:
+    Sygnal() { EXPECT_EQ(pipe(rura_), 0); }
+    ~Sygnal() {
+        for (const int koniec : rura_)
+            if (koniec >= 0) close(koniec);
+    }
+    Sygnal(const Sygnal&) = delete;
+    Sygnal& operator=(const Sygnal&) = delete;
+
+    /// In the child.
+    void daj() const { EXPECT_EQ(write(rura_[1], "x", 1), 1); }
+    /// In the parent; false when the child ended without a signal.
+    [[nodiscard]] bool czekaj() {
+        close(std::exchange(rura_[1], -1));
+        char znak = 0;
+        return read(rura_[0], &znak, 1) == 1;
+    }
+
+private:
+    int rura_[2] = {-1, -1};
+};
 
 class Proces {
 public:
