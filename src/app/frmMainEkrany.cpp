@@ -1,7 +1,50 @@
 #include "app/frmMainEkrany.h"
+#include "app/frmHaslo.h"
+#include "app/frmLogLista.h"
 #include "app/frmMain.h"
+#include "bank/frmKonta.h"
 #include "payroll/frmPlace.h"
+#include "personnel/frmMPRACY.h"
+#include "personnel/frmPrac.h"
+#include "personnel/frmUS.h"
+#include "rules/frmSkladnikiPlac.h"
+#include "rules/frmStaleProgramu.h"
+
+namespace {
+
+/// Screens that take nothing but the surroundings open alike.
+template <typename Ekran>
+void zarejestruj(frmMain& okno, Otoczenie& otoczenie, Wejscie wejscie) {
+    okno.rejestruj(wejscie, [&] { Ekran(otoczenie, &okno).exec(); });
+}
+
+} // namespace
 
 void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
-    okno.rejestruj(Wejscie::ListaPlac, [&] { frmPlace(otoczenie, &okno).exec(); });
+    static constexpr std::pair<Wejscie, FiltrPracownikow> kadry[] = {
+        {Wejscie::PracownicyWszyscy, FiltrPracownikow::Wszyscy},
+        {Wejscie::PracownicyPracujacy, FiltrPracownikow::Pracujacy},
+        {Wejscie::PracownicyZwolnieni, FiltrPracownikow::Zwolnieni},
+        {Wejscie::PracownicyUmowaZlecenie, FiltrPracownikow::UmowaZlecenie},
+        {Wejscie::PracownicyUmowaODzielo, FiltrPracownikow::UmowaODzielo},
+        {Wejscie::PracownicyHonoraria, FiltrPracownikow::Honoraria},
+    };
+    for (const auto& [wejscie, filtr] : kadry)
+        okno.rejestruj(wejscie, [&, f = filtr] { frmPrac(otoczenie, f, &okno).exec(); });
+    zarejestruj<frmPlace>(okno, otoczenie, Wejscie::ListaPlac);
+    zarejestruj<frmSkladnikiPlac>(okno, otoczenie, Wejscie::SkladnikiPlac);
+    zarejestruj<frmUS>(okno, otoczenie, Wejscie::UrzedySkarbowe);
+    zarejestruj<frmMPRACY>(okno, otoczenie, Wejscie::AdresyDzialalnosci);
+    zarejestruj<frmKonta>(okno, otoczenie, Wejscie::KontaBankowe);
+    zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);
+    zarejestruj<frmLogLista>(okno, otoczenie, Wejscie::ListaUzytkownikow);
+    okno.rejestruj(Wejscie::StaleProgramu, [&] {
+        PortyStalych porty;
+        porty.otworzUrzedy = [&] { frmUS(otoczenie, &okno).exec(); };
+        porty.UstawDostepnoscMenu = [&] {
+            okno.UstawDostepnoscMenu();
+            okno.RefreshTitle();
+        };
+        frmStaleProgramu(otoczenie, porty, &okno).exec();
+    });
 }

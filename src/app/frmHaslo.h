@@ -1,0 +1,21 @@
+// "Hasło": the user at work changes his own password.
+#pragma once
+#include "rules/Otoczenie.h"
+#include <QDialog>
+
+class PoleTekstu;
+
+class frmHaslo : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmHaslo(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
+
+    /// Changes the password; the dialog stays while something can be typed anew.
+    void accept() override;
+    /// Closes and says that nothing was changed.
+    void reject() override;
+
+private:
+    Otoczenie& o_;
+    PoleTekstu *txtHaslo1_, *txtHaslo2_, *txtHaslo3_;
+};

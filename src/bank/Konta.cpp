@@ -1,0 +1,10 @@
+#include "bank/Konta.h"
+
+const KartotekaDef& KontaBankowe() {
+    static const KartotekaDef def{
+        .uchwyt = &Sesja::rsKONTA,
+        .pytanie = u"Czy na pewno usunąć wybrane konto bankowe z listy kont ?",
+        .odmowa = u"Nie można usunąć wybranego konta bankowego, ponieważ jest używane.",
+    };
+    return def;
+}

@@ -1,0 +1,6 @@
+// The employer's bank accounts (`KONTA`).
+#pragma once
+#include "rules/Kartoteka.h"
+
+/// Transfers take an account when they are printed and keep no number of it, so every account can be deleted.
+[[nodiscard]] const KartotekaDef& KontaBankowe();

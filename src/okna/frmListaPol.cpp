@@ -1,0 +1,274 @@
+#include "okna/frmListaPol.h"
+#include "common/Blad.h"
+#include "common/Rozmowa.h"
+#include "okna/Aplikacja.h"
+#include "okna/PoleSzukania.h"
+#include "okna/Przyciski.h"
+#include "okna/WidokListy.h"
+#include "okna/Wyglad.h"
+#include <algorithm>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kSzerokoscListy = 38 * Wyglad::kSiatka;
+constexpr int kSzerokosc = 112 * Wyglad::kSiatka;
+constexpr int kNajmniejszaWysokosc = 50 * Wyglad::kSiatka;
+
+} // namespace
+
+frmListaPol::frmListaPol(Otoczenie& otoczenie, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
+                         QWidget* rodzic)
+    : QDialog(rodzic), o_(otoczenie), zrodlo_(std::move(zrodlo)), wiazanie_(*zrodlo_),
+      lvwLista_(new WidokListy(opis.kolumny, opis.udzialy)), labZmiana_(new QLabel),
+      cmdNowy_(przycisk(QStringLiteral("cmdNowy"), opis.nowy, u"nowy")),
+      cmdUsun_(przycisk(QStringLiteral("cmdUsun"), opis.usun, u"usun")),
+      cmdAnuluj_(przycisk(QStringLiteral("cmdAnuluj"), opis.powrot, u"powrot")) {
+    setObjectName(opis.nazwa);
+    setWindowTitle(opis.tytul);
+    auto* uklad = new QVBoxLayout(this);
+    auto* srodek = new QHBoxLayout;
+    srodek->addWidget(lewaStrona(opis));
+    srodek->addWidget(prawaStrona(opis), 1);
+    uklad->addLayout(srodek, 1);
+    uklad->addWidget(dol());
+    budujSkroty();
+    resize(kSzerokosc, std::max(kNajmniejszaWysokosc, sizeHint().height()));
+
+    connect(lvwLista_, &WidokListy::wybrano, this, &frmListaPol::wybierzWiersz);
+    connect(lvwLista_, &WidokListy::wejscie, this, &frmListaPol::doPierwszegoPola);
+    connect(&wiazanie_, &Wiazanie::zmienione, this, &frmListaPol::pokazZmiane);
+    connect(&wiazanie_, &Wiazanie::opuszczone, this, &frmListaPol::pokazZmiane);
+    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
+        connect(program, &Aplikacja::danePrzeczytane, this, &frmListaPol::pokazPonownie);
+}
+
+frmListaPol::~frmListaPol() = default;
+
+// --- building
+// ----------------------------------------------------------------------------------------------------
+
+QWidget* frmListaPol::lewaStrona(const OpisListyPol& opis) {
+    lvwLista_->setObjectName(QStringLiteral("lvwLista"));
+    lvwLista_->ustawPodpowiedz(opis.pustaLista);
+    txtSzukaj_ = new PoleSzukania(*lvwLista_, opis.kolumnaNumeru, opis.kolumnaNazwy);
+    txtSzukaj_->setPlaceholderText(opis.szukaj);
+    auto* lewa = new QWidget;
+    lewa->setFixedWidth(kSzerokoscListy);
+    auto* uklad = new QVBoxLayout(lewa);
+    uklad->setContentsMargins(0, 0, 0, 0);
+    uklad->addWidget(txtSzukaj_);
+    uklad->addWidget(lvwLista_, 1);
+    return lewa;
+}
+
+QWidget* frmListaPol::prawaStrona(const OpisListyPol& opis) {
+    auto* prawa = new QWidget;
+    auto* uklad = new QVBoxLayout(prawa);
+    uklad->setContentsMargins(0, 0, 0, 0);
+    ramki_ = new QVBoxLayout;
+    uklad->addLayout(ramki_);
+    bool notatka = false;
+    for (const GrupaPol& grupa : opis.grupy) {
+        QGroupBox* ramka = wiazanie_.grupa(grupa.tytul, grupa.pola, grupa.kolumn);
+        ramki_->addWidget(ramka);
+        for (const Pole& pole : grupa.pola) {
+            if (pole.dostep == Dostep::Edycja) pola_.append(pole.nazwa);
+            if (pole.rodzaj != Rodzaj::Notatka) continue;
+            notatka = true;
+            ramki_->setStretchFactor(ramka, 1);
+            if (pole.podpis.isEmpty()) wiazanie_.kontrolka(pole.nazwa)->setAccessibleName(grupa.tytul);
+        }
+    }
+    // A note takes the height that is left; without one the frames stay together at the top.
+    if (notatka)
+        uklad->setStretchFactor(ramki_, 1);
+    else
+        uklad->addStretch(1);
+    return prawa;
+}
+
+QWidget* frmListaPol::dol() {
+    labZmiana_->setObjectName(QStringLiteral("labZmiana"));
+    labZmiana_->setProperty("podpowiedz", true);
+    // Enter belongs to the fields: no button takes it from them.
+    for (QPushButton* p : {cmdNowy_, cmdUsun_, cmdAnuluj_}) p->setAutoDefault(false);
+    connect(cmdNowy_, &QPushButton::clicked, this, &frmListaPol::nowy);
+    connect(cmdUsun_, &QPushButton::clicked, this, &frmListaPol::usun);
+    connect(cmdAnuluj_, &QPushButton::clicked, this, &QDialog::reject);
+    auto* rzad = new QWidget;
+    auto* uklad = new QHBoxLayout(rzad);
+    uklad->setContentsMargins(0, 0, 0, 0);
+    uklad->addWidget(labZmiana_, 1);
+    uklad->addWidget(rzadPrzyciskow({cmdNowy_, cmdUsun_, cmdAnuluj_}));
+    return rzad;
+}
+
+void frmListaPol::budujSkroty() {
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        txtSzukaj_->setFocus(Qt::ShortcutFocusReason);
+        txtSzukaj_->selectAll();
+    });
+    connect(new QShortcut(QKeySequence(Qt::Key_Insert), this), &QShortcut::activated, this,
+            &frmListaPol::nowy);
+    auto* kasowanie = new QShortcut(QKeySequence(Qt::Key_Delete), lvwLista_);
+    kasowanie->setContext(Qt::WidgetShortcut); // in a field the key deletes a letter
+    connect(kasowanie, &QShortcut::activated, this, &frmListaPol::usun);
+}
+
+void frmListaPol::dodaj(QWidget* widzet) { ramki_->addWidget(widzet); }
+
+// --- list and row
+// ------------------------------------------------------------------------------------------------
+
+void frmListaPol::Wczytaj(qint64 id) {
+    QList<WierszListy> wiersze;
+    for (const qint64 nr : numery()) wiersze.append({nr, tekstyWiersza(nr)});
+    const bool pusta = wiersze.isEmpty();
+    biezacy_ = -1;
+    wiazanie_.czysc();
+    lvwLista_->ustaw(std::move(wiersze), id);
+    txtSzukaj_->setEnabled(!pusta);
+    if (pusta) {
+        Wypisz(-1);
+        cmdNowy_->setFocus();
+    } else if (!isVisible()) {
+        lvwLista_->setFocus();
+    }
+}
+
+void frmListaPol::wybierzWiersz(qint64 id) {
+    if (id == biezacy_) return;
+    bool zapisany = false;
+    // Whatever ends the storing, the list goes back to the row whose fields are shown; not at once, since the
+    // view is still in the middle of its own change.
+    const auto powrot = qScopeGuard([&] {
+        if (zapisany) return;
+        QMetaObject::invokeMethod(
+            this, [this] { lvwLista_->wybierz(biezacy_); }, Qt::QueuedConnection);
+    });
+    zapisany = Wpisz();
+    if (zapisany) Wypisz(id);
+}
+
+void frmListaPol::Wypisz(qint64 id) {
+    const bool jest = id >= 0 && przejdz(id);
+    biezacy_ = jest ? id : -1;
+    cmdUsun_->setEnabled(jest);
+    wiazanie_.blokuj(!jest);
+    if (jest)
+        wiazanie_.wczytaj();
+    else
+        wiazanie_.czysc();
+    pokazano(biezacy_);
+    pokazZmiane();
+}
+
+bool frmListaPol::Wpisz() {
+    wiazanie_.zakoncz();
+    if (biezacy_ < 0 || !wiazanie_.jestZmiana()) return true;
+    QHash<QString, QString> wpisane;
+    for (const QString& pole : pola_) wpisane.insert(pole, wiazanie_.tekst(pole));
+    try {
+        przejdz(biezacy_);
+        wiazanie_.zbierz();
+        if (!zapisz(biezacy_)) {
+            przywroc(wpisane);
+            return false;
+        }
+    } catch (...) {
+        przywroc(wpisane);
+        throw;
+    }
+    lvwLista_->lista().zmien(biezacy_, tekstyWiersza(biezacy_));
+    Wypisz(biezacy_);
+    return true;
+}
+
+void frmListaPol::przywroc(const QHash<QString, QString>& wpisane) {
+    porzuc();
+    if (!przejdz(biezacy_)) return;
+    wiazanie_.wczytaj();
+    for (const QString& pole : pola_) wiazanie_.ustawTekst(pole, wpisane.value(pole));
+    pokazZmiane();
+}
+
+void frmListaPol::pokazPonownie() {
+    // What could not be stored stays in its fields.
+    if (wiazanie_.jestZmiana())
+        przejdz(biezacy_);
+    else
+        Wczytaj(biezacy_);
+}
+
+void frmListaPol::pokazZmiane() {
+    labZmiana_->setText(biezacy_ >= 0 && wiazanie_.jestZmiana()
+                            ? QStringLiteral("●  Zmieniono. Zapis nastąpi przy opuszczeniu pozycji.")
+                            : QString());
+}
+
+void frmListaPol::doPierwszegoPola() {
+    for (const QString& pole : pola_) {
+        QWidget* kontrolka = wiazanie_.kontrolka(pole);
+        if (!kontrolka->isEnabled()) continue;
+        kontrolka->setFocus(Qt::TabFocusReason);
+        return;
+    }
+}
+
+// --- the clerk's actions
+// -----------------------------------------------------------------------------------------
+
+void frmListaPol::nowy() {
+    if (!Wpisz()) return;
+    const auto id = utworz();
+    if (!id) return;
+    Wczytaj(*id);
+    doPierwszegoPola();
+}
+
+void frmListaPol::usun() {
+    if (biezacy_ < 0) return;
+    const ListaModel& lista = lvwLista_->lista();
+    const int wiersz = lista.wiersz(biezacy_);
+    const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
+    if (skasuj(biezacy_)) Wczytaj(sasiad);
+}
+
+// --- closing and keys
+// --------------------------------------------------------------------------------------------
+
+void frmListaPol::done(int wynik) {
+    try {
+        if (!Wpisz()) return;
+    } catch (const Blad& blad) {
+        if (!o_.rozmowa.pytanie(blad.komunikat() +
+                                QStringLiteral("\r\n\r\nCzy zamknąć okno bez zapisania zmian ?")))
+            return;
+    }
+    QDialog::done(wynik);
+}
+
+void frmListaPol::closeEvent(QCloseEvent* zdarzenie) {
+    // Refused in advance: should the row not be stored, the screen has to stay.
+    zdarzenie->ignore();
+    reject();
+    zdarzenie->setAccepted(!isVisible());
+}
+
+void frmListaPol::keyPressEvent(QKeyEvent* zdarzenie) {
+    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
+    if (!enter) return QDialog::keyPressEvent(zdarzenie);
+    if (auto* cmd = qobject_cast<QPushButton*>(focusWidget()))
+        cmd->click();
+    else
+        focusNextChild();
+}

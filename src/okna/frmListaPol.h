@@ -1,0 +1,112 @@
+// A list at the left and the chosen row's fields at the right: what all such screens do alike.
+#pragma once
+#include "okna/ListaModel.h"
+#include "okna/Wiazanie.h"
+#include "rules/Otoczenie.h"
+#include <memory>
+#include <optional>
+#include <QDialog>
+
+class PoleSzukania;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+class WidokListy;
+
+/// Fields in one titled frame.
+struct GrupaPol {
+    QString tytul;
+    QList<Pole> pola;
+    int kolumn = 1; ///< how many fields stand side by side
+};
+
+/// What one such screen shows.
+struct OpisListyPol {
+    QString nazwa; ///< objectName of the screen
+    QString tytul;
+    QList<KolumnaListy> kolumny;
+    QList<int> udzialy;    ///< width of each column in percent of the list's
+    QString pustaLista;    ///< what an empty list says: what to do next
+    QString szukaj;        ///< what the quick find says while it is empty
+    int kolumnaNumeru = 0; ///< where the quick find looks for digits
+    int kolumnaNazwy = 1;  ///< and where for letters
+    QList<GrupaPol> grupy;
+    QString nowy = QStringLiteral("&Nowy");
+    QString usun = QStringLiteral("&Usuń");
+    QString powrot = QStringLiteral("&Powrót");
+};
+
+/// A changed row is stored before it is left and before the screen closes. Keys: Insert a new row, Delete in
+/// the list deletes with a question, Ctrl+F or typing in the list finds, Enter goes to the next field, Escape
+/// closes.
+///
+/// A screen gives the functions below and calls `Wczytaj` at the end of its constructor.
+class frmListaPol : public QDialog {
+    Q_OBJECT
+public:
+    ~frmListaPol() override;
+
+    /// Stores the row first. The screen stays open if that is refused; if it fails, the clerk is told why and
+    /// asked whether to close without storing.
+    void done(int wynik) override;
+
+protected:
+    frmListaPol(Otoczenie& otoczenie, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
+                QWidget* rodzic);
+
+    /// The rows in the order shown.
+    [[nodiscard]] virtual QList<qint64> numery() = 0;
+    /// What the list says of a row.
+    [[nodiscard]] virtual QStringList tekstyWiersza(qint64 id) = 0;
+    /// Moves the source of the fields to the row; false if there is none.
+    virtual bool przejdz(qint64 id) = 0;
+    /// Stores what the fields have written to their source. False if it is refused, after a message.
+    [[nodiscard]] virtual bool zapisz(qint64 id) = 0;
+    /// Drops what the fields have written to their source and nobody stored.
+    virtual void porzuc() = 0;
+    /// Makes a row and gives it; nothing when the clerk refuses.
+    [[nodiscard]] virtual std::optional<qint64> utworz() = 0;
+    /// Asks and deletes the row; false if it stays.
+    [[nodiscard]] virtual bool skasuj(qint64 id) = 0;
+    /// After a row was shown, or (`id` -1) an empty list.
+    virtual void pokazano(qint64 id) { Q_UNUSED(id) }
+
+    /// Fills the list and shows row `id`, else the first. What was typed and not stored is dropped.
+    void Wczytaj(qint64 id = -1);
+    /// Stores the row shown if something was changed. False if it was refused; on a failure the exception
+    /// passes through. In both cases the fields keep what was typed.
+    bool Wpisz();
+    [[nodiscard]] qint64 biezacy() const { return biezacy_; }
+    [[nodiscard]] Wiazanie& wiazanie() { return wiazanie_; }
+    [[nodiscard]] Otoczenie& otoczenie() { return o_; }
+    /// Puts a widget below the frames of the fields.
+    void dodaj(QWidget* widzet);
+
+    void closeEvent(QCloseEvent* zdarzenie) override;
+    void keyPressEvent(QKeyEvent* zdarzenie) override;
+
+private:
+    [[nodiscard]] QWidget* lewaStrona(const OpisListyPol& opis);
+    [[nodiscard]] QWidget* prawaStrona(const OpisListyPol& opis);
+    [[nodiscard]] QWidget* dol();
+    void budujSkroty();
+    void wybierzWiersz(qint64 id);
+    void Wypisz(qint64 id);
+    void przywroc(const QHash<QString, QString>& wpisane);
+    void pokazPonownie();
+    void pokazZmiane();
+    void doPierwszegoPola();
+    void nowy();
+    void usun();
+
+    Otoczenie& o_;
+    std::unique_ptr<ZrodloPol> zrodlo_;
+    Wiazanie wiazanie_;
+    QStringList pola_; ///< names of the fields that can be typed into
+    qint64 biezacy_ = -1;
+    WidokListy* lvwLista_;
+    PoleSzukania* txtSzukaj_ = nullptr;
+    QVBoxLayout* ramki_ = nullptr;
+    QLabel* labZmiana_;
+    QPushButton *cmdNowy_, *cmdUsun_, *cmdAnuluj_;
+};

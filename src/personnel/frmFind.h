@@ -1,0 +1,19 @@
+// Asks for the number or the name of somebody on the list.
+#pragma once
+#include <functional>
+#include <QDialog>
+
+class PoleTekstu;
+
+class frmFind : public QDialog {
+    Q_OBJECT
+public:
+    /// `szukaj`: shows whom a text finds; false for nobody, and the dialog stays.
+    explicit frmFind(std::function<bool(const QString& tekst)> szukaj, QWidget* rodzic = nullptr);
+
+    void accept() override;
+
+private:
+    std::function<bool(const QString&)> szukaj_;
+    PoleTekstu* txtSzukany_;
+};

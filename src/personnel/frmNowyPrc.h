@@ -1,0 +1,27 @@
+// Asks for number and name of a new employee.
+#pragma once
+#include "personnel/Pracownicy.h"
+#include <QDialog>
+
+class PoleTekstu;
+class QFormLayout;
+
+class frmNowyPrc : public QDialog {
+    Q_OBJECT
+public:
+    /// Suggests the number after the highest one.
+    explicit frmNowyPrc(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
+
+    /// What was entered; meaningful once the dialog was accepted.
+    [[nodiscard]] DaneNowegoPracownika dane() const;
+    /// Stays, after a message, without a surname or a number that an employee can have.
+    void accept() override;
+
+private:
+    [[nodiscard]] static PoleTekstu* dodaj(QFormLayout& uklad, const QString& nazwa, const QString& podpis,
+                                           int rozmiar);
+    void odrzuc(const QString& komunikat, PoleTekstu& pole);
+
+    Otoczenie& o_;
+    PoleTekstu *txtNR_, *txtNazwisko_, *txtImie_;
+};

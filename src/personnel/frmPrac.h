@@ -1,0 +1,59 @@
+// The personnel file: the list of employees at the left, the eleven tabs of the one chosen at the right.
+#pragma once
+#include "personnel/KartotekaPracownika.h"
+#include "personnel/Pracownicy.h"
+#include "rules/Otoczenie.h"
+#include <QDialog>
+#include <QList>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class WidokListy;
+class ZakladkiPracownika;
+
+class frmPrac : public QDialog {
+    Q_OBJECT
+public:
+    frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic = nullptr);
+    ~frmPrac() override;
+
+    /// Asks what becomes of unsaved changes first; it stays open when they cannot be stored.
+    void done(int wynik) override;
+
+protected:
+    void closeEvent(QCloseEvent* zdarzenie) override;
+    void keyPressEvent(QKeyEvent* zdarzenie) override;
+
+private:
+    [[nodiscard]] QWidget* lewaStrona();
+    [[nodiscard]] QWidget* rzad();
+    void budujSkroty();
+
+    /// Fills the list by the filter and chooses the employee, else the first; empty, it clears the tabs.
+    void WczytajListePrac(FiltrPracownikow filtr, qint64 zaznacz);
+    void wybierz(qint64 prcId);
+    void pokazPonownie();
+    void pokazStan();
+    void odswiezWiersz();
+    void przejdz(int oIle);
+
+    void szukaj();
+    void NowyPracownik();
+    void UsunPracownika();
+    void anuluj();
+    void zapisz();
+    /// Asks whether to store what is unsaved, and stores or drops it.
+    void rozstrzygnijZmiany();
+
+    Otoczenie& o_;
+    FiltrPracownikow filtr_;
+    Pracownicy pracownicy_;
+    KartotekaPracownika kartoteka_;
+    QList<Osoba> osoby_;
+    WidokListy* lvwPrac_;
+    QComboBox* cboSort_;
+    QLabel* labIlu_;
+    ZakladkiPracownika* zakladki_;
+    QPushButton *cmdWyszukaj_, *cmdNowy_, *cmdUsun_, *cmdAnuluj_, *cmdZapisz_, *cmdPowrot_;
+};

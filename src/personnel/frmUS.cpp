@@ -1,0 +1,46 @@
+#include "personnel/frmUS.h"
+#include "personnel/KsiazkiAdresowe.h"
+
+using schemat::US;
+
+namespace {
+
+Pole pole(const QString& nazwa, const QString& podpis, Kolumna kolumna) { return {nazwa, podpis, kolumna}; }
+
+OpisListyPol opis() {
+    OpisListyPol o;
+    o.nazwa = QStringLiteral("frmUS");
+    o.tytul = QStringLiteral("Urzędy skarbowe");
+    o.kolumny = {{QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("NAZWA")}};
+    o.udzialy = {18, 82};
+    o.pustaLista =
+        QStringLiteral("Nie ma jeszcze żadnego urzędu skarbowego.\nPrzycisk „Nowy” dopisuje pierwszy.");
+    o.szukaj = QStringLiteral("Szukaj: numer lub nazwa");
+    o.grupy = {
+        {QStringLiteral("URZĄD"),
+         {{QStringLiteral("txtUSID"), QStringLiteral("Numer:"), US("US_ID"), Rodzaj::Liczba, Dostep::Odczyt},
+          pole(QStringLiteral("txtNazwa"), QStringLiteral("Nazwa:"), US("Nazwa"))}},
+        {QStringLiteral("ADRES"),
+         {pole(QStringLiteral("txtUlica"), QStringLiteral("Ulica:"), US("ulica")),
+          pole(QStringLiteral("txtNrDomu"), QStringLiteral("Nr domu:"), US("nr_domu")),
+          pole(QStringLiteral("txtNrLokalu"), QStringLiteral("Nr lokalu:"), US("nr_lokalu")),
+          pole(QStringLiteral("txtTelefon"), QStringLiteral("Telefon:"), US("telefon")),
+          pole(QStringLiteral("txtKod"), QStringLiteral("Kod pocztowy:"), US("Kod")),
+          pole(QStringLiteral("txtMiasto"), QStringLiteral("Miejscowość:"), US("miasto")),
+          pole(QStringLiteral("txtFaks"), QStringLiteral("Faks:"), US("faks"))},
+         2},
+        {QStringLiteral("RACHUNEK BANKOWY"),
+         {pole(QStringLiteral("txtBank"), QStringLiteral("Nazwa banku:"), US("bank")),
+          pole(QStringLiteral("txtKonto"), QStringLiteral("Numer konta:"), US("konto"))}},
+        {QStringLiteral("INFORMACJE OPISOWE"),
+         {{QStringLiteral("txtOpis"), QString(), US("inf_opis"), Rodzaj::Notatka}}},
+    };
+    return o;
+}
+
+} // namespace
+
+frmUS::frmUS(Otoczenie& otoczenie, QWidget* rodzic)
+    : frmKartoteka(otoczenie, UrzedySkarbowe(), opis(), {US("US_ID"), US("Nazwa")}, rodzic) {
+    Wczytaj();
+}
