@@ -4,6 +4,7 @@
 #include "rules/SkladnikiPlac.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
+#include <QHash>
 
 using schemat::PLA;
 using schemat::PLACE;
@@ -24,12 +25,22 @@ QString RaportSerii::tekst() const {
     QStringList linie;
     for (const Niepowodzenie& n : niepowodzenia)
         linie.append(QStringLiteral("Pracownik nr %1: %2").arg(n.prcId).arg(n.powod));
+    constexpr qsizetype kNajwiecejNumerow = 10;
+    for (const Uwaga& u : uwagi) {
+        QStringList numery;
+        for (const qint64 nr : u.pracownicy.first(std::min(u.pracownicy.size(), kNajwiecejNumerow)))
+            numery.append(QString::number(nr));
+        const qsizetype reszta = u.pracownicy.size() - numery.size();
+        linie.append(QStringLiteral("%1 (pracownik nr %2%3)")
+                         .arg(u.tekst, numery.join(QStringLiteral(", ")),
+                              reszta > 0 ? QStringLiteral(" i jeszcze %1").arg(reszta) : QString()));
+    }
     return linie.join(QLatin1Char('\n'));
 }
 
-ListaPlac::ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol)
+ListaPlac::ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol, WykazyPodstaw* wykazy)
     : o_(otoczenie), rok_(rok), mies_(mies), symbol_(symbol.isEmpty() ? kWszystkieListy : symbol.left(1)),
-      naliczanie_(otoczenie, pozycje_, odpowiedzi_) {
+      naliczanie_(otoczenie, pozycje_, odpowiedzi_, wykazy) {
     int wynik = 0;
     o_.sesja.OtworzMiesiac(rok, mies, wynik);
     if (wynik != 0)
@@ -196,13 +207,18 @@ void ListaPlac::dodajRekordy(qint64 prcId, const QString& lista, Tryb tryb) {
     s.rsPLB.ustaw(PLB("WSK_UBZDR"), zus.kwota(PRACZUS("wsk_ubzdr")));
     s.rsPLB.ustaw(PLB("WSK_UBR"), o_.stale.BlokujUbruttow ? Waluta::zlotych(100) : o_.stale.WskUbruttow);
 
-    naliczanie_.Przelicz2(tryb);
+    naliczanie_.WypelnijSkladniki();
+    naliczanie_.Przelicz_Dni(tryb);
+}
+
+void ListaPlac::wymagajPracownika(qint64 prcId) const {
+    if (!o_.sesja.UstawPracownika(prcId))
+        throw Blad(QStringLiteral("Nie ma pracownika o numerze %1 w kadrach.").arg(prcId));
 }
 
 std::optional<KluczListy> ListaPlac::Nowy_prac(qint64 prcId) {
     wymagajOtwartego();
-    if (!o_.sesja.UstawPracownika(prcId))
-        throw Blad(QStringLiteral("Nie ma pracownika o numerze %1 w kadrach.").arg(prcId));
+    wymagajPracownika(prcId);
     const QString lista = symbolNowegoWiersza();
     if (naLiscie(prcId, lista)) {
         o_.rozmowa.komunikat(QStringLiteral("Nie można wprowadzić dwa razy tej samej osoby na jedną listę!"),
@@ -225,6 +241,7 @@ RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
     CofnijWiersz();
     naliczanie_.przygotujSerie(ile);
     const auto postep = o_.rozmowa.postep(tytul, static_cast<int>(ile));
+    QHash<QString, qsizetype> znaneUwagi;
     Transakcja transakcja(o_.sesja.cnPlace);
     for (qsizetype i = 0; i < ile; ++i) {
         const qint64 prcId = numer(i);
@@ -243,8 +260,17 @@ RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
             throw; // the file itself fails: nothing of the batch may stay
         } catch (const Blad& blad) {
             CofnijWiersz();
+            (void)naliczanie_.zabierzUwagi();
             raport.niepowodzenia.append({prcId, blad.komunikat()});
             continue;
+        }
+        for (const QString& uwaga : naliczanie_.zabierzUwagi()) {
+            if (!znaneUwagi.contains(uwaga)) {
+                znaneUwagi.insert(uwaga, raport.uwagi.size());
+                raport.uwagi.append({uwaga, {}});
+            }
+            QList<qint64>& kto = raport.uwagi[znaneUwagi.value(uwaga)].pracownicy;
+            if (kto.isEmpty() || kto.last() != prcId) kto.append(prcId);
         }
         for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch();
     }
@@ -260,11 +286,11 @@ RaportSerii ListaPlac::DodajPracownikow(const QList<qint64>& numery) {
         tytul(), numery.size(), [&](qsizetype i) { return numery[i]; },
         [&](qsizetype i) {
             const qint64 prcId = numery[i];
-            if (!o_.sesja.UstawPracownika(prcId))
-                throw Blad(QStringLiteral("Nie ma pracownika o numerze %1 w kadrach.").arg(prcId));
+            wymagajPracownika(prcId);
             const QString lista = symbolNowegoWiersza();
             if (naLiscie(prcId, lista)) return false;
             dodajRekordy(prcId, lista, Tryb::Seria);
+            naliczanie_.Przelicz2(Tryb::Seria);
             naliczanie_.Przelicz1(Tryb::Seria);
             return true;
         });
@@ -286,6 +312,7 @@ bool ListaPlac::Usun_prac() {
 
 void ListaPlac::zmienWiersz(const std::function<void()>& zmiana) {
     odpowiedzi_ = {};
+    naliczanie_.przygotujWiersz();
     try {
         zmiana();
         zapiszWiersz();
@@ -295,15 +322,37 @@ void ListaPlac::zmienWiersz(const std::function<void()>& zmiana) {
     }
 }
 
+void ListaPlac::obliczWiersz(const std::function<void()>& obliczenie) {
+    zmienWiersz([&] {
+        try {
+            obliczenie();
+        } catch (const BladBazy&) {
+            throw; // the file fails, not the employee
+        } catch (const Blad& blad) {
+            const Recordset& a = o_.sesja.rsPLA;
+            throw Blad(QStringLiteral("Pracownik nr %1 %2 %3: %4")
+                           .arg(a.liczba(PLA("PRC_ID")))
+                           .arg(a.tekst(PLA("NAZ")), a.tekst(PLA("IMIE")), blad.komunikat()));
+        }
+    });
+}
+
+void ListaPlac::Przelicz_Dni() {
+    wymagajWiersza();
+    obliczWiersz([this] { naliczanie_.Przelicz_Dni(Tryb::Pojedynczy); });
+}
+
 void ListaPlac::Przelicz2() {
     wymagajWiersza();
+    wymagajPracownika(wiersz_->prcId);
     Pobierz_Akt();
-    zmienWiersz([this] { naliczanie_.Przelicz2(Tryb::Pojedynczy); });
+    obliczWiersz([this] { naliczanie_.Przelicz2(Tryb::Pojedynczy); });
 }
 
 void ListaPlac::Przelicz1() {
     wymagajWiersza();
-    zmienWiersz([this] { naliczanie_.Przelicz1(Tryb::Pojedynczy); });
+    wymagajPracownika(wiersz_->prcId);
+    obliczWiersz([this] { naliczanie_.Przelicz1(Tryb::Pojedynczy); });
 }
 
 RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze) {
@@ -313,8 +362,7 @@ RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczLis
         tytul(), wiersze.size(), [&](qsizetype i) { return wiersze[i].prcId; },
         [&](qsizetype i) {
             ustawNa(wiersze[i]);
-            if (!o_.sesja.rsPRACPR.naWierszu() || !o_.sesja.rsPRACSK.naWierszu())
-                throw Blad(QStringLiteral("Nie ma pracownika o numerze %1 w kadrach.").arg(wiersze[i].prcId));
+            wymagajPracownika(wiersze[i].prcId);
             wymagajWiersza();
             if (obliczenie == Obliczenie::Przepisanie)
                 naliczanie_.Przelicz2(Tryb::Seria);

@@ -36,8 +36,14 @@ struct RaportSerii {
     int pominiete = 0; ///< already on the list
     bool przerwana = false;
     QList<Niepowodzenie> niepowodzenia;
+    /// What the calculations left out, with the employees whom it concerns, in the order it was met.
+    struct Uwaga {
+        QString tekst;
+        QList<qint64> pracownicy;
+    };
+    QList<Uwaga> uwagi;
 
-    /// One line for each employee who was not computed, empty if there is none.
+    /// One line for each employee who was not computed, then one for each remark; empty if there is none.
     [[nodiscard]] QString tekst() const;
 };
 
@@ -48,9 +54,11 @@ enum class Obliczenie {
 
 class ListaPlac {
 public:
-    /// Opens the month's four tables. `symbol` is the list's symbol, a blank for all lists. Throws `Blad`
-    /// when the month does not exist or one of its tables is missing.
-    ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol);
+    /// Opens the month's four tables. `symbol` is the list's symbol, a blank for all lists. `wykazy`, if any,
+    /// lets the clerk correct averages while one row is computed; it outlives the list. Throws `Blad` when
+    /// the month does not exist or one of its tables is missing.
+    ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol,
+              WykazyPodstaw* wykazy = nullptr);
     ~ListaPlac();
     ListaPlac(const ListaPlac&) = delete;
     ListaPlac& operator=(const ListaPlac&) = delete;
@@ -76,9 +84,9 @@ public:
 
     // Adding and removing. Each is one action; a blocked month throws `Blad`.
 
-    /// Adds the employee with his components, without computing the row; the handles stand on it. Nothing
-    /// (after a message) if he is on the list already. Reads the personnel tables; writes `PLA`, `PLB`,
-    /// `PLS`, `PLD`. Throws `Blad` for an unknown employee.
+    /// Adds the employee with his components and days, without computing the row; the handles stand on it.
+    /// Nothing (after a message) if he is on the list already. Reads the personnel tables; writes `PLA`,
+    /// `PLB`, `PLS`, `PLD`. Throws `Blad` for an unknown employee.
     std::optional<KluczListy> Nowy_prac(qint64 prcId);
     /// Adds and computes all given employees as one batch: questions once, progress with cancel, an employee
     /// whose calculation fails is left out and named in the report. The whole batch is one write.
@@ -86,8 +94,11 @@ public:
     /// Asks and deletes the four records of the row taken up. False on No.
     bool Usun_prac();
 
-    // Calculations.
+    // Calculations. One that fails leaves the row as it was and throws `Blad` with the employee and the
+    // cause.
 
+    /// `Przelicz_Dni` of the row taken up, saved.
+    void Przelicz_Dni();
     /// `Przelicz2` of the row taken up, saved.
     void Przelicz2();
     /// `Przelicz1` of the row taken up, saved.
@@ -119,8 +130,10 @@ private:
     void Pobierz_Akt();
     void wymagajOtwartego() const;
     void wymagajWiersza();
+    void wymagajPracownika(qint64 prcId) const;
     void zapiszWiersz();
     void zmienWiersz(const std::function<void()>& zmiana);
+    void obliczWiersz(const std::function<void()>& obliczenie);
     [[nodiscard]] bool naLiscie(qint64 prcId, const QString& lista);
     [[nodiscard]] QString symbolNowegoWiersza() const;
     void dodajRekordy(qint64 prcId, const QString& lista, Tryb tryb);

@@ -14,6 +14,23 @@ std::array<Recordset*, 3> naglowki(Sesja& s) { return {&s.rsPLACE, &s.rsPLACEN, 
 
 } // namespace
 
+void WymagajTabeli(Sesja& sesja, const QString& nazwa) {
+    if (!sesja.cnPlace.jestTabela(nazwa))
+        throw Blad(
+            QStringLiteral("W bazie danych brakuje tabeli %1, choć jej miesiąc jest na liście.").arg(nazwa));
+}
+
+bool JestMiesiac(Sesja& sesja, RokMies miesiac, std::initializer_list<std::string_view> tabele) {
+    if (!sesja.rsPLACE.otwarty()) sesja.OtworzNaglowki();
+    const Zakladka tu = sesja.rsPLACE.Bookmark();
+    const bool jest = sesja.rsPLACE.Znajdz(FormatRoku(miesiac.rok), FormatMiesiaca(miesiac.mies));
+    sesja.rsPLACE.Bookmark(tu);
+    if (jest)
+        for (const std::string_view tabela : tabele)
+            WymagajTabeli(sesja, Sesja::nazwaMiesiaca(tabela, miesiac.rok, miesiac.mies));
+    return jest;
+}
+
 Miesiace::Miesiace(Otoczenie& otoczenie) : o_(otoczenie) { o_.sesja.OtworzNaglowki(); }
 
 QList<WierszMiesiaca> Miesiace::Wczytaj_liste() const {

@@ -2,9 +2,11 @@
 #pragma once
 #include "rules/Otoczenie.h"
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <QList>
 #include <QString>
+#include <string_view>
 
 struct RokMies {
     int rok = 0;
@@ -17,6 +19,13 @@ struct WierszMiesiaca {
     RokMies miesiac;
     bool zablokowany = false;
 };
+
+/// Throws `Blad` that names the table when the file lacks it, though a header says that it is there.
+void WymagajTabeli(Sesja& sesja, const QString& nazwa);
+/// Whether the month is on the list. Reads `PLACE`, whose position is kept. Throws `Blad` when one of its
+/// tables
+/// (`PLA`, ...) is missing.
+[[nodiscard]] bool JestMiesiac(Sesja& sesja, RokMies miesiac, std::initializer_list<std::string_view> tabele);
 
 /// Asks the clerk for a month; nothing when cancelled.
 using WyborMiesiaca = std::function<std::optional<RokMies>()>;

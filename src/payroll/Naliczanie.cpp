@@ -1,6 +1,5 @@
 #include "payroll/Naliczanie.h"
 #include "common/Daty.h"
-#include "payroll/OdpowiedziSerii.h"
 #include "payroll/StareBrutto.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
@@ -10,8 +9,10 @@ using schemat::PLA;
 using schemat::PLB;
 using schemat::PRACPR;
 
-Naliczanie::Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziSerii& odpowiedzi)
-    : o_(otoczenie), pozycje_(pozycje), odpowiedzi_(odpowiedzi) {}
+Naliczanie::Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziSerii& odpowiedzi,
+                       WykazyPodstaw* wykazy)
+    : o_(otoczenie), pozycje_(pozycje), odpowiedzi_(odpowiedzi),
+      w_{otoczenie, pozycje, odpowiedzi, wykazy, DaneNieobecnosci(otoczenie.sesja), Odczyt::PoJednym, {}} {}
 
 Naliczanie::~Naliczanie() = default;
 
@@ -26,9 +27,13 @@ void Naliczanie::WypelnijDodatni(int i) {
     else
         kwota = s.rsPRACSK.kwota(schemat::DodatniPracownika(i));
     s.rsPLS.ustaw(schemat::SP(i), kwota);
+    WypelnijOkres(i);
+}
 
+void Naliczanie::WypelnijOkres(int i) {
+    Sesja& s = o_.sesja;
     QDate od, dokad;
-    if (kwota > Waluta{}) {
+    if (s.rsPLS.kwota(schemat::SP(i)) > Waluta{}) {
         const QDate pierwszy = PierwszyDzien(s.rok(), s.mies());
         const QDate umowaOd = s.rsPRACPR.data(PRACPR("umowa_od"));
         od = !umowaOd.isValid() || umowaOd < pierwszy ? pierwszy : umowaOd;
@@ -42,11 +47,21 @@ void Naliczanie::WypelnijUjemny(int i) {
     o_.sesja.rsPLS.ustaw(schemat::SM(i), o_.sesja.rsPRACSK.kwota(schemat::UjemnyPracownika(i)));
 }
 
-void Naliczanie::Przelicz2(Tryb) {
+void Naliczanie::WypelnijSkladniki() {
     for (int i = 1; i <= 30; ++i)
         if (pozycje_.dodatnia(i).aktywna()) WypelnijDodatni(i);
     for (int i = 1; i <= 15; ++i)
         if (pozycje_.ujemna(i).aktywna()) WypelnijUjemny(i);
+}
+
+void Naliczanie::Przelicz2(Tryb tryb) {
+    WypelnijSkladniki();
+    if (o_.stale.AktRejNadg)
+        for (const int nr : nadgodziny_.PrzeniesNadgodziny(tryb)) WypelnijOkres(nr);
+    const Waluta zasilek = l4_.WyliczL4(tryb);
+    urlop_.WyliczURL(tryb);
+    const Recordset& a = o_.sesja.rsPLA;
+    zasilek_ = {a.liczba(PLA("PRC_ID")), a.tekst(PLA("LISTA")), zasilek};
 }
 
 void Naliczanie::dolicz(const PozycjaSkladnika& pozycja, Waluta kwota) {
@@ -158,10 +173,24 @@ void Naliczanie::PrzyjmijUbzdrNalezne() {
     o_.sesja.rsPLB.ustaw(PLB("UBZDR"), o_.sesja.rsPLB.kwota(PLB("UBZDR_NAL")));
 }
 
+void Naliczanie::zapomnij(Odczyt odczyt) {
+    w_.odczyt = odczyt;
+    w_.uwagi.clear();
+    w_.dane.zapomnij(odczyt);
+    nadgodziny_.zapomnij();
+    l4_.zapomnij();
+    urlop_.zapomnij();
+    stareBrutto_.reset();
+}
+
+void Naliczanie::przygotujWiersz() { zapomnij(Odczyt::PoJednym); }
+
 void Naliczanie::przygotujSerie(qsizetype ile) {
-    stareBrutto_ = std::make_unique<StareBrutto>(o_.sesja);
     constexpr qsizetype kCzescFirmy = 8;
-    if (ile * kCzescFirmy >= o_.sesja.rsPRACPR.RecordCount()) stareBrutto_->wczytajWszystkich();
+    const bool wiekszosc = ile * kCzescFirmy >= o_.sesja.rsPRACPR.RecordCount();
+    zapomnij(wiekszosc ? Odczyt::Wszystkich : Odczyt::PoJednym);
+    stareBrutto_ = std::make_unique<StareBrutto>(o_.sesja);
+    if (wiekszosc) stareBrutto_->wczytajWszystkich();
 }
 
 BruttoRoku Naliczanie::OdczytajStareBrutto(Tryb tryb) {
@@ -232,6 +261,9 @@ void Naliczanie::WyliczPodatek(Tryb tryb) {
 
 Waluta Naliczanie::ZasilekChorobowy() const {
     const Sesja& s = o_.sesja;
+    if (zasilek_ && zasilek_->prcId == s.rsPLA.liczba(PLA("PRC_ID")) &&
+        zasilek_->lista == s.rsPLA.tekst(PLA("LISTA")))
+        return zasilek_->kwota;
     Waluta zasilek;
     if (s.rsPLA.liczba(PLA("DNI_L4_ZUS")) <= 0) return zasilek;
     // The four numbers may repeat a component, which still counts once.

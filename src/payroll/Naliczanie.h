@@ -2,12 +2,14 @@
 #pragma once
 #include "common/Rozmowa.h"
 #include "common/Waluta.h"
-#include "payroll/Pozycje.h"
-#include "rules/Otoczenie.h"
+#include "payroll/LiczenieDni.h"
+#include "payroll/PrzenoszenieNadgodzin.h"
+#include "payroll/Warsztat.h"
+#include "payroll/WynagrodzenieL4.h"
+#include "payroll/WynagrodzenieUrlop.h"
 #include <memory>
 #include <QDate>
 
-struct OdpowiedziSerii;
 class StareBrutto;
 
 /// The sums of the row in work, in zł, made by `WyliczPodstawy`.
@@ -33,23 +35,38 @@ struct BruttoRoku {
 /// remembered.
 class Naliczanie {
 public:
-    /// `pozycje` and `odpowiedzi` belong to the open list and outlive this object.
-    Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziSerii& odpowiedzi);
+    /// `pozycje` and `odpowiedzi` belong to the open list and outlive this object, as does `wykazy`, the
+    /// clerk's side of the absence calculations.
+    Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziSerii& odpowiedzi,
+               WykazyPodstaw* wykazy = nullptr);
     ~Naliczanie();
 
-    /// Refills the active components and their periods from the personnel file. Reads `PRACPR`, `PRACSK`;
+    /// Fills the active components and their periods from the personnel file. Reads `PRACPR`, `PRACSK`;
     /// changes `PLS`, `PLD`.
+    void WypelnijSkladniki();
+    /// Counts the days of the row by kind. Reads the absence registers and the calendars; changes `PLA`,
+    /// `PLB`.
+    void Przelicz_Dni(Tryb tryb) { dni_.Przelicz_Dni(tryb); }
+    /// Refills the components, adds the overtime and prices sick leaves and vacations. Changes all four
+    /// tables.
     void Przelicz2(Tryb tryb);
     /// Bases, contributions, tax and the amount to pay, with costs and tax credit taken anew from the
     /// employee. Reads `PRACPR`, `PLS`; changes `PLA`, `PLB`.
     void Przelicz1(Tryb tryb);
 
-    /// Before a batch over `ile` employees: the gross of earlier months, which do not change
-    /// while this one is open, is read once for all if the batch takes a good part of the firm.
+    /// Before a calculation of one row: what earlier ones read outside the open month is forgotten.
+    void przygotujWiersz();
+    /// Before a batch over `ile` employees: earlier months, registers and calendars, which do not change
+    /// meanwhile, are read once for all if the batch takes a good part of the firm.
     void przygotujSerie(qsizetype ile);
+    /// What the calculations since the last call left out and the report of a batch has to tell.
+    [[nodiscard]] QStringList zabierzUwagi() { return std::exchange(w_.uwagi, {}); }
 
     /// One additive component i from 1 to 30, with its period, by the personnel file.
     void WypelnijDodatni(int i);
+    /// The period of component i for its amount on the row: the month, from the contract's first day on; none
+    /// without an amount.
+    void WypelnijOkres(int i);
     /// One deductive component i from 1 to 15.
     void WypelnijUjemny(int i);
 
@@ -67,12 +84,20 @@ public:
     /// Reads `PRACPR` and, through the file, the earlier months' `PLA`; `UZL`, `UOD`, `HON` only for one row,
     /// since contracts serve the warnings alone.
     [[nodiscard]] BruttoRoku OdczytajStareBrutto(Tryb tryb);
-    /// The sick benefit of the row: its components named by constant 105 if `dni_l4_zus` is above 0.
+    /// The sick benefit of the row, zł: as `WyliczL4` left it, if that ran on this row last; otherwise the
+    /// row's components named by constant 105 if `dni_l4_zus` is above 0.
     [[nodiscard]] Waluta ZasilekChorobowy() const;
 
     [[nodiscard]] const SumyWiersza& sumy() const { return sumy_; }
 
 private:
+    struct ZasilekWiersza {
+        qint64 prcId = 0;
+        QString lista;
+        Waluta kwota;
+    };
+
+    void zapomnij(Odczyt odczyt);
     void dolicz(const PozycjaSkladnika& pozycja, Waluta kwota);
     [[nodiscard]] Waluta stawkaPodatku(Tryb tryb);
     void ostrzezOUmowach(Waluta brutto, int mnoznik);
@@ -80,6 +105,12 @@ private:
     Otoczenie& o_;
     const Pozycje& pozycje_;
     OdpowiedziSerii& odpowiedzi_;
+    Warsztat w_;
+    LiczenieDni dni_{w_};
+    PrzenoszenieNadgodzin nadgodziny_{w_};
+    WynagrodzenieL4 l4_{w_};
+    WynagrodzenieUrlop urlop_{w_};
+    std::optional<ZasilekWiersza> zasilek_;
     std::unique_ptr<StareBrutto> stareBrutto_;
     SumyWiersza sumy_;
 };

@@ -1,6 +1,6 @@
 // What an employee earned in the year before the open month, read through the file's indexes.
 #pragma once
-#include "common/Waluta.h"
+#include "payroll/SumaKwot.h"
 #include <memory>
 #include <optional>
 #include <QHash>
@@ -12,7 +12,8 @@ class Sesja;
 /// Look-ups for one open month. The statements are prepared once and serve every employee of the list.
 class StareBrutto {
 public:
-    /// For the month open in `sesja`. Reads `PLACE` (its position is kept).
+    /// For the month open in `sesja`. Reads `PLACE` (its position is kept). Throws `Blad` when an earlier
+    /// month stands on the list and its table is missing.
     explicit StareBrutto(Sesja& sesja);
     ~StareBrutto();
 
@@ -21,7 +22,7 @@ public:
     void wczytajWszystkich();
 
     /// `BRUTTO` in zł of all rows of the employee, on every list, in the months of the year before the open
-    /// one. Reads the tables `PLA` of those months.
+    /// one. Reads the tables `PLA` of those months. Throws `Przepelnienie`.
     [[nodiscard]] Waluta zListPlac(qint64 prcId);
     /// Brutto in zł of the employee's contracts paid from 1 January to the last day of the open month. Reads
     /// `UZL`, `UOD`, `HON`.
@@ -31,6 +32,6 @@ private:
     Sesja& sesja_;
     QStringList tabele_;                // PLA of the year's earlier months
     std::unique_ptr<Instrukcja> listy_; // none when there is no earlier month
-    std::optional<QHash<qint64, Waluta>> wszyscy_;
+    std::optional<QHash<qint64, SumaKwot>> wszyscy_;
     std::unique_ptr<Instrukcja> umowy_;
 };

@@ -65,7 +65,10 @@ public:
 
 class PlaceTestowe : public BazaTestowa {
 protected:
-    PlaceTestowe() { ulozKatalog(); }
+    PlaceTestowe() {
+        ulozKatalog();
+        stale().AktRejPrzepDni = false;
+    }
 
     static constexpr RokMies kLipiec{2001, 7};
 
@@ -101,8 +104,15 @@ protected:
             uchwyt(*tabela).UpdateBatch();
         }
     }
-    /// One employee onto the list; the clerk counts no days.
-    static std::optional<KluczListy> dopisz(ListaPlac& lista, qint64 prcId) { return lista.Nowy_prac(prcId); }
+    /// One employee onto the list, where no days are counted.
+    std::optional<KluczListy> dopisz(ListaPlac& lista, qint64 prcId) {
+        if (!stale().AktRejPrzepDni)
+            rozmowa_.spodziewaj(
+                QStringLiteral("Rejestracja przepracowanych dni jest wyłączona. Nie można obliczyć ilości "
+                               "przepracowanych dni, urlopu i L-4."),
+                Styl::Wykrzyknik);
+        return lista.Nowy_prac(prcId);
+    }
     /// Columns of the month's row that the handles stand on, in memory.
     void ustaw(const std::string& pola) {
         for (const auto& [k, wartosc] : polaTestu(schemat::TabeleMiesiaca, pola))

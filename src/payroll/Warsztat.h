@@ -1,0 +1,23 @@
+// What the calculations of one payroll row share.
+#pragma once
+#include "payroll/DaneNieobecnosci.h"
+#include "payroll/OdpowiedziSerii.h"
+#include "payroll/Pozycje.h"
+#include "payroll/WykazyPodstaw.h"
+#include "rules/Otoczenie.h"
+#include <QStringList>
+
+struct Warsztat {
+    Otoczenie& o;
+    const Pozycje& pozycje;
+    OdpowiedziSerii& odpowiedzi;
+    WykazyPodstaw* wykazy; ///< none: the computed averages and the suggested components stand
+    DaneNieobecnosci dane;
+    Odczyt odczyt = Odczyt::PoJednym;
+    QStringList uwagi; ///< of the row in work, for the closing report of a batch
+
+    /// Whether the component may take an amount: a number from 1 to 30 with both active marks.
+    [[nodiscard]] bool aktywny(int nr) const { return nr >= 1 && nr <= 30 && pozycje.dodatnia(nr).aktywna(); }
+    /// Tells the clerk that something was left out: at once for one row, in the closing report for a batch.
+    void uwaga(Tryb tryb, const QString& tekst, Styl styl = Styl::Wykrzyknik);
+};
