@@ -57,18 +57,25 @@ int wykonajSerie(Wywolanie& w, ListaPlac& lista, const std::function<RaportSerii
     for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia)
         niepowodzenia.append(
             QJsonObject{{QStringLiteral("pracownik"), n.prcId}, {QStringLiteral("powod"), n.powod}});
+    QJsonArray uwagi;
+    for (const RaportSerii::Uwaga& u : raport.uwagi) {
+        QJsonArray pracownicy;
+        for (const qint64 prcId : u.pracownicy) pracownicy.append(prcId);
+        uwagi.append(
+            QJsonObject{{QStringLiteral("tekst"), u.tekst}, {QStringLiteral("pracownicy"), pracownicy}});
+    }
     if (w.json())
         w.pisz(QJsonObject{{QStringLiteral("wykonane"), raport.wykonane},
                            {QStringLiteral("pominiete"), raport.pominiete},
-                           {QStringLiteral("niepowodzenia"), niepowodzenia}});
+                           {QStringLiteral("niepowodzenia"), niepowodzenia},
+                           {QStringLiteral("uwagi"), uwagi}});
     else
         w.pisz(QStringLiteral("Wiersze wykonane: %1, pominięte: %2, nieudane: %3.")
                    .arg(raport.wykonane)
                    .arg(raport.pominiete)
                    .arg(raport.niepowodzenia.size()));
-    if (raport.niepowodzenia.isEmpty()) return status::Wykonane;
-    w.rozmowa.komunikat(raport.tekst(), Styl::Wykrzyknik);
-    return status::Odmowa;
+    if (!raport.tekst().isEmpty()) w.rozmowa.komunikat(raport.tekst(), Styl::Wykrzyknik);
+    return raport.niepowodzenia.isEmpty() ? status::Wykonane : status::Odmowa;
 }
 
 int dodaj(Wywolanie& w) {
@@ -101,6 +108,7 @@ int przelicz(Wywolanie& w, Obliczenie obliczenie) {
     });
 }
 
+int przeliczDni(Wywolanie& w) { return przelicz(w, Obliczenie::PoliczenieDni); }
 int przepisz(Wywolanie& w) { return przelicz(w, Obliczenie::Przepisanie); }
 int przeliczWiersze(Wywolanie& w) { return przelicz(w, Obliczenie::Przeliczenie); }
 
@@ -239,9 +247,16 @@ QList<Polecenie> poleceniaListy() {
          kDowolnieWiele,
          {symbol, pracownik, {u"wszyscy", {}}},
          dodaj},
+        {u"lista dni",
+         u"RRRR-MM [--lista X] [--pracownik N ...]",
+         u"liczy dni wierszy z kalendarza i rejestrów nieobecności",
+         1,
+         kDowolnieWiele,
+         {symbol, pracownik},
+         przeliczDni},
         {u"lista przepisz",
          u"RRRR-MM [--lista X] [--pracownik N ...]",
-         u"przepisuje składniki wierszy z kadr",
+         u"przepisuje składniki wierszy z kadr, dolicza nadgodziny, L-4 i urlopy",
          1,
          kDowolnieWiele,
          {symbol, pracownik},

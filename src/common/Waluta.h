@@ -1,8 +1,11 @@
 // Money: a whole number of 1/10000 zł, and every rounding that the payroll knows.
 #pragma once
+// First, since moc cannot read the concepts that <compare> brings where Qt's own headers have not been
+// before.
+#include <QString>
+
 #include <compare>
 #include <cstdint>
-#include <QString>
 
 /// An amount in zł (or a percentage) with exactly four decimal places. Addition, subtraction and comparison
 /// are exact; an overflow throws `Przepelnienie`. There is no conversion from double without a named

@@ -357,6 +357,10 @@ void ListaPlac::Przelicz1() {
 
 RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze) {
     wymagajOtwartego();
+    if (obliczenie == Obliczenie::PoliczenieDni && !o_.stale.AktRejPrzepDni) {
+        naliczanie_.Przelicz_Dni(Tryb::Pojedynczy); // says that counting is off
+        return {};
+    }
     Pobierz_Akt();
     return wykonajSerie(
         tytul(), wiersze.size(), [&](qsizetype i) { return wiersze[i].prcId; },
@@ -364,10 +368,17 @@ RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczLis
             ustawNa(wiersze[i]);
             wymagajPracownika(wiersze[i].prcId);
             wymagajWiersza();
-            if (obliczenie == Obliczenie::Przepisanie)
+            switch (obliczenie) {
+            case Obliczenie::PoliczenieDni:
+                naliczanie_.Przelicz_Dni(Tryb::Seria);
+                break;
+            case Obliczenie::Przepisanie:
                 naliczanie_.Przelicz2(Tryb::Seria);
-            else
+                break;
+            case Obliczenie::Przeliczenie:
                 naliczanie_.Przelicz1(Tryb::Seria);
+                break;
+            }
             return true;
         });
 }

@@ -48,6 +48,7 @@ struct RaportSerii {
 };
 
 enum class Obliczenie {
+    PoliczenieDni, ///< `Przelicz_Dni`: the month's days by kind
     Przepisanie,  ///< `Przelicz2`: components anew from the personnel file
     Przeliczenie, ///< `Przelicz1`: bases, contributions, tax, amount to pay
 };

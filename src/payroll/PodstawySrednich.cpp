@@ -95,7 +95,7 @@ private:
     std::optional<QHash<qint64, Zbior>> wszyscy_;
 };
 
-PodstawySrednich::PodstawySrednich(Sesja& sesja, std::span<const int> skladniki, Rodzaj rodzaj, Odczyt odczyt)
+PodstawySrednich::PodstawySrednich(Sesja& sesja, const QList<int>& skladniki, Rodzaj rodzaj, Odczyt odczyt)
     : sesja_(sesja), rodzaj_(rodzaj), odczyt_(odczyt) {
     for (const int nr : skladniki)
         if (nr >= 1 && nr <= 30) skladniki_.append(nr);

@@ -5,7 +5,6 @@
 #include <memory>
 #include <QList>
 #include <QString>
-#include <span>
 #include <vector>
 
 class Sesja;
@@ -27,7 +26,7 @@ public:
 
     /// `skladniki`: numbers of components, counted as often as they stand there; others than 1 to 30 are left
     /// out.
-    PodstawySrednich(Sesja& sesja, std::span<const int> skladniki, Rodzaj rodzaj, Odczyt odczyt);
+    PodstawySrednich(Sesja& sesja, const QList<int>& skladniki, Rodzaj rodzaj, Odczyt odczyt);
     ~PodstawySrednich();
 
     /// The `ile` months before the open one, the latest first. Reads `PLACE` (its position is kept), `PLS`

@@ -45,8 +45,9 @@ SrednieL4 WynagrodzenieL4::SredniaDoL4(qint64 prcId, int ile) {
     ile = std::min(ile, kNajwiecejMiesiecy);
     if (ile <= 0) return wynik;
     if (!podstawy_)
-        podstawy_ = std::make_unique<PodstawySrednich>(w_.o.sesja, w_.o.stale.SklSrL4,
-                                                       PodstawySrednich::Rodzaj::ZeStawkami, w_.odczyt);
+        podstawy_ = std::make_unique<PodstawySrednich>(
+            w_.o.sesja, QList<int>(w_.o.stale.SklSrL4.begin(), w_.o.stale.SklSrL4.end()),
+            PodstawySrednich::Rodzaj::ZeStawkami, w_.odczyt);
     Waluta brutto, netto;
     for (const PodstawaMiesiaca& m : podstawy_->pracownika(prcId, ile)) {
         const Waluta poSkladkach = bezSkladek(m.skladniki, m.wsk_feprc, m.wsk_frprc, m.wsk_fcprc);

@@ -25,8 +25,9 @@ SredniaUrlopu WynagrodzenieUrlop::SredniaDoUrlopu(qint64 prcId, int ile) {
     ile = std::min(ile, kNajwiecejMiesiecy);
     if (ile <= 0) return wynik;
     if (!podstawy_)
-        podstawy_ = std::make_unique<PodstawySrednich>(w_.o.sesja, w_.o.stale.SkSumDoSrURL,
-                                                       PodstawySrednich::Rodzaj::ZDniami, w_.odczyt);
+        podstawy_ = std::make_unique<PodstawySrednich>(
+            w_.o.sesja, QList<int>(w_.o.stale.SkSumDoSrURL.begin(), w_.o.stale.SkSumDoSrURL.end()),
+            PodstawySrednich::Rodzaj::ZDniami, w_.odczyt);
     Waluta suma;
     for (const PodstawaMiesiaca& m : podstawy_->pracownika(prcId, ile)) {
         wynik.miesiace.append({m.nazwa, m.skladniki, {}});

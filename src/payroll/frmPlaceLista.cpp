@@ -42,7 +42,7 @@ QLabel* napis(const QString& nazwa) {
 } // namespace
 
 frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol),
+    : QDialog(rodzic), o_(otoczenie), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
       lvwPlace_(new WidokListy(
           {{QStringLiteral("NAZWISKO")}, {QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("LISTA")}},
           {60, 18, 22})),
@@ -80,6 +80,7 @@ void frmPlaceLista::polacz() {
     connect(pasek_, &PasekListy::nowy, this, &frmPlaceLista::nowy);
     connect(pasek_, &PasekListy::usun, this, &frmPlaceLista::usun);
     connect(pasek_, &PasekListy::przepisz, this, &frmPlaceLista::przepisz);
+    connect(pasek_, &PasekListy::przeliczDni, this, &frmPlaceLista::przeliczDni);
     connect(pasek_, &PasekListy::przelicz, this, &frmPlaceLista::przelicz);
     connect(pasek_, &PasekListy::seria, this, &frmPlaceLista::seria);
     connect(pasek_, &PasekListy::powrot, this, &QDialog::reject);
@@ -284,6 +285,13 @@ void frmPlaceLista::przepisz() {
     if (const auto klucz = biezacy()) oznacz(*klucz, true);
 }
 
+void frmPlaceLista::przeliczDni() {
+    zakladki_->zakoncz();
+    lista_.Przelicz_Dni();
+    zakladki_->Wypisz_daneP();
+    zakladki_->setCurrentIndex(ZakladkiListy::CzasPracy);
+}
+
 void frmPlaceLista::seria(const QList<Obliczenie>& obliczenia) {
     zakladki_->zakoncz();
     const Klepsydra klepsydra;
@@ -299,7 +307,7 @@ void frmPlaceLista::seria(const QList<Obliczenie>& obliczenia) {
             if (nieudane.contains(k.prcId)) continue;
             if (obliczenie == Obliczenie::Przepisanie)
                 doPrzeliczenia_.emplace(k.prcId, k.lista);
-            else
+            else if (obliczenie == Obliczenie::Przeliczenie)
                 doPrzeliczenia_.erase({k.prcId, k.lista});
         }
         pokazRaport(raport);

@@ -1,5 +1,6 @@
 // The working place of a payroll month: its list, the tabs of the row chosen, and the calculations.
 #pragma once
+#include "payroll/frmWykazy.h"
 #include "payroll/ListaPlac.h"
 #include "payroll/Miesiace.h"
 #include "rules/Otoczenie.h"
@@ -51,6 +52,7 @@ private:
     void usun();
     void przelicz();
     void przepisz();
+    void przeliczDni();
     void seria(const QList<Obliczenie>& obliczenia);
     void pokazRaport(const RaportSerii& raport);
     void oznacz(const KluczListy& klucz, bool doPrzeliczenia);
@@ -60,6 +62,7 @@ private:
     using Wiersz = std::pair<qint64, QString>;
 
     Otoczenie& o_;
+    WykazyOkien wykazy_{this};
     ListaPlac lista_;
     QList<LiniaListy> linie_;
     /// Rows that wait for `Przelicz1`: their components were changed here since the last calculation.

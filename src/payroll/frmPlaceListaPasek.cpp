@@ -33,10 +33,9 @@ PasekListy::PasekListy(QWidget* rodzic) : QWidget(rodzic) {
     cmdCalaLista_ = przycisk(QStringLiteral("cmdCalaLista"), QStringLiteral("&Cała lista"));
     cmdDrukuj_ = przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj");
     cmdAnuluj_ = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Powrót"), u"powrot");
-    cmdPrzepisz_->setToolTip(QStringLiteral("Składniki na nowo z kadr (F8)"));
+    cmdPrzepisz_->setToolTip(QStringLiteral("Składniki na nowo z kadr, nadgodziny, L-4 i urlopy (F8)"));
     cmdPrzelicz_->setToolTip(QStringLiteral("Podstawy, składki, podatek i kwota do wypłaty (F9)"));
-    cmdDni_->setToolTip(QStringLiteral("Liczenie dni z kalendarza i rejestrów nie jest jeszcze dostępne."));
-    cmdDni_->setEnabled(false);
+    cmdDni_->setToolTip(QStringLiteral("Dni miesiąca z kalendarza i rejestrów nieobecności (F7)"));
     // Enter moves on from field to field, so no button may catch it.
     const QList<QPushButton*> wszystkie{cmdNowy_,     cmdUsun_,      cmdPrzepisz_, cmdDni_,
                                         cmdPrzelicz_, cmdCalaLista_, cmdDrukuj_,   cmdAnuluj_};
@@ -44,9 +43,11 @@ PasekListy::PasekListy(QWidget* rodzic) : QWidget(rodzic) {
     connect(cmdNowy_, &QPushButton::clicked, this, &PasekListy::nowy);
     connect(cmdUsun_, &QPushButton::clicked, this, &PasekListy::usun);
     connect(cmdPrzepisz_, &QPushButton::clicked, this, &PasekListy::przepisz);
+    connect(cmdDni_, &QPushButton::clicked, this, &PasekListy::przeliczDni);
     connect(cmdPrzelicz_, &QPushButton::clicked, this, &PasekListy::przelicz);
     connect(cmdAnuluj_, &QPushButton::clicked, this, &PasekListy::powrot);
     // Not the buttons' own shortcuts, which would take the place of their mnemonics.
+    connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, cmdDni_, &QPushButton::click);
     connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, cmdPrzepisz_, &QPushButton::click);
     connect(new QShortcut(Qt::Key_F9, this), &QShortcut::activated, cmdPrzelicz_, &QPushButton::click);
     budujMenu();
@@ -59,6 +60,7 @@ PasekListy::PasekListy(QWidget* rodzic) : QWidget(rodzic) {
 void PasekListy::budujMenu() {
     auto* cala = new QMenu(this);
     const std::pair<QString, QList<Obliczenie>> serie[] = {
+        {QStringLiteral("Przelicz dni wszystkich"), {Obliczenie::PoliczenieDni}},
         {QStringLiteral("Przepisz wszystkich"), {Obliczenie::Przepisanie}},
         {QStringLiteral("Przelicz wszystkich"), {Obliczenie::Przeliczenie}},
         {QStringLiteral("Przepisz i przelicz wszystkich"),
@@ -81,7 +83,7 @@ void PasekListy::budujMenu() {
 
 void PasekListy::ustawDostepnosc(bool zablokowany, bool pusta) {
     cmdNowy_->setEnabled(!zablokowany);
-    for (QPushButton* p : {cmdUsun_, cmdPrzepisz_, cmdPrzelicz_, cmdCalaLista_})
+    for (QPushButton* p : {cmdUsun_, cmdPrzepisz_, cmdDni_, cmdPrzelicz_, cmdCalaLista_})
         p->setEnabled(!zablokowany && !pusta);
     cmdDrukuj_->setEnabled(!pusta);
 }

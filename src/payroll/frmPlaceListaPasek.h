@@ -24,6 +24,7 @@ signals:
     void nowy();
     void usun();
     void przepisz();
+    void przeliczDni();
     void przelicz();
     void seria(const QList<Obliczenie>& obliczenia);
     void powrot();

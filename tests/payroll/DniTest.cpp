@@ -116,23 +116,21 @@ TEST_F(DniTest, WhatCannotBeCountedLeavesTheRowAndSaysWhy) {
         l->Przelicz_Dni();
         oczekujWPliku({1, u" "_s}, wynik);
     };
-    const auto seria = [&](const QString& raport) {
-        // Nothing but adding counts days in a batch.
-        rozmowa_.spodziewaj(u"Czy na pewno usunąć pracownika o numerze 1 z miesięcznej listy płac ?"_s,
-                            Odpowiedz::Tak);
-        l->Usun_prac();
+    const auto seria = [&](const QString& raport, const std::string& wynik) {
         rozmowa_.spodziewaj(pytania::dniSerii, Odpowiedz::Tak);
-        EXPECT_EQ(l->DodajPracownikow({1}).tekst(), raport);
+        EXPECT_EQ(l->PrzeliczSerie(Obliczenie::PoliczenieDni, {{1, u" "_s}}).tekst(), raport);
+        oczekujWPliku({1, u" "_s}, wynik);
         ASSERT_TRUE(l->Wypisz_daneP({1, u" "_s}));
         ustawIZapisz(przedtem);
     };
     rozmowa_.spodziewaj(pytania::dni, Odpowiedz::Tak);
     rozmowa_.spodziewaj(kBrakKalendarza, Styl::Wykrzyknik);
     przelicz(przedtem);
-    seria(u"Brak danych w kalendarzu. (pracownik nr 1)"_s);
+    seria(u"Brak danych w kalendarzu. (pracownik nr 1)"_s, przedtem);
 
     kalendarz(0, {2001, 6});
-    seria(u"W kalendarzu nie ma miesiąca, dni czasu pracy są równe 0. (pracownik nr 1)"_s);
+    seria(u"W kalendarzu nie ma miesiąca, dni czasu pracy są równe 0. (pracownik nr 1)"_s,
+          "DN_RO=0 DN_INN=0 DNI_UWYP=0");
     rozmowa_.spodziewaj(pytania::dni, Odpowiedz::Tak);
     przelicz("DN_RO=0 DN_SO=0 DN_NI=0 DN_URL=0 DN_ZAS=0 DN_INN=0 DNI_UWYP=0 DN_PR=0");
 
@@ -146,9 +144,9 @@ TEST_F(DniTest, WhatCannotBeCountedLeavesTheRowAndSaysWhy) {
     przelicz(przedtem);
 
     stale().AktRejPrzepDni = false;
-    rozmowa_.spodziewaj(u"Rejestracja przepracowanych dni jest wyłączona. Nie można obliczyć ilości "
-                        "przepracowanych dni, urlopu i L-4."_s,
-                        Styl::Wykrzyknik);
+    rozmowa_.spodziewaj(pytania::dniWylaczone, Styl::Wykrzyknik);
+    EXPECT_EQ(l->PrzeliczSerie(Obliczenie::PoliczenieDni, {{1, u" "_s}}).wykonane, 0);
+    rozmowa_.spodziewaj(pytania::dniWylaczone, Styl::Wykrzyknik);
     przelicz(przedtem);
 }
 

@@ -63,6 +63,12 @@ public:
     [[nodiscard]] bool pytanie(const QString& tekst, const QString&) override { throw Przerwanie(tekst); }
 };
 
+namespace pytania {
+inline const QString dniWylaczone =
+    QStringLiteral("Rejestracja przepracowanych dni jest wyłączona. Nie można obliczyć ilości "
+                   "przepracowanych dni, urlopu i L-4.");
+} // namespace pytania
+
 class PlaceTestowe : public BazaTestowa {
 protected:
     PlaceTestowe() {
@@ -106,11 +112,7 @@ protected:
     }
     /// One employee onto the list, where no days are counted.
     std::optional<KluczListy> dopisz(ListaPlac& lista, qint64 prcId) {
-        if (!stale().AktRejPrzepDni)
-            rozmowa_.spodziewaj(
-                QStringLiteral("Rejestracja przepracowanych dni jest wyłączona. Nie można obliczyć ilości "
-                               "przepracowanych dni, urlopu i L-4."),
-                Styl::Wykrzyknik);
+        if (!stale().AktRejPrzepDni) rozmowa_.spodziewaj(pytania::dniWylaczone, Styl::Wykrzyknik);
         return lista.Nowy_prac(prcId);
     }
     /// Columns of the month's row that the handles stand on, in memory.
