@@ -8,7 +8,10 @@
 #include "payroll/frmPlaceLista.h"
 #include "payroll/ListaPlac.h"
 #include "payroll/Miesiace.h"
+#include "personnel/DniKalendarza.h"
 #include "personnel/Pracownicy.h"
+#include "rules/Stale.h"
+#include "store/Sesja.h"
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <fstream>
@@ -67,7 +70,40 @@ QString kopiaFirmy(int ile, int miesiecy) {
     return robocza;
 }
 
-void Wsad(benchmark::State& stan, int miesiac) {
+/// Registers and calendars: nothing, or a general calendar of the year and, for each employee and month, a
+/// vacation of a week and a sick leave of three days.
+enum class Absencje { Brak, Sa };
+
+void zapelnijRejestry(Program& program, Absencje absencje, int miesiac) {
+    Polaczenie& baza = program.sesja().cnPlace;
+    Transakcja transakcja(baza);
+    baza.wykonaj("DELETE FROM URL; DELETE FROM ZW; DELETE FROM KALENDARZ");
+    for (int m = 1; absencje == Absencje::Sa && m <= miesiac; ++m) {
+        const std::string rm = "2001-" + FormatMiesiaca(m).toStdString() + "-";
+        baza.wykonaj("INSERT INTO URL (PRC_ID, DATA, DATA_DO, RODZAJ, KWOTA) SELECT PRC_ID, '" + rm +
+                     "02', '" + rm + "06', 0, 0 FROM PRACPR");
+        baza.wykonaj("INSERT INTO ZW (PRC_ID, DATA, DATA_DO, ST_PROC) SELECT PRC_ID, '" + rm + "12', '" + rm +
+                     "14', 800000 FROM PRACPR");
+        const DniKalendarza dni = DniKalendarza::nowyMiesiac(2001, m);
+        std::string nazwy, znaki;
+        for (int d = 1; d <= 31; ++d) {
+            nazwy += ", DZIEN_" + std::to_string(d);
+            znaki += ", " + std::to_string(dni[d]);
+        }
+        baza.wykonaj("INSERT INTO KALENDARZ (PRCID, ROK, MIES" + nazwy + ") VALUES (0, 2001, " +
+                     std::to_string(m) + znaki + ")");
+    }
+    transakcja.zatwierdz();
+    Stale& s = program.otoczenie().stale;
+    s.AktRejPrzepDni = absencje == Absencje::Sa;
+    s.MiesSrBr = s.ZIluMSrDn = 3;
+    s.L4Prd = {20, 21, 22, 23};
+    s.L4ZUS = {25, 26, 27, 28};
+    s.SklSrL4 = s.SkSumDoSrURL = {1, 2, 4, 5};
+    s.SklPrzelURL = {1, 2};
+}
+
+void Wsad(benchmark::State& stan, int miesiac, Absencje absencje) {
     const auto ile = static_cast<int>(stan.range(0));
     const QString baza = kopiaFirmy(ile, miesiac - 1);
     RozmowaCicha rozmowa;
@@ -76,6 +112,7 @@ void Wsad(benchmark::State& stan, int miesiac) {
     for (auto _ : stan) {
         zerujSzczytPamieci();
         Program program(baza, QDir::tempPath(), rozmowa);
+        zapelnijRejestry(program, absencje, miesiac);
         Miesiace miesiace(program.otoczenie());
         miesiace.Nowy_miesiac([&] { return RokMies{2001, miesiac}; });
         QList<qint64> numery;
@@ -93,8 +130,10 @@ void Wsad(benchmark::State& stan, int miesiac) {
     stan.counters["razy"] = wsad / surowy;
 }
 
-void WsadStyczen(benchmark::State& stan) { Wsad(stan, 1); }
-void WsadGrudzien(benchmark::State& stan) { Wsad(stan, 12); }
+void WsadStyczen(benchmark::State& stan) { Wsad(stan, 1, Absencje::Brak); }
+void WsadGrudzien(benchmark::State& stan) { Wsad(stan, 12, Absencje::Brak); }
+void NieobecnosciStyczen(benchmark::State& stan) { Wsad(stan, 1, Absencje::Sa); }
+void NieobecnosciGrudzien(benchmark::State& stan) { Wsad(stan, 12, Absencje::Sa); }
 
 /// Opening the program against the raw read of the personnel rows that it takes in.
 void StartProgramu(benchmark::State& stan) {
@@ -158,6 +197,22 @@ BENCHMARK(WsadStyczen)
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(WsadGrudzien)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(50000)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(NieobecnosciStyczen)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(50000)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(NieobecnosciGrudzien)
     ->Arg(100)
     ->Arg(1000)
     ->Arg(10000)
