@@ -1,38 +1,138 @@
-// Renders the screens on the example firm into PNG files of a folder: what the handbook and the README show.
+// Renders every screen on the example firm into PNG files of a folder: in its own size, and the large ones at
+// 1280x800 into a folder of that name below it.
+#include "app/frmAbout.h"
+#include "app/frmHaslo.h"
+#include "app/frmLogLista.h"
+#include "app/frmLogNowy.h"
 #include "app/frmLogowanie.h"
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
+#include "app/frmSplash.h"
 #include "app/Przyklad.h"
 #include "app/Rozruch.h"
 #include "app/Uzytkownicy.h"
+#include "bank/frmKonta.h"
 #include "okna/Aplikacja.h"
+#include "okna/frmInputData.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/Wyglad.h"
 #include "payroll/frmPlace.h"
 #include "payroll/frmPlaceLista.h"
+#include "personnel/frmFind.h"
+#include "personnel/frmMPRACY.h"
+#include "personnel/frmNowyPrc.h"
+#include "personnel/frmPrac.h"
+#include "personnel/frmUS.h"
 #include "personnel/frmWybPr.h"
+#include "rules/frmSkladnikiPlac.h"
+#include "rules/frmStaleProgramu.h"
 #include <QDir>
+#include <QListWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
 namespace {
 
-void zapisz(QWidget& okno, const QDir& folder, const QString& nazwa, bool pelny = true) {
-    if (pelny) okno.resize(1280, 800);
+constexpr QSize kMalyPulpit{1280, 800};
+
+void zapisz(QWidget& okno, const QString& sciezka) {
     okno.show();
     Aplikacja::processEvents();
-    if (!okno.grab().save(folder.filePath(nazwa + QStringLiteral(".png"))))
-        qFatal("cannot write %s", qPrintable(nazwa));
+    if (!okno.grab().save(sciezka)) qFatal("cannot write %s", qPrintable(sciezka));
 }
 
-/// One picture for each tab of the screen.
-void zapiszKarty(QWidget& okno, const QDir& folder, const QString& nazwa) {
-    zapisz(okno, folder, nazwa);
-    auto* karty = okno.findChild<QTabWidget*>();
-    for (int i = 1; karty && i < karty->count(); ++i) {
-        karty->setCurrentIndex(i);
-        zapisz(okno, folder, QStringLiteral("%1-%2").arg(nazwa).arg(i + 1));
+class Zrzuty {
+public:
+    explicit Zrzuty(const QString& folder) : folder_(folder) {
+        if (!folder_.mkpath(QStringLiteral("1280x800")))
+            qFatal("cannot make the folder %s", qPrintable(folder));
     }
+
+    void dialog(QWidget& okno, const QString& nazwa) const { zapisz(okno, plik(nazwa)); }
+
+    /// One picture for each tab, in both sizes.
+    void ekran(QWidget& okno, const QString& nazwa) const {
+        karty(okno, nazwa);
+        okno.resize(kMalyPulpit);
+        karty(okno, QStringLiteral("1280x800/") + nazwa);
+    }
+
+private:
+    [[nodiscard]] QString plik(const QString& nazwa) const {
+        return folder_.filePath(nazwa + QStringLiteral(".png"));
+    }
+    void karty(QWidget& okno, const QString& nazwa) const {
+        if (auto* zakladki = okno.findChild<QTabWidget*>())
+            kolejne(okno, nazwa, zakladki->count(), [&](int nr) { zakladki->setCurrentIndex(nr); });
+        else if (auto* lista = okno.findChild<QListWidget*>())
+            kolejne(okno, nazwa, lista->count(), [&](int nr) { lista->setCurrentRow(nr); });
+        else
+            zapisz(okno, plik(nazwa));
+    }
+    template <typename Pokaz>
+    void kolejne(QWidget& okno, const QString& nazwa, int ile, Pokaz pokaz) const {
+        for (int i = 0; i < ile; ++i) {
+            pokaz(i);
+            zapisz(okno, plik(QStringLiteral("%1-%2").arg(nazwa).arg(i + 1, 2, 10, QLatin1Char('0'))));
+        }
+    }
+
+    QDir folder_;
+};
+
+void kadryIUstawienia(const Zrzuty& zrzuty, Otoczenie& o) {
+    PortyStalych porty;
+    porty.otworzUrzedy = [] {}; // its button looks as it does in the program
+    frmStaleProgramu stale(o, porty);
+    zrzuty.ekran(stale, QStringLiteral("stale"));
+    frmSkladnikiPlac skladniki(o);
+    zrzuty.ekran(skladniki, QStringLiteral("skladniki"));
+    frmPrac prac(o, FiltrPracownikow::Wszyscy);
+    zrzuty.ekran(prac, QStringLiteral("pracownicy"));
+    frmPrac nikt(o, FiltrPracownikow::Honoraria);
+    zrzuty.dialog(nikt, QStringLiteral("pracownicy-pusta"));
+    frmNowyPrc nowyPrc(o);
+    zrzuty.dialog(nowyPrc, QStringLiteral("nowy-pracownik"));
+    frmFind szukanie([](const QString&) { return false; });
+    zrzuty.dialog(szukanie, QStringLiteral("szukanie"));
+    frmUS urzedy(o);
+    zrzuty.ekran(urzedy, QStringLiteral("urzedy"));
+    frmMPRACY miejsca(o);
+    zrzuty.ekran(miejsca, QStringLiteral("adresy-dzialalnosci"));
+    frmKonta konta(o);
+    zrzuty.ekran(konta, QStringLiteral("konta"));
+}
+
+void uzytkownicy(const Zrzuty& zrzuty, Otoczenie& o) {
+    ListaUzytkownikow lista(o);
+    (void)lista.Nowy(QStringLiteral("Kadrowa"), QStringLiteral("tajne"), QStringLiteral("tajne"));
+    frmLogLista ekran(o);
+    zrzuty.ekran(ekran, QStringLiteral("uzytkownicy"));
+    frmLogNowy nowy(lista);
+    zrzuty.dialog(nowy, QStringLiteral("nowy-uzytkownik"));
+    frmHaslo haslo(o);
+    zrzuty.dialog(haslo, QStringLiteral("haslo"));
+}
+
+void place(const Zrzuty& zrzuty, Otoczenie& o) {
+    {
+        frmPlace place(o);
+        zrzuty.ekran(place, QStringLiteral("miesiace"));
+    }
+    {
+        frmPlaceLista lista(o, {2001, 3}, QStringLiteral(" "));
+        zrzuty.ekran(lista, QStringLiteral("lista-plac"));
+    }
+    {
+        frmPlaceLista zablokowana(o, {2001, 1}, QStringLiteral("A"));
+        zrzuty.ekran(zablokowana, QStringLiteral("lista-zablokowana"));
+    }
+    frmWybPr wybor(o, 1);
+    zrzuty.dialog(wybor, QStringLiteral("wybor-pracownika"));
+    frmInputData miesiac(frmInputData::Tryb::Miesiac, QStringLiteral("Nowy miesiąc"), QDate(2001, 4, 1));
+    zrzuty.dialog(miesiac, QStringLiteral("miesiac"));
+    frmInputData dzien(frmInputData::Tryb::Data, QStringLiteral("Data"), QDate(2001, 4, 1));
+    zrzuty.dialog(dzien, QStringLiteral("data"));
 }
 
 } // namespace
@@ -41,8 +141,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     Aplikacja aplikacja(argc, argv);
     Wyglad::zastosuj(aplikacja);
-    const QDir folder(Aplikacja::arguments().value(1, QStringLiteral("zrzuty")));
-    folder.mkpath(QStringLiteral("."));
+    const Zrzuty zrzuty(Aplikacja::arguments().value(1, QStringLiteral("zrzuty")));
 
     const QTemporaryDir baza;
     const QString plik = baza.filePath(QStringLiteral("Tornel.mdb"));
@@ -52,25 +151,18 @@ int main(int argc, char** argv) {
     (void)SprawdzUzytkownika(program.sesja(), QStringLiteral("Admin"), {});
     Otoczenie& o = program.otoczenie();
 
+    frmSplash powitanie;
+    zrzuty.dialog(powitanie, QStringLiteral("powitanie"));
     frmLogowanie logowanie;
-    zapisz(logowanie, folder, QStringLiteral("logowanie"), false);
+    zrzuty.dialog(logowanie, QStringLiteral("logowanie"));
     frmMain glowne(o);
     ZarejestrujEkrany(glowne, o);
     glowne.wczytaj();
-    zapisz(glowne, folder, QStringLiteral("okno-glowne"));
-    {
-        frmPlace place(o);
-        zapisz(place, folder, QStringLiteral("miesiace"));
-    }
-    {
-        frmPlaceLista lista(o, {2001, 3}, QStringLiteral(" "));
-        zapiszKarty(lista, folder, QStringLiteral("lista-plac"));
-    }
-    {
-        frmPlaceLista zablokowana(o, {2001, 1}, QStringLiteral("A"));
-        zapisz(zablokowana, folder, QStringLiteral("lista-zablokowana"));
-    }
-    frmWybPr wybor(o, 1);
-    zapisz(wybor, folder, QStringLiteral("wybor-pracownika"), false);
+    zrzuty.ekran(glowne, QStringLiteral("okno-glowne"));
+    frmAbout oProgramie;
+    zrzuty.dialog(oProgramie, QStringLiteral("o-programie"));
+    kadryIUstawienia(zrzuty, o);
+    uzytkownicy(zrzuty, o);
+    place(zrzuty, o);
     return 0;
 }

@@ -13,7 +13,11 @@ namespace {
 constexpr int kKrotkiTekst = 16;
 constexpr int kNajmniejDlugiego = 18;
 constexpr int kZnakiDaty = 11;
+/// Employee numbers have five digits; counts and days are shorter.
+constexpr int kZnakiLiczby = 6;
 constexpr int kZnakiWyboru = 12;
+/// A choice of symbols no longer than this does not stretch.
+constexpr int kZnakowSymbolu = 3;
 constexpr int kWierszeNotatki = 4;
 constexpr auto kSpozaListy = "spozaListy";
 
@@ -27,6 +31,8 @@ int znakiPola(const Pole& pole) {
         return Wyglad::kZnakiKwoty;
     case Rodzaj::Data:
         return kZnakiDaty;
+    case Rodzaj::Liczba:
+        return kZnakiLiczby;
     default:
         return std::max(2, najdluzszy(pole));
     }
@@ -60,6 +66,10 @@ QComboBox* wybor(const Pole& pole) {
     lista->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lista->setMinimumContentsLength(kZnakiWyboru);
     lista->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    const bool znaki = !pole.pozycje.isEmpty() && std::ranges::all_of(pole.pozycje, [](const Pozycja& p) {
+        return p.opis.size() <= kZnakowSymbolu;
+    });
+    if (znaki) lista->setFixedWidth(szerokoscZnakow(*lista, kZnakiDaty));
     wypelnijWybor(*lista, pole);
     return lista;
 }

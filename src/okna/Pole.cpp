@@ -13,14 +13,8 @@ constexpr int kCyfryDaty = 10;
 
 std::pair<qint64, qint64> zakres(const Pole& pole) {
     if (pole.kolumna.nr < 0) return {std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max()};
-    switch (pole.kolumna.def().typ) {
-    case Typ::Byte:
-        return {0, std::numeric_limits<quint8>::max()};
-    case Typ::Short:
-        return {std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max()};
-    default:
-        return {std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()};
-    }
+    const Typ typ = pole.kolumna.def().typ;
+    return zakresTypu(typ == Typ::Byte || typ == Typ::Short ? typ : Typ::Integer);
 }
 
 QString ogolnyTekst(const Wartosc& wartosc) {

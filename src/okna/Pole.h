@@ -10,7 +10,7 @@ enum class Rodzaj {
     Tekst,   ///< one line, as long as the column at most
     Notatka, ///< several lines
     Kwota,   ///< money or percent: "0,00", comma or dot read, a non-number becomes 0
-    Liczba,  ///< whole number within the column's type; anything else becomes 0
+    Liczba,  ///< whole number within the column's type, 16 bits without one; anything else becomes 0
     Data,    ///< dd-mm-yyyy; empty is null, a text that is no date becomes empty
     Flaga,   ///< "T" or "N", a check box
     Wybor,   ///< one of `Pole::pozycje`

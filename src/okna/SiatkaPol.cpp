@@ -2,6 +2,7 @@
 #include "okna/Wyglad.h"
 #include <algorithm>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 
 namespace {
@@ -11,8 +12,8 @@ constexpr int kNaKolumne = 3;
 
 } // namespace
 
-SiatkaPol::SiatkaPol(int kolumn, QWidget* rodzic)
-    : QWidget(rodzic), kolumn_(std::max(1, kolumn)), siatka_(new QGridLayout(this)) {
+SiatkaPol::SiatkaPol(int kolumn, BezPodpisu bezPodpisu, QWidget* rodzic)
+    : QWidget(rodzic), kolumn_(std::max(1, kolumn)), bezPodpisu_(bezPodpisu), siatka_(new QGridLayout(this)) {
     siatka_->setContentsMargins(0, 0, 0, 0);
     siatka_->setHorizontalSpacing(Wyglad::kSiatka);
     siatka_->setVerticalSpacing(Wyglad::kSiatka / 2);
@@ -53,13 +54,54 @@ void SiatkaPol::uloz() {
         static_cast<int>(std::ranges::count_if(miejsca_, [](const Miejsce& m) { return m.widoczne; }));
     const int wierszy = std::max(1, (widocznych + kolumn_ - 1) / kolumn_);
     int nr = 0;
-    for (const Miejsce& m : miejsca_) {
+    for (Miejsce& m : miejsca_) {
         m.pojemnik->setVisible(m.widoczne);
         if (m.podpis) m.podpis->setVisible(m.widoczne);
         if (!m.widoczne) continue;
-        const int kolumna = nr / wierszy * kNaKolumne;
+        m.kolumna = nr / wierszy;
+        const int kolumna = m.kolumna * kNaKolumne;
         if (m.podpis) siatka_->addWidget(m.podpis, nr % wierszy, kolumna);
-        siatka_->addWidget(m.pojemnik, nr % wierszy, kolumna + 1);
+        if (!m.podpis && bezPodpisu_ == BezPodpisu::PodPodpisami)
+            siatka_->addWidget(m.pojemnik, nr % wierszy, kolumna, 1, 2);
+        else
+            siatka_->addWidget(m.pojemnik, nr % wierszy, kolumna + 1);
         ++nr;
+    }
+}
+
+int SiatkaPol::szerokoscPodpisow(int kolumna, int najszersze) {
+    int szerokosc = 0;
+    for (const Miejsce& m : miejsca_) {
+        if (!m.podpis || m.kolumna != kolumna) continue;
+        if (m.podpis->sizeHint().width() > najszersze) {
+            m.podpis->setWordWrap(true);
+            m.podpis->setFixedWidth(najszersze);
+        }
+        szerokosc = std::max(szerokosc, std::min(m.podpis->sizeHint().width(), najszersze));
+    }
+    return szerokosc;
+}
+
+void SiatkaPol::ustawSzerokoscPodpisow(int kolumna, int szerokosc) {
+    siatka_->setColumnMinimumWidth(kolumna * kNaKolumne, szerokosc);
+}
+
+void wyrownajPodpisy(const QList<QGroupBox*>& ramki, int najszersze) {
+    QList<SiatkaPol*> siatki;
+    int kolumn = 0;
+    for (const QGroupBox* ramka : ramki)
+        for (SiatkaPol* siatka : ramka->findChildren<SiatkaPol*>()) {
+            siatki.append(siatka);
+            kolumn = std::max(kolumn, siatka->kolumn());
+        }
+    for (int k = 0; k < kolumn; ++k) {
+        QList<SiatkaPol*> zPodpisami;
+        int szerokosc = 0;
+        for (SiatkaPol* siatka : std::as_const(siatki)) {
+            const int tutaj = siatka->szerokoscPodpisow(k, najszersze);
+            if (tutaj > 0) zPodpisami.append(siatka);
+            szerokosc = std::max(szerokosc, tutaj);
+        }
+        for (SiatkaPol* siatka : std::as_const(zPodpisami)) siatka->ustawSzerokoscPodpisow(k, szerokosc);
     }
 }

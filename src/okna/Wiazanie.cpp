@@ -2,7 +2,6 @@
 #include "common/Blad.h"
 #include "okna/Kontrolki.h"
 #include "okna/PoleTekstu.h"
-#include "okna/SiatkaPol.h"
 #include "okna/Wyglad.h"
 #include "store/Recordset.h"
 #include <algorithm>
@@ -29,6 +28,14 @@ Wartosc wTypie(Typ typ, const Wartosc& wartosc) {
     return wartosc;
 }
 
+/// Whether the focus goes to another field. To a menu or another window it is only lent; a window that closes
+/// takes it away in the same manner, and whether its fields count is for its owner to say.
+bool opuszczaPole(const QFocusEvent& zdarzenie) {
+    const auto powod = zdarzenie.reason();
+    return powod != Qt::PopupFocusReason && powod != Qt::ActiveWindowFocusReason &&
+           powod != Qt::MenuBarFocusReason;
+}
+
 } // namespace
 
 Recordset& ZrodloWierszy::tabela(const Pole& pole) const {
@@ -49,15 +56,15 @@ void ZrodloWierszy::zapisz(const Pole& pole, const Wartosc& wartosc) {
 
 Wiazanie::Wiazanie(ZrodloPol& zrodlo, QObject* rodzic) : QObject(rodzic), zrodlo_(zrodlo) {}
 
-QGroupBox* Wiazanie::grupa(const QString& tytul, const QList<Pole>& pola, int kolumn) {
+QGroupBox* Wiazanie::grupa(const QString& tytul, const QList<Pole>& pola, int kolumn, BezPodpisu bezPodpisu) {
     auto* ramka = new QGroupBox(tytul);
     auto* uklad = new QVBoxLayout(ramka);
-    uklad->addWidget(siatka(pola, kolumn));
+    uklad->addWidget(siatka(pola, kolumn, bezPodpisu));
     return ramka;
 }
 
-QWidget* Wiazanie::siatka(const QList<Pole>& pola, int kolumn) {
-    auto* siatka = new SiatkaPol(kolumn);
+QWidget* Wiazanie::siatka(const QList<Pole>& pola, int kolumn, BezPodpisu bezPodpisu) {
+    auto* siatka = new SiatkaPol(kolumn, bezPodpisu);
     for (const Pole& pole : pola) dodaj(pole, *siatka);
     siatka->uloz();
     return siatka;
@@ -115,15 +122,6 @@ void Wiazanie::podlacz(Kontrolka& k) {
     }
 }
 
-bool Wiazanie::opuszczaPole(const QEvent& zdarzenie, const QWidget& widzet) const {
-    const auto powod = static_cast<const QFocusEvent&>(zdarzenie).reason();
-    if (powod == Qt::PopupFocusReason || powod == Qt::ActiveWindowFocusReason ||
-        powod == Qt::MenuBarFocusReason)
-        return false;
-    // A window that closes takes the focus away too; whether its fields count is for its owner to say.
-    return widzet.window()->isVisible();
-}
-
 bool Wiazanie::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
     const auto ta = poWidzecie_.constFind(obiekt);
     auto* widzet = qobject_cast<QWidget*>(obiekt);
@@ -137,7 +135,7 @@ bool Wiazanie::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
         wPracy_ = &k;
         break;
     case QEvent::FocusOut:
-        if (wPracy_ == &k && opuszczaPole(*zdarzenie, *widzet)) opusc(k);
+        if (wPracy_ == &k && opuszczaPole(static_cast<const QFocusEvent&>(*zdarzenie))) opusc(k);
         break;
     case QEvent::Wheel:
         // Scrolling over a screen must not change a choice under the pointer.

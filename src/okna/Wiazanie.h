@@ -1,6 +1,7 @@
 // Fields of a screen bound by a table: built, loaded, checked on leaving and collected in one place.
 #pragma once
 #include "okna/Pole.h"
+#include "okna/SiatkaPol.h"
 #include <deque>
 #include <functional>
 #include <initializer_list>
@@ -12,7 +13,6 @@ class QGroupBox;
 class QLabel;
 class QWidget;
 class Recordset;
-class SiatkaPol;
 
 /// Where the values of the fields come from and go to.
 class ZrodloPol {
@@ -52,9 +52,10 @@ public:
     explicit Wiazanie(ZrodloPol& zrodlo, QObject* rodzic = nullptr);
 
     /// Makes the fields in a titled group, in `kolumn` columns filled downwards.
-    QGroupBox* grupa(const QString& tytul, const QList<Pole>& pola, int kolumn = 1);
+    QGroupBox* grupa(const QString& tytul, const QList<Pole>& pola, int kolumn = 1,
+                     BezPodpisu bezPodpisu = BezPodpisu::PodPolami);
     /// The same without frame and title.
-    QWidget* siatka(const QList<Pole>& pola, int kolumn = 1);
+    QWidget* siatka(const QList<Pole>& pola, int kolumn = 1, BezPodpisu bezPodpisu = BezPodpisu::PodPolami);
 
     /// Shows the source's values. What was typed and not collected is dropped.
     void wczytaj();
@@ -115,7 +116,6 @@ private:
     void opusc(Kontrolka& k);
     [[nodiscard]] bool zmieniona(const Kontrolka& k) const;
     [[nodiscard]] Kontrolka& znajdz(const QString& nazwa) const;
-    [[nodiscard]] bool opuszczaPole(const QEvent& zdarzenie, const QWidget& widzet) const;
 
     ZrodloPol& zrodlo_;
     std::deque<Kontrolka> kontrolki_;

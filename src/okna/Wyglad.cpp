@@ -1,9 +1,11 @@
 #include "okna/Wyglad.h"
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QFile>
 #include <QIconEngine>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
@@ -21,11 +23,22 @@ namespace {
 constexpr int kRozmiarPisma = 10;
 constexpr int kWysokoscWiersza = 22;
 constexpr int kOdstepWLiscie = 5;
+constexpr int kOdstepWPolu = 2;
+/// Added to the caption of a tab: eleven of them have to stand side by side.
+constexpr int kOdstepZakladki = 2 * Wyglad::kSiatka;
 
 /// Fusion on the 8 px grid, with menus that a first letter reaches, since their captions carry no mnemonics.
 class StylTornel : public QProxyStyle {
 public:
     StylTornel() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    using QProxyStyle::polish;
+    void polish(QWidget* widzet) override {
+        QProxyStyle::polish(widzet);
+        auto* linia = qobject_cast<QLineEdit*>(widzet);
+        if (linia && !qobject_cast<QAbstractSpinBox*>(linia->parentWidget()))
+            linia->setTextMargins(kOdstepWPolu, 0, kOdstepWPolu, 0);
+    }
 
     int pixelMetric(PixelMetric miara, const QStyleOption* opcja, const QWidget* widzet) const override {
         switch (miara) {
@@ -38,6 +51,8 @@ public:
             return Wyglad::kSiatka;
         case PM_ToolBarIconSize:
             return 3 * Wyglad::kSiatka;
+        case PM_TabBarTabHSpace:
+            return kOdstepZakladki;
         default:
             return QProxyStyle::pixelMetric(miara, opcja, widzet);
         }
@@ -135,25 +150,25 @@ QPushButton:hover { background: palette(alternate-base); }
 QPushButton:pressed { background: palette(mid); }
 QPushButton:default { border: 2px solid palette(highlight); padding: 3px 13px; }
 QPushButton:focus { border: 2px solid palette(highlight); padding: 3px 13px; background: palette(alternate-base); }
-QPushButton:disabled { color: palette(placeholder-text); border-color: palette(alternate-base);
+QPushButton:disabled { color: %2; border-color: palette(alternate-base);
                        background: palette(window); }
 QPushButton[doPrzeliczenia="true"], QToolButton[doPrzeliczenia="true"] { background: rgb(238,238,64);
                                                                          color: rgb(29,37,41); }
 QLineEdit[obliczane="true"], QPlainTextEdit[obliczane="true"] { background: palette(alternate-base);
-    border: 1px solid palette(alternate-base); border-radius: 2px; padding: 1px 2px;
+    border: 1px solid palette(alternate-base); border-radius: 2px; padding: 1px 0;
     min-height: 22px; }
 QLineEdit[glowne="true"] { font-weight: bold; }
 QLabel[baner="true"] { background: palette(highlight); color: palette(highlighted-text); padding: 6px 8px;
                        border-radius: 4px; }
-QLabel[podpowiedz="true"] { color: palette(placeholder-text); }
+QLabel[podpowiedz="true"] { color: %1; }
 QPushButton[kafel="true"] { text-align: left; padding: 12px 8px; background: palette(base); }
 QToolBar QToolButton { font-size: 9pt; padding: 2px 3px; }
 QHeaderView::section { background: palette(alternate-base); color: palette(text); border: none;
-                       border-right: 1px solid palette(mid); padding: 4px 6px; }
+                       border-right: 1px solid palette(mid); padding: 4px 3px; }
 QToolBar { border: none; border-bottom: 1px solid palette(mid); spacing: 2px; padding: 2px 6px; }
 QComboBox:disabled, QCheckBox:disabled, QRadioButton:disabled { color: %1; }
 )")
-        .arg(b.zablokowany.name());
+        .arg(b.zablokowany.name(), b.wygaszony.name());
 }
 
 /// An SVG whose currentColor takes the palette's text colour at the moment of drawing.

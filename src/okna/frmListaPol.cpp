@@ -77,9 +77,11 @@ QWidget* frmListaPol::prawaStrona(const OpisListyPol& opis) {
     ramki_ = new QVBoxLayout;
     uklad->addLayout(ramki_);
     bool notatka = false;
+    QList<QGroupBox*> ramki;
     for (const GrupaPol& grupa : opis.grupy) {
         QGroupBox* ramka = wiazanie_.grupa(grupa.tytul, grupa.pola, grupa.kolumn);
         ramki_->addWidget(ramka);
+        ramki.append(ramka);
         for (const Pole& pole : grupa.pola) {
             if (pole.dostep == Dostep::Edycja) pola_.append(pole.nazwa);
             if (pole.rodzaj != Rodzaj::Notatka) continue;
@@ -88,6 +90,7 @@ QWidget* frmListaPol::prawaStrona(const OpisListyPol& opis) {
             if (pole.podpis.isEmpty()) wiazanie_.kontrolka(pole.nazwa)->setAccessibleName(grupa.tytul);
         }
     }
+    wyrownajPodpisy(ramki);
     // A note takes the height that is left; without one the frames stay together at the top.
     if (notatka)
         uklad->setStretchFactor(ramki_, 1);

@@ -21,6 +21,7 @@ frmFind::frmFind(std::function<bool(const QString& tekst)> szukaj, QWidget* rodz
     uklad->addWidget(txtSzukany_);
     uklad->addSpacing(Wyglad::kSiatka);
     uklad->addWidget(przyciskiOkAnuluj(*this, QStringLiteral("&Szukaj")));
+    txtSzukany_->setFocus();
 }
 
 void frmFind::accept() {

@@ -1,26 +1,28 @@
 #include "personnel/frmNowyPrc.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
+#include "okna/LinieDialogu.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
 #include "store/Schemat.h"
-#include <QFormLayout>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 using schemat::PRACDP;
 
 frmNowyPrc::frmNowyPrc(Otoczenie& otoczenie, QWidget* rodzic) : QDialog(rodzic), o_(otoczenie) {
     setObjectName(QStringLiteral("frmNowyPrc"));
     setWindowTitle(QStringLiteral("Rejestracja nowego pracownika"));
-    setMinimumWidth(48 * Wyglad::kSiatka);
-    const QString najwyzszy = QString::number(kNajwyzszyNumer);
-    auto* pola = new QFormLayout;
-    txtNR_ = dodaj(*pola, QStringLiteral("txtNR"), QStringLiteral("NR"), static_cast<int>(najwyzszy.size()));
+    auto* linie = new LinieDialogu;
+    const auto dodaj = [&](const QString& nazwa, const QString& podpis, int dlugosc) {
+        return linie->dodaj(nazwa, podpis, dlugosc, Pisownia::Jawna);
+    };
+    const auto cyfr = static_cast<int>(QString::number(kNajwyzszyNumer).size());
+    txtNR_ = dodaj(QStringLiteral("txtNR"), QStringLiteral("NR"), cyfr);
     txtNazwisko_ =
-        dodaj(*pola, QStringLiteral("txtNazwisko"), QStringLiteral("NAZWISKO"), PRACDP("Naz").def().rozmiar);
-    txtImie_ =
-        dodaj(*pola, QStringLiteral("txtImie"), QStringLiteral("IMIĘ"), PRACDP("Imie_1").def().rozmiar);
+        dodaj(QStringLiteral("txtNazwisko"), QStringLiteral("NAZWISKO"), PRACDP("Naz").def().rozmiar);
+    txtImie_ = dodaj(QStringLiteral("txtImie"), QStringLiteral("IMIĘ"), PRACDP("Imie_1").def().rozmiar);
     if (const qint64 nr = Pracownicy(o_).proponowanyNumer(); nr <= kNajwyzszyNumer)
         txtNR_->setText(QString::number(nr));
 
@@ -32,18 +34,11 @@ frmNowyPrc::frmNowyPrc(Otoczenie& otoczenie, QWidget* rodzic) : QDialog(rodzic),
     uklad->setContentsMargins(2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka,
                               2 * Wyglad::kSiatka);
     uklad->setSpacing(2 * Wyglad::kSiatka);
-    uklad->addLayout(pola);
+    uklad->addWidget(linie);
     uklad->addWidget(rzadPrzyciskow({cmdDalej, cmdAnuluj}));
+    uklad->setSizeConstraint(QLayout::SetFixedSize);
     cmdDalej->setDefault(true);
-}
-
-PoleTekstu* frmNowyPrc::dodaj(QFormLayout& uklad, const QString& nazwa, const QString& podpis, int rozmiar) {
-    auto* pole = new PoleTekstu;
-    pole->setObjectName(nazwa);
-    pole->setAccessibleName(podpis);
-    pole->setMaxLength(rozmiar);
-    uklad.addRow(podpis, pole);
-    return pole;
+    txtNR_->setFocus();
 }
 
 DaneNowegoPracownika frmNowyPrc::dane() const {

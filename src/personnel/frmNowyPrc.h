@@ -4,7 +4,6 @@
 #include <QDialog>
 
 class PoleTekstu;
-class QFormLayout;
 
 class frmNowyPrc : public QDialog {
     Q_OBJECT
@@ -18,8 +17,6 @@ public:
     void accept() override;
 
 private:
-    [[nodiscard]] static PoleTekstu* dodaj(QFormLayout& uklad, const QString& nazwa, const QString& podpis,
-                                           int rozmiar);
     void odrzuc(const QString& komunikat, PoleTekstu& pole);
 
     Otoczenie& o_;

@@ -26,7 +26,7 @@ namespace {
 
 enum KolumnaPrac { Numer, Nazwisko };
 
-constexpr int kSzerokoscListy = 33 * Wyglad::kSiatka;
+constexpr int kSzerokoscListy = 30 * Wyglad::kSiatka;
 
 QStringList tekstyWiersza(const Osoba& o) {
     return {FormatNumeru(o.prcId), o.nazwisko + QLatin1Char(' ') + o.imie};
@@ -52,7 +52,7 @@ frmPrac::frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic)
     uklad->addLayout(srodek, 1);
     uklad->addWidget(rzad());
     budujSkroty();
-    resize(156 * Wyglad::kSiatka, 92 * Wyglad::kSiatka);
+    resize(158 * Wyglad::kSiatka, 92 * Wyglad::kSiatka);
 
     connect(lvwPrac_, &WidokListy::wybrano, this, &frmPrac::wybierz);
     connect(lvwPrac_, &WidokListy::wejscie, zakladki_, &ZakladkiPracownika::wejdz);

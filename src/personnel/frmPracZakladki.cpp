@@ -19,8 +19,16 @@ using schemat::PRACDP;
 
 namespace {
 
-/// Longest shown name of a component, in pixels: three columns of amounts have to stand side by side.
-constexpr int kSzerokoscNazwy = 21 * Wyglad::kSiatka;
+/// Longest shown name of a component, in pixels: four columns of check boxes and three of amounts have to
+/// stand side by side.
+constexpr int kSzerokoscNazwy = 20 * Wyglad::kSiatka;
+constexpr int kSzerokoscPodpisu = 21 * Wyglad::kSiatka;
+
+void wyrownajSzerokosc(const QList<QWidget*>& widzety, int zapas) {
+    int szerokosc = 0;
+    for (const QWidget* w : widzety) szerokosc = std::max(szerokosc, w->sizeHint().width());
+    for (QWidget* w : widzety) w->setFixedWidth(szerokosc + zapas);
+}
 
 QString bezMnemonika(QString tekst) { return tekst.replace(QLatin1Char('&'), QLatin1String("&&")); }
 
@@ -71,7 +79,8 @@ ZakladkiPracownika::ZakladkiPracownika(Otoczenie& otoczenie, KartotekaPracownika
     }
     connect(&wiazanieNotatki_, &Wiazanie::zmienione, this, &ZakladkiPracownika::zmienione);
     connect(this, &QTabWidget::currentChanged, this, &ZakladkiPracownika::zmienZakladke);
-    connect(qApp, &QApplication::focusChanged, this, &ZakladkiPracownika::sprawdzWejscieDoAdresu);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, const QWidget* nowy) { sprawdzWejscieDoAdresu(nowy); });
     wykoncz();
     opiszSkladniki();
 }
@@ -111,20 +120,16 @@ QWidget* ZakladkiPracownika::kolumna(Wiazanie& wiazanie, const KolumnaKartoteki&
     auto* kolumna = new QWidget;
     auto* uklad = new QVBoxLayout(kolumna);
     uklad->setContentsMargins(0, 0, 0, 0);
+    QList<QGroupBox*> ramki;
     for (const GrupaKartoteki& g : grupy) {
         QGroupBox* ramka = wiazanie.grupa(g.tytul, g.pola, g.kolumn);
+        ramki.append(ramka);
         if (g.tytul == kAdresZamieszkania) ramkaZamieszkania_ = ramka;
         if (g.tytul == kAdresKorespondencji) ramkaKorespondencji_ = ramka;
         uklad->addWidget(ramka);
     }
     uklad->addStretch();
-    // Captions of one width bring the fields of all groups into one column.
-    int szerokosc = 0;
-    const auto napisy = kolumna->findChildren<QLabel*>();
-    const bool jedna = std::ranges::all_of(grupy, [](const GrupaKartoteki& g) { return g.kolumn == 1; });
-    for (const QLabel* napis : napisy) szerokosc = std::max(szerokosc, napis->sizeHint().width());
-    for (QLabel* napis : napisy)
-        if (jedna && napis->buddy()) napis->setMinimumWidth(szerokosc);
+    wyrownajPodpisy(ramki);
     return kolumna;
 }
 
@@ -180,27 +185,31 @@ void ZakladkiPracownika::wykoncz() {
     sprawdzaj(u"txtPesel", &KartotekaPracownika::SprawdzPesel);
     sprawdzaj(u"txtNip", &KartotekaPracownika::SprawdzNip);
 
-    // Dates and codes of the five insurances stand in columns behind check boxes of one width.
-    int szerokosc = 0;
-    QList<QWidget*> flagi;
-    for (const QChar fundusz : QStringLiteral("ercwz")) {
-        QWidget* flaga = wiazanie(Zus3).kontrolka(QStringLiteral("chkZwua_") + fundusz);
-        szerokosc = std::max(szerokosc, flaga->sizeHint().width());
-        flagi.append(flaga);
-    }
-    for (QWidget* flaga : flagi) flaga->setFixedWidth(szerokosc + 2 * Wyglad::kSiatka);
+    // Dates and codes of the five insurances stand in columns behind their check boxes, and so do the names
+    // of the components.
+    QList<QWidget*> ubezpieczenia, skladniki;
+    for (const QChar fundusz : QStringLiteral("ercwz"))
+        ubezpieczenia.append(wiazanie(Zus3).kontrolka(QStringLiteral("chkZwua_") + fundusz));
+    wyrownajSzerokosc(ubezpieczenia, 2 * Wyglad::kSiatka);
+    for (int n = 1; n <= kDodatnich; ++n) skladniki.append(wiazanie(AktywneSkladniki).kontrolka(poleD(n)));
+    for (int n = 1; n <= kUjemnych; ++n) skladniki.append(wiazanie(AktywneSkladniki).kontrolka(poleP(n)));
+    wyrownajSzerokosc(skladniki, 0);
+    wiazanie(DanePracownicze).dolacz(QStringLiteral("txtEtat"), new QLabel(QStringLiteral("/")));
 }
 
 void ZakladkiPracownika::opiszSkladniki() {
     const auto opisz = [this](const QString& flaga, const QString& kwota, const QString& nazwa) {
-        const QString krotka = fontMetrics().elidedText(nazwa, Qt::ElideRight, kSzerokoscNazwy);
-        wiazanie(AktywneSkladniki).ustawDopisek(flaga, krotka);
+        // Names that differ often do so in their last letter.
+        const auto doSzerokosci = [&](int szerokosc) {
+            return fontMetrics().elidedText(nazwa, Qt::ElideMiddle, szerokosc);
+        };
+        wiazanie(AktywneSkladniki).ustawDopisek(flaga, doSzerokosci(kSzerokoscNazwy));
         QWidget* pudelko = wiazanie(AktywneSkladniki).kontrolka(flaga);
         pudelko->setToolTip(nazwa);
         pudelko->setAccessibleName(pudelko->accessibleName() + QLatin1Char(' ') + nazwa);
         // A nameless component still needs a caption of its own.
-        wiazanie(Skladniki).ustawPodpis(kwota, bezMnemonika(krotka.isEmpty() ? QStringLiteral("?") : krotka) +
-                                                   QLatin1Char(':'));
+        const QString podpis = nazwa.isEmpty() ? QStringLiteral("?") : doSzerokosci(kSzerokoscPodpisu);
+        wiazanie(Skladniki).ustawPodpis(kwota, bezMnemonika(podpis) + QLatin1Char(':'));
         wiazanie(Skladniki).kontrolka(kwota)->setToolTip(nazwa);
         wiazanie(Skladniki).kontrolka(kwota)->setAccessibleName(nazwa);
     };
@@ -248,6 +257,8 @@ void ZakladkiPracownika::PokazZakladke(int zakladka) {
     if (kartoteka_.pracownik()) w.wczytaj();
     if (zakladka == Skladniki || zakladka == AktywneSkladniki) Miejsca();
     pokazNaglowki();
+    // The tab or the employee may have come to the focus, and not the focus to the address.
+    sprawdzWejscieDoAdresu(QApplication::focusWidget());
 }
 
 void ZakladkiPracownika::ZapiszZakladke(int zakladka) {
@@ -303,11 +314,11 @@ void ZakladkiPracownika::Miejsca() {
         QStringLiteral("Na zakładce „Składniki”: dodatnich %1, ujemnych %2").arg(dodatnie).arg(ujemne));
 }
 
-void ZakladkiPracownika::sprawdzWejscieDoAdresu(const QWidget* poprzedni, const QWidget* nowy) {
-    if (biezaca_ != Adresy || !nowy || !kartoteka_.pracownik()) return;
+void ZakladkiPracownika::sprawdzWejscieDoAdresu(const QWidget* pole) {
+    if (biezaca_ != Adresy || !pole || !kartoteka_.pracownik()) return;
     for (const auto& [ramka, adres] : {std::pair(ramkaZamieszkania_, AdresKopii::Zamieszkania),
                                        std::pair(ramkaKorespondencji_, AdresKopii::Korespondencji)}) {
-        if (!ramka->isAncestorOf(nowy) || (poprzedni && ramka->isAncestorOf(poprzedni))) continue;
+        if (!ramka->isAncestorOf(pole) || zaproponowane_.contains(adres)) continue;
         // Asked once the focus has settled: a box in the middle of its change would take it away.
         QMetaObject::invokeMethod(
             this, [this, adres = adres] { zaproponujKopie(adres); }, Qt::QueuedConnection);

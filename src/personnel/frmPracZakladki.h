@@ -70,7 +70,7 @@ private:
                           bool (*ujemny)(const SkladnikiPlac&, int));
     void uaktywnij();
     void Miejsca();
-    void sprawdzWejscieDoAdresu(const QWidget* poprzedni, const QWidget* nowy);
+    void sprawdzWejscieDoAdresu(const QWidget* pole);
     void zaproponujKopie(AdresKopii adres);
     [[nodiscard]] Wiazanie& wiazanie(int zakladka) { return *wiazania_[static_cast<std::size_t>(zakladka)]; }
 

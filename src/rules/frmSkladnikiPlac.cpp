@@ -39,6 +39,7 @@ constexpr KolumnaEkranu kKolumny[] = {
     {u"txtK2", u"Kod świad. przerwy", SZ_PL("kodswprz"), &Skladnik::kodSwPrz, nullptr, true},
 };
 constexpr int kKolumnaAktywny = 4;
+constexpr int kSzerokoscNazwy = 34 * Wyglad::kSiatka;
 
 struct ZakladkaEkranu {
     QStringView napis;
@@ -113,6 +114,7 @@ QWidget* frmSkladnikiPlac::zakladka(int pierwszy) {
         }
     }
     siatka->setColumnStretch(1, 1);
+    siatka->setColumnMinimumWidth(1, kSzerokoscNazwy);
     siatka->setRowStretch(kNaZakladce + 1, 1);
     return strona;
 }

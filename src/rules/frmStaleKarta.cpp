@@ -19,8 +19,9 @@ namespace {
 constexpr int kSzerokoscOpisu = 14 * Wyglad::kSiatka;
 constexpr int kZnakiNumeru = 2;
 constexpr int kZnakiNominalu = 6;
-/// Longer captions are broken into lines.
+/// Longer captions are broken into lines; beside the help there is less room for them.
 constexpr int kNajszerszyPodpis = 46 * Wyglad::kSiatka;
+constexpr int kNajszerszyObokPomocy = 36 * Wyglad::kSiatka;
 
 /// Where a frame stands, seen from the one before it.
 enum class Miejsce {
@@ -40,7 +41,7 @@ struct Ulozenie {
 
 constexpr Ulozenie kUlozenia[] = {
     {4, Miejsce::Obok},     {150, Miejsce::Pod, 3},   {151, Miejsce::Pod, 3}, {206, Miejsce::PodPomoca, 5},
-    {207, Miejsce::Pod, 5}, {104, Miejsce::Pod, 4},   {105, Miejsce::Pod, 4}, {106, Miejsce::PodPomoca},
+    {207, Miejsce::Pod, 5}, {104, Miejsce::Pod, 2},   {105, Miejsce::Pod, 2}, {106, Miejsce::PodPomoca},
     {107, Miejsce::Pod, 5}, {252, Miejsce::NowyRzad}, {253, Miejsce::Obok},   {254, Miejsce::NowyRzad},
     {300, Miejsce::Pod, 2}, {311, Miejsce::Pod, 2},   {330, Miejsce::Pod, 2}, {350, Miejsce::Pod, 2},
     {370, Miejsce::Pod, 2}, {412, Miejsce::Pod, 2},   {510, Miejsce::Pod, 2}, {210, Miejsce::Pod, 2},
@@ -159,16 +160,15 @@ QGroupBox* zbudujRamke(const Ramka& ramka, int kolumn, Wiazanie& wiazanie) {
     QList<Pole> wszystkie;
     for (const StalaDef* stala : ramka.stale)
         wszystkie += pola(*stala, stala->ramka.isEmpty() ? Podpisy::Kolejne : Podpisy::Wspolny, ramka.tytul);
-    return wiazanie.grupa(ramka.tytul, wszystkie, kolumn);
+    return wiazanie.grupa(ramka.tytul, wszystkie, kolumn, BezPodpisu::PodPodpisami);
 }
 
-/// Whether a frame's fields have captions of constants, or only numbers of elements.
-enum class WlasnePodpisy { Tak, Nie };
+/// Whether a frame's fields stand below those of its neighbours. The rows of an array have short captions
+/// and need the room.
+enum class Wyrownanie { Wspolne, Wlasne };
 
-WlasnePodpisy wlasnePodpisy(const Ramka& ramka) {
-    const StalaDef& stala = *ramka.stale.first();
-    const bool numery = tablica(stala) && (stala.ramka.isEmpty() || !stala.opcje.empty());
-    return numery ? WlasnePodpisy::Nie : WlasnePodpisy::Tak;
+Wyrownanie wyrownanie(const Ramka& ramka) {
+    return tablica(*ramka.stale.first()) ? Wyrownanie::Wlasne : Wyrownanie::Wspolne;
 }
 
 /// The rows and columns of one tab.
@@ -182,7 +182,7 @@ public:
         gora_ = gora;
     }
 
-    void dodaj(QGroupBox* ramka, Miejsce miejsce, WlasnePodpisy wlasnePodpisy) {
+    void dodaj(QGroupBox* ramka, Miejsce miejsce, Wyrownanie wyrownanie) {
         if (miejsce == Miejsce::PodPomoca) {
             zamknijKolumny();
             rzedy_ = strona_;
@@ -195,14 +195,18 @@ public:
             nowaKolumna();
         }
         kolumny_.last()->addWidget(ramka);
-        if (wlasnePodpisy == WlasnePodpisy::Tak) ramki_.last().append(ramka);
+        if (wyrownanie == Wyrownanie::Wspolne) ramki_.last().append(ramka);
     }
-    void dodajPomoc(QGroupBox* ramka) { gora_->addWidget(ramka, 0, Qt::AlignTop); }
+    void dodajPomoc(QGroupBox* ramka) {
+        gora_->addWidget(ramka, 0, Qt::AlignTop);
+        najszerszyPodpis_ = kNajszerszyObokPomocy;
+    }
 
     void zakoncz() {
         zamknijKolumny();
         strona_->addStretch();
-        for (const QList<QGroupBox*>& kolumna : std::as_const(ramki_)) wyrownaj(kolumna);
+        for (const QList<QGroupBox*>& kolumna : std::as_const(ramki_))
+            wyrownajPodpisy(kolumna, najszerszyPodpis_);
     }
 
 private:
@@ -216,27 +220,12 @@ private:
         for (QVBoxLayout* kolumna : std::as_const(kolumny_)) kolumna->addStretch();
         kolumny_.clear();
     }
-    /// Captions of one width bring the fields of a column's frames below each other.
-    static void wyrownaj(const QList<QGroupBox*>& ramki) {
-        QList<QLabel*> podpisy;
-        int szerokosc = 0;
-        for (const QGroupBox* ramka : ramki)
-            for (QLabel* podpis : ramka->findChildren<QLabel*>()) {
-                if (!podpis->buddy()) continue;
-                if (podpis->sizeHint().width() > kNajszerszyPodpis) {
-                    podpis->setWordWrap(true);
-                    podpis->setFixedWidth(kNajszerszyPodpis);
-                }
-                podpisy.append(podpis);
-                szerokosc = std::max(szerokosc, std::min(podpis->sizeHint().width(), kNajszerszyPodpis));
-            }
-        for (QLabel* podpis : std::as_const(podpisy)) podpis->setMinimumWidth(szerokosc);
-    }
 
     QVBoxLayout* strona_;
     QHBoxLayout* gora_;
     QVBoxLayout* rzedy_;
     QHBoxLayout* rzad_ = nullptr;
+    int najszerszyPodpis_ = kNajszerszyPodpis;
     QList<QVBoxLayout*> kolumny_;
     QList<QList<QGroupBox*>> ramki_;
 };
@@ -256,7 +245,7 @@ void OpisPola::paintEvent(QPaintEvent*) {
     QPainter malarz(this);
     malarz.setPen(palette().color(foregroundRole()));
     malarz.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter,
-                    fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+                    fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
 }
 
 QScrollArea* zbudujKarte(KartaStalych karta, Wiazanie& wiazanie) {
@@ -265,7 +254,7 @@ QScrollArea* zbudujKarte(KartaStalych karta, Wiazanie& wiazanie) {
     bool wzory = false;
     for (const Ramka& ramka : ramki(karta)) {
         const Ulozenie u = ulozenie(ramka);
-        kartka.dodaj(zbudujRamke(ramka, u.kolumn, wiazanie), u.miejsce, wlasnePodpisy(ramka));
+        kartka.dodaj(zbudujRamke(ramka, u.kolumn, wiazanie), u.miejsce, wyrownanie(ramka));
         wykoncz(ramka, wiazanie);
         wzory |= std::ranges::any_of(
             ramka.stale, [](const StalaDef* s) { return s->sprawdzenie == SprawdzenieStalej::Wzor; });

@@ -19,7 +19,7 @@ using namespace ekranStalych;
 
 namespace {
 
-constexpr QSize kRozmiar{154 * Wyglad::kSiatka, 92 * Wyglad::kSiatka};
+constexpr QSize kRozmiar{158 * Wyglad::kSiatka, 92 * Wyglad::kSiatka};
 const QString kUrzad = QStringLiteral("cboUS");
 
 struct PrzyciskFolderu {

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -149,6 +150,27 @@ TEST_P(EkranKartoteki, ZlosliweTekstyKazdegoPola) {
     }
 }
 
+TEST_P(EkranKartoteki, NowyZKlawiaturyPrzechowujeTenKtorySieWpisuje) {
+    zWierszami({u"Jeden"_s});
+    const auto nowy = [&](Qt::Key klawisz, Qt::KeyboardModifier modyfikator, int wierszy) {
+        QTest::keyClick(QApplication::focusWidget(), klawisz, modyfikator);
+        // A mnemonic shows its button pressed for a moment first.
+        return QTest::qWaitFor([&] { return naLiscie().size() == wierszy; }, 2000);
+    };
+    const auto nazwa = [&](int wiersz) { return plik().value(wiersz).section(u'|', 1, 1); };
+    wpisz(e.nazwa, u"Nie opuszczony"_s);
+    ASSERT_TRUE(nowy(Qt::Key_N, Qt::AltModifier, 2));
+    EXPECT_EQ(nazwa(0), u"Nie opuszczony"_s);
+    EXPECT_EQ(lista().wybrany(), 2);
+    EXPECT_TRUE(kontrolka(e.nazwa).hasFocus()) << "ready to type";
+    EXPECT_EQ(kontrolka(e.nazwa).text(), QString());
+    wpisz(e.nazwa, u"Drugi"_s);
+    ASSERT_TRUE(nowy(Qt::Key_Insert, Qt::NoModifier, 3));
+    EXPECT_EQ(nazwa(1), u"Drugi"_s);
+    EXPECT_EQ(naLiscie(e.kolumnaListy), (QStringList{u"Nie opuszczony"_s, u"Drugi"_s, u"(bez nazwy)"_s}));
+    EXPECT_FALSE(jestZnak());
+}
+
 TEST_P(EkranKartoteki, SzukanieZKlawiatury) {
     zWierszami({u"Kraków"_s, u"Nowy Sącz"_s, u"Ślemień"_s});
     QTest::keyClick(okno.get(), Qt::Key_F, Qt::ControlModifier);
@@ -222,6 +244,75 @@ TEST_F(EkranTest, ZnaczeniaDlaZusSaTekstemILiczba) {
     wybierz(u"cboZza"_s, u"1 - nowy adres"_s);
     okno->reject();
     EXPECT_EQ(wPliku(sesja(), schemat::M_PRACY), QStringList{u"1||||||||||1"_s});
+}
+
+/// What the clerk does in the dialog "Nowy użytkownik", which must be closed behind him.
+void wNowymUzytkowniku(std::function<void(frmLogNowy&, QList<QLineEdit*>)> czynnosc) {
+    QTimer::singleShot(0, qApp, [czynnosc = std::move(czynnosc)] {
+        const QPointer<frmLogNowy> okno = qobject_cast<frmLogNowy*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(okno) << "another dialog, or none";
+        auto* nazwa = okno->findChild<QLineEdit*>(u"txtNazwa"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return nazwa->hasFocus(); })) << "ready to type";
+        czynnosc(*okno,
+                 {okno->findChild<QLineEdit*>(u"txtNazwa"_s), okno->findChild<QLineEdit*>(u"txtHaslo"_s),
+                  okno->findChild<QLineEdit*>(u"txtPowtorzenie"_s)});
+        if (!okno || !okno->isVisible()) return;
+        ADD_FAILURE() << "still open";
+        okno->reject();
+    });
+}
+
+TEST_F(EkranTest, NowyUzytkownikZKlawiatury) {
+    pokaz(std::make_unique<frmLogLista>(otoczenie()));
+    EXPECT_EQ(naLiscie(), QStringList{u"Admin"_s});
+    rozmowa_.spodziewaj(u"Nazwa użytkownika jest pusta. Musisz podać nazwę użytkownika"_s, Styl::Wykrzyknik);
+    rozmowa_.spodziewaj(u"Nowe hasło oraz hasło powtórzone są różne. Wpisz hasło jeszcze raz."_s,
+                        Styl::Wykrzyknik);
+    rozmowa_.spodziewaj(u"Użytkownik Admin jest już zarejestrowany w programie. Podaj inną nazę dla nowego "
+                        "użutkownika."_s,
+                        Styl::Wykrzyknik);
+    wNowymUzytkowniku([](frmLogNowy& dialog, const QList<QLineEdit*>& pola) {
+        EXPECT_EQ(dialog.windowTitle(), u"Nowy użytkownik"_s);
+        const auto wypelnij = [&](const QStringList& teksty) {
+            pola[0]->setFocus(Qt::TabFocusReason);
+            for (int i = 0; i < 3; ++i) {
+                ASSERT_TRUE(pola[i]->hasFocus()) << i << ": Enter moves on";
+                pola[i]->setText(teksty.at(i));
+                EXPECT_TRUE(dialog.isVisible());
+                QTest::keyClick(pola[i], Qt::Key_Return);
+            }
+        };
+        wypelnij({QString(), u"tajne"_s, u"tajne"_s});
+        EXPECT_TRUE(dialog.isVisible() && pola[0]->hasFocus());
+        wypelnij({u"Kadrowa"_s, u"tajne"_s, u"inne"_s});
+        EXPECT_TRUE(dialog.isVisible() && pola[1]->hasFocus());
+        wypelnij({u"Admin"_s, u"tajne"_s, u"tajne"_s});
+        EXPECT_TRUE(dialog.isVisible() && pola[0]->hasFocus());
+        wypelnij({u" Kadrowa"_s, u"tajne"_s, u"tajne"_s});
+    });
+    kliknij(u"cmdNowy"_s);
+    EXPECT_TRUE(rozmowa_.gotowa());
+    EXPECT_EQ(naLiscie(), (QStringList{u"Admin"_s, u"Kadrowa"_s}));
+    EXPECT_EQ(kontrolka(u"Text2"_s).text(), u"Kadrowa"_s);
+    EXPECT_EQ(kontrolka(u"Text3"_s).text(), u"tajne"_s) << "in clear";
+    EXPECT_EQ(okno->focusWidget(), &kontrolka(u"Text2"_s));
+
+    // His rights, then another row: he is stored. The administrator stays as he is.
+    kontrolka<QCheckBox>(u"chkPlace"_s).click();
+    lista().wybierz(0);
+    EXPECT_EQ(wPliku(sesja(), schemat::UZYTKOWNICY), (QStringList{u"Admin||0"_s, u"Kadrowa|tajne|1"_s}));
+    EXPECT_TRUE(kontrolka<QLabel>(u"labAdm"_s).isVisible());
+    for (const QString& nazwa : {u"Text2"_s, u"Text3"_s, u"chkKadry"_s, u"chkPlace"_s})
+        EXPECT_FALSE(kontrolka<QWidget>(nazwa).isEnabled()) << nazwa.toStdString();
+    rozmowa_.spodziewaj(u"Użytkownik Admin nie może zostać usunięty z listy."_s, Styl::Wykrzyknik);
+    kliknij(u"cmdUsun"_s);
+
+    wNowymUzytkowniku([](frmLogNowy& dialog, const QList<QLineEdit*>& pola) {
+        pola[0]->setText(u"Nikt"_s);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    kliknij(u"cmdNowy"_s);
+    EXPECT_EQ(naLiscie().size(), 2);
 }
 
 TEST_F(EkranTest, ZmianaHasla) {

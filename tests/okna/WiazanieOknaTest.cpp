@@ -140,8 +140,9 @@ TEST_F(WiazanieTest, KazdyRodzajPorzadkujeIZapisuje) {
         {u"txtPlaca"_s, u"';--"_s, u"0,00"_s, zl(0)},
         {u"txtDzieci"_s, u"3"_s, u"3"_s, qint64{3}},
         {u"txtDzieci"_s, u"2,7"_s, u"3"_s, qint64{3}},
-        {u"txtDzieci"_s, u"32768"_s, u"0"_s, qint64{0}},
-        {u"txtDzieci"_s, u"-32768"_s, u"-32768"_s, qint64{-32768}},
+        {u"txtDzieci"_s, u"99999"_s, u"99999"_s, qint64{99999}}, // SHORT goes beyond 16 bits
+        {u"txtDzieci"_s, u"-2147483648"_s, u"-2147483648"_s, qint64{-2147483648}},
+        {u"txtDzieci"_s, u"2147483648"_s, u"0"_s, qint64{0}},
         {u"txtDzieci"_s, u"-0"_s, u"0"_s, qint64{0}},
         {u"txtDzieci"_s, u"1e3"_s, u"0"_s, qint64{0}},
         {u"txtDzieci"_s, dlugi, u"0"_s, qint64{0}},

@@ -1,19 +1,9 @@
-#include "okna/WidokListy.h"
 #include "personnel/frmFind.h"
-#include "personnel/frmNowyPrc.h"
-#include "personnel/frmPrac.h"
-#include "personnel/frmPracPola.h"
 #include "rules/SkladnikiPlac.h"
-#include "wsparcie/BazaTestowa.h"
+#include "wsparcie/EkranPracownikow.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
-#include <QTimer>
 #include <set>
 
 using namespace ekranKartoteki;
@@ -27,91 +17,7 @@ const QString kZapisac = QStringLiteral("Czy zapisać zmiany ?");
 const QString kPytanie = QStringLiteral("Pytanie");
 const QString kKopia = QStringLiteral("Czy skopiować dane z <Adresu zameldowania> do ");
 
-class PracTest : public BazaTestowa {
-protected:
-    void SetUp() override {
-        dodajPracownika(7, QStringLiteral("Nowak"), QStringLiteral("Anna"));
-        dodajPracownika(8, QStringLiteral("Łoś"), QStringLiteral("Jan"));
-        dodajPracownika(1234, QStringLiteral("Lis"), QStringLiteral("Ewa"));
-        slownik(sesja().rsUS, schemat::US("Nazwa"));
-        slownik(sesja().rsM_PRACY, schemat::M_PRACY("Nazwa"));
-    }
-    void slownik(Recordset& rs, Kolumna nazwa) {
-        rs.Open(sesja().cnPlace);
-        rs.AddNewZero(3);
-        rs.ustaw(nazwa, QStringLiteral("trzeci & ostatni"));
-        rs.UpdateBatch();
-    }
-    frmPrac& ekran(FiltrPracownikow filtr = FiltrPracownikow::Wszyscy, qint64 wybrany = -1) {
-        okno = std::make_unique<frmPrac>(otoczenie(), filtr);
-        okno->show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(okno.get()));
-        if (wybrany >= 0) EXPECT_TRUE(lista().wybierz(wybrany));
-        return *okno;
-    }
-    /// Ends the program without a word, and starts it again.
-    void odNowa() {
-        okno.reset();
-        otworzPonownie();
-    }
-    template <typename K = QLineEdit>
-    K& k(const QString& nazwa) {
-        return *okno->findChild<K*>(nazwa);
-    }
-    WidokListy& lista() { return k<WidokListy>(QStringLiteral("lvwPrac")); }
-    QTabWidget& karty() { return k<QTabWidget>(QStringLiteral("tabPrac")); }
-    void klik(const char16_t* nazwa) { k<QPushButton>(QString::fromUtf16(nazwa)).click(); }
-    QStringList wiersze() {
-        QStringList wynik;
-        for (int i = 0; i < lista().lista().rowCount(); ++i)
-            wynik += lista().lista().index(i, 0).data().toString() + QLatin1Char(' ') +
-                     lista().lista().index(i, 1).data().toString();
-        return wynik;
-    }
-    Wartosc wPliku(Kolumna kolumna, qint64 prcId = 7) {
-        Recordset rs(*kolumna.tabela);
-        rs.Open(sesja().cnPlace);
-        return rs.Znajdz(prcId) ? rs.wartosc(kolumna) : Wartosc(QStringLiteral("no such row"));
-    }
-    /// Types over what stands in the field, one character after the other.
-    void wpisz(QWidget& pole, const QString& tekst) {
-        pole.setFocus(Qt::TabFocusReason);
-        QCoreApplication::processEvents();
-        if (auto* notatkaPola = qobject_cast<QPlainTextEdit*>(&pole)) notatkaPola->selectAll();
-        for (const char32_t znak : tekst.toUcs4()) {
-            QKeyEvent zdarzenie(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&znak, 1));
-            QApplication::sendEvent(&pole, &zdarzenie);
-        }
-    }
-    void wpisz(const QString& nazwa, const QString& tekst) { wpisz(k<QWidget>(nazwa), tekst); }
-    /// What the clerk does in the next dialog that opens.
-    template <typename Okno>
-    void wDialogu(std::function<void(Okno&)> czyn) {
-        QTimer::singleShot(0, qApp, [czyn] {
-            auto* dialog = qobject_cast<Okno*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(dialog) << "another dialog, or none";
-            czyn(*dialog);
-        });
-    }
-    void wypelnijNowego(frmNowyPrc& dialog, const QString& numer, const QString& nazwisko) {
-        dialog.findChild<QLineEdit*>(QStringLiteral("txtNR"))->setText(numer);
-        dialog.findChild<QLineEdit*>(QStringLiteral("txtNazwisko"))->setText(nazwisko);
-        dialog.findChild<QPushButton*>(QStringLiteral("cmdDalej"))->click();
-    }
-
-    std::unique_ptr<frmPrac> okno;
-};
-
-/// Every field of the tabs, and the note, with the tab it stands on.
-QList<std::pair<int, Pole>> wszystkiePola() {
-    QList<std::pair<int, Pole>> wynik;
-    for (int z = 0; z < zakladki().size(); ++z)
-        for (const KolumnaKartoteki& kolumna : zakladki().at(z).kolumny)
-            for (const GrupaKartoteki& grupa : kolumna)
-                for (const Pole& pole : grupa.pola) wynik.append({z, pole});
-    wynik.append({Ogolne, notatka()});
-    return wynik;
-}
+using PracTest = EkranPracownikow;
 
 TEST(PracPolaTest, KazdaKolumnaKartotekiMaSwojePole) {
     std::set<std::string> braki;
@@ -146,16 +52,6 @@ TEST_F(PracTest, KazdaZakladkaMaNaglowekIDzialaZKlawiatury) {
         const QString naglowek = k<QLabel>(QStringLiteral("labImiona(%1)").arg(z + 1)).text();
         EXPECT_EQ(naglowek, z == 0 ? QStringLiteral("Anna Nowak") : QStringLiteral("Anna Maria Nowak"));
 
-        std::set<QString> mnemoniki;
-        const auto sprawdz = [&](const QString& tekst) {
-            const QString m = QKeySequence::mnemonic(tekst).toString();
-            if (!m.isEmpty()) EXPECT_TRUE(mnemoniki.insert(m).second) << m.toStdString() << " on tab " << z;
-        };
-        for (const auto* p : okno->findChildren<QAbstractButton*>())
-            if (p->isVisible()) sprawdz(p->text());
-        for (const auto* napis : okno->findChildren<QLabel*>())
-            if (napis->isVisible() && napis->buddy()) sprawdz(napis->text());
-
         // From the list into the fields; there Enter goes from one to the next.
         QStringList oczekiwane, przebyte;
         for (const auto& [zakladka, pole] : wszystkiePola()) {
@@ -176,6 +72,41 @@ TEST_F(PracTest, KazdaZakladkaMaNaglowekIDzialaZKlawiatury) {
     rozmowa_.spodziewaj(kZapisac, Odpowiedz::Nie, kPytanie);
     QTest::keyClick(okno.get(), Qt::Key_Escape);
     EXPECT_FALSE(okno->isVisible());
+}
+
+TEST_F(PracTest, SzukaPoNumerzeINazwiskuRazPoRaz) {
+    ekran(FiltrPracownikow::Wszyscy, 7);
+    struct Szukanie {
+        QString wpisany;
+        qint64 wybrany;
+    };
+    for (const auto& [wpisany, wybrany] :
+         {Szukanie{QStringLiteral("ŁO"), 8}, Szukanie{QStringLiteral("1234"), 1234},
+          Szukanie{QStringLiteral("007"), 7}, Szukanie{QStringLiteral("12"), -1},
+          Szukanie{QStringLiteral("jan"), 8}}) {
+        SCOPED_TRACE(wpisany.toStdString());
+        const qint64 przedtem = lista().wybrany();
+        const bool znaleziony = wybrany >= 0;
+        if (!znaleziony) rozmowa_.spodziewaj(QStringLiteral("Nie znaleziono"), Styl::Informacja);
+        okno->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(okno.get()));
+        bool otwarte = false;
+        wDialogu<frmFind>([&, tekst = wpisany](frmFind& dialog) {
+            otwarte = true;
+            EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Szukanie pracownika"));
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+            auto* pole = dialog.findChild<QLineEdit*>(QStringLiteral("txtSzukany"));
+            EXPECT_TRUE(QTest::qWaitFor([&] { return pole->hasFocus(); })) << "ready to type";
+            wpisz(*pole, tekst);
+            QTest::keyClick(pole, Qt::Key_Return);
+            EXPECT_EQ(dialog.isVisible(), !znaleziony) << "without a hit the next text may follow";
+            if (!znaleziony) QTest::keyClick(pole, Qt::Key_Escape);
+        });
+        QTest::keyClick(okno.get(), Qt::Key_F, Qt::ControlModifier);
+        ASSERT_TRUE(otwarte);
+        EXPECT_EQ(lista().wybrany(), znaleziony ? wybrany : przedtem);
+        EXPECT_TRUE(rozmowa_.gotowa());
+    }
 }
 
 TEST_F(PracTest, FiltrySortowanieIZwolnieni) {

@@ -1,0 +1,409 @@
+// Every screen that the main window opens, on the example firm.
+#include "app/frmLogNowy.h"
+#include "app/frmLogowanie.h"
+#include "app/frmMain.h"
+#include "app/frmMainEkrany.h"
+#include "app/ListaUzytkownikow.h"
+#include "app/Przyklad.h"
+#include "app/Rozruch.h"
+#include "okna/frmInputData.h"
+#include "okna/WidokListy.h"
+#include "payroll/frmPlace.h"
+#include "payroll/frmPlaceLista.h"
+#include "personnel/frmFind.h"
+#include "personnel/frmNowyPrc.h"
+#include "personnel/frmPrac.h"
+#include "personnel/frmWybPr.h"
+#include "wsparcie/RozmowaSkrypt.h"
+#include "wsparcie/RozmowaZgoda.h"
+#include <functional>
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A clerk with one answer to everything. What he was asked stands in `pytania`.
+class RozmowaStala : public RozmowaZgoda {
+public:
+    [[nodiscard]] bool pytanie(const QString& tekst, const QString&) override {
+        pytania += tekst;
+        return odpowiedz == Odpowiedz::Tak;
+    }
+    Odpowiedz odpowiedz = Odpowiedz::Nie;
+    QStringList pytania;
+};
+
+QString nazwa(const QWidget& widzet) {
+    return widzet.objectName().isEmpty() ? QString::fromLatin1(widzet.metaObject()->className())
+                                         : widzet.objectName();
+}
+
+class EkranyTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        wzor_ = std::make_unique<QTemporaryDir>();
+        UtworzPrzyklad(wzor_->filePath(u"Tornel.mdb"_s));
+    }
+    static void TearDownTestSuite() { wzor_.reset(); }
+
+    EkranyTest() {
+        QFile::copy(wzor_->filePath(u"Tornel.mdb"_s), plik_);
+        program_ = std::make_unique<Program>(plik_, folder_.path(), rozmowa_);
+        program_->sesja().uzytkownik = {u"Admin"_s, {}, 0};
+        for (bool Stale::*przelacznik :
+             {&Stale::AktRejNadg, &Stale::AktRejPrzepDni, &Stale::OsobHarPrac, &Stale::AktywneUmowyZlecenia,
+              &Stale::AktywneUmowyODzielo, &Stale::AktywneHonoraria})
+            otoczenie().stale.*przelacznik = true;
+    }
+    ~EkranyTest() override { straznik_.stop(); }
+
+    Otoczenie& otoczenie() { return program_->otoczenie(); }
+    void otworzOkno() {
+        okno_ = std::make_unique<frmMain>(otoczenie());
+        ZarejestrujEkrany(*okno_, otoczenie());
+        okno_->wczytaj();
+        okno_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(okno_.get()));
+    }
+    /// Does `czynnosc` in every modal window that opens from now on, and closes it with Escape.
+    void wKazdymOknie(std::function<void(QWidget&)> czynnosc) {
+        QObject::connect(&straznik_, &QTimer::timeout, &straznik_, [this, czynnosc = std::move(czynnosc)] {
+            const QPointer<QWidget> modalne = QApplication::activeModalWidget();
+            if (!modalne || zajety_) return;
+            zajety_ = true;
+            otwarte_ += modalne->objectName();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(modalne)) << otwarte_.last().toStdString();
+            czynnosc(*modalne);
+            if (modalne) QTest::keyClick(modalne, Qt::Key_Escape);
+            const bool zamkniete = QTest::qWaitFor([&] { return !modalne || !modalne->isVisible(); }, 2000);
+            EXPECT_TRUE(zamkniete) << otwarte_.last().toStdString() << " stays open";
+            if (!zamkniete) modalne->hide();
+            zajety_ = false;
+        });
+        straznik_.start(1);
+    }
+    /// Does `czynnosc` in the next modal screen, which must be of this kind and closed behind it.
+    template <typename T>
+    static void wOknie(std::function<void(T&)> czynnosc) {
+        QTimer::singleShot(0, qApp, [czynnosc = std::move(czynnosc)] {
+            const QPointer<T> ekran = qobject_cast<T*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(ekran) << "another screen is open, or none";
+            EXPECT_TRUE(QTest::qWaitForWindowActive(ekran));
+            czynnosc(*ekran);
+            if (!ekran || !ekran->isVisible()) return;
+            ADD_FAILURE() << nazwa(*ekran).toStdString() << " stays open";
+            ekran->hide();
+        });
+    }
+    /// Every row of every table of the file.
+    std::map<std::string, QStringList> calaBaza() {
+        Polaczenie& baza = program_->sesja().cnPlace;
+        std::vector<std::string> tabele;
+        for (Instrukcja i(baza, "SELECT name FROM sqlite_master WHERE type = 'table'"); i.wiersz();)
+            tabele.emplace_back(i.utf8(0));
+        std::map<std::string, QStringList> wynik;
+        for (const std::string& tabela : tabele) {
+            Instrukcja kolumny(baza, "SELECT group_concat('quote(\"' || name || '\")', ' || ''|'' || ') FROM "
+                                     "pragma_table_info('" +
+                                         tabela + "')");
+            EXPECT_TRUE(kolumny.wiersz());
+            const std::string sql =
+                "SELECT " + std::string(kolumny.utf8(0)) + " FROM \"" + tabela + "\" ORDER BY rowid";
+            for (Instrukcja i(baza, sql); i.wiersz();) wynik[tabela] += i.tekst(0);
+        }
+        EXPECT_GT(wynik.size(), 10U);
+        return wynik;
+    }
+
+    static inline std::unique_ptr<QTemporaryDir> wzor_;
+    QTemporaryDir folder_;
+    QString plik_ = folder_.filePath(u"Tornel.mdb"_s);
+    RozmowaStala rozmowa_;
+    std::unique_ptr<Program> program_;
+    std::unique_ptr<frmMain> okno_;
+    QTimer straznik_;
+    bool zajety_ = false;
+    QStringList otwarte_;
+};
+
+/// Shows each tab of the screen in turn; a screen without tabs as it is.
+void naKazdejZakladce(QWidget& ekran, const std::function<void(const QString&)>& czynnosc) {
+    if (auto* zakladki = ekran.findChild<QTabWidget*>()) {
+        for (int i = 0; i < zakladki->count(); ++i) {
+            zakladki->setCurrentIndex(i);
+            czynnosc(zakladki->tabText(i));
+        }
+    } else if (auto* lista = ekran.findChild<QListWidget*>()) {
+        for (int i = 0; i < lista->count(); ++i) {
+            lista->setCurrentRow(i);
+            czynnosc(lista->item(i)->text());
+        }
+    } else {
+        czynnosc(ekran.windowTitle());
+    }
+}
+
+/// What can be typed into or chosen from on the tab shown, in the order of the Tab key.
+QList<QWidget*> pola(QWidget& ekran) {
+    QList<QWidget*> wynik;
+    for (QWidget* w = ekran.nextInFocusChain(); w != &ekran; w = w->nextInFocusChain()) {
+        const bool pole = qobject_cast<QLineEdit*>(w) || qobject_cast<QComboBox*>(w) ||
+                          qobject_cast<QCheckBox*>(w) || qobject_cast<QPlainTextEdit*>(w) ||
+                          qobject_cast<QAbstractSpinBox*>(w);
+        const bool czesc =
+            qobject_cast<QAbstractSpinBox*>(w->parentWidget()) || qobject_cast<QComboBox*>(w->parentWidget());
+        if (pole && !czesc && ekran.isAncestorOf(w) && w->isVisible() && w->isEnabled() &&
+            (w->focusPolicy() & Qt::TabFocus) != 0)
+            wynik += w;
+    }
+    return wynik;
+}
+
+void sprawdzMnemoniki(const QWidget& ekran) {
+    std::map<QString, QString> czyje;
+    const auto sprawdz = [&](const QString& tekst, const QWidget& widzet) {
+        const QString mnemonik = QKeySequence::mnemonic(tekst).toString();
+        if (mnemonik.isEmpty() || !widzet.isVisible() || !widzet.isEnabled()) return;
+        const auto [inny, nowy] = czyje.emplace(mnemonik, tekst);
+        EXPECT_TRUE(nowy) << mnemonik.toStdString() << ": " << tekst.toStdString() << " and "
+                          << inny->second.toStdString();
+    };
+    for (const auto* p : ekran.findChildren<QAbstractButton*>()) sprawdz(p->text(), *p);
+    for (const auto* napis : ekran.findChildren<QLabel*>())
+        if (napis->buddy()) sprawdz(napis->text(), *napis);
+}
+
+void sprawdzNazwyDostepne(QWidget& ekran) {
+    const auto podpisy = ekran.findChildren<QLabel*>();
+    for (const QWidget* pole : pola(ekran)) {
+        const auto* flaga = qobject_cast<const QCheckBox*>(pole);
+        const bool podpisane = std::ranges::any_of(
+            podpisy, [&](const QLabel* l) { return l->buddy() == pole && !l->text().isEmpty(); });
+        EXPECT_TRUE(podpisane || !pole->accessibleName().isEmpty() || (flaga && !flaga->text().isEmpty()))
+            << nazwa(*pole).toStdString() << " has no name";
+    }
+}
+
+/// The frame in which a field stands, or its screen.
+const QWidget* ramka(const QWidget& pole) {
+    const QWidget* w = pole.parentWidget();
+    while (!w->isWindow() && !qobject_cast<const QGroupBox*>(w)) w = w->parentWidget();
+    return w;
+}
+
+/// The Tab key goes down each column of fields, and never back up but into a column further right.
+void sprawdzKolejnosc(QWidget& ekran) {
+    const QList<QWidget*> wszystkie = pola(ekran);
+    const auto miejsce = [&](const QWidget* w) { return QRect(w->mapTo(&ekran, QPoint()), w->size()); };
+    std::map<const QWidget*, std::map<int, std::pair<int, QString>>> najnizej;
+    const QWidget* poprzednie = nullptr;
+    std::set<const QWidget*> opuszczone;
+    for (const QWidget* pole : wszystkie) {
+        const QWidget* grupa = ramka(*pole);
+        const QRect tu = miejsce(pole);
+        auto& wKolumnie = najnizej[grupa];
+        const auto ta = wKolumnie.find(tu.left());
+        if (ta != wKolumnie.end())
+            EXPECT_GT(tu.top(), ta->second.first)
+                << nazwa(*pole).toStdString() << " comes after " << ta->second.second.toStdString();
+        wKolumnie[tu.left()] = {tu.top(), nazwa(*pole)};
+        if (poprzednie && ramka(*poprzednie) == grupa) {
+            const QRect tam = miejsce(poprzednie);
+            EXPECT_TRUE(tu.top() > tam.center().y() || tu.left() > tam.left())
+                << nazwa(*poprzednie).toStdString() << " -> " << nazwa(*pole).toStdString();
+        } else if (poprzednie && grupa != &ekran) {
+            if (ramka(*poprzednie) != &ekran) opuszczone.insert(ramka(*poprzednie));
+            EXPECT_FALSE(opuszczone.contains(grupa)) << "back to the frame of " << nazwa(*pole).toStdString();
+        }
+        poprzednie = pole;
+    }
+}
+
+TEST_F(EkranyTest, KazdyOtwieraSieZMenuIZamykaEscapeBezZmianWBazie) {
+    otworzOkno();
+    const auto przedtem = calaBaza();
+    wKazdymOknie([](QWidget& ekran) {
+        SCOPED_TRACE(nazwa(ekran).toStdString());
+        EXPECT_FALSE(ekran.windowTitle().isEmpty());
+        EXPECT_TRUE(QRect(0, 0, 1280, 800).contains(QRect(QPoint(), ekran.size())));
+        naKazdejZakladce(ekran, [&](const QString& zakladka) {
+            const auto widoczne = ekran.findChildren<QWidget*>();
+            EXPECT_TRUE(std::ranges::any_of(
+                widoczne,
+                [](const QWidget* w) {
+                    const auto* lista = qobject_cast<const QAbstractItemView*>(w);
+                    const auto* napis = qobject_cast<const QLabel*>(w);
+                    return w->isVisible() && (qobject_cast<const QLineEdit*>(w) ||
+                                              (lista && lista->model() && lista->model()->rowCount() > 0) ||
+                                              (napis && !napis->text().isEmpty()));
+                }))
+                << zakladka.toStdString() << " is empty";
+        });
+    });
+    int otwartych = 0;
+    for (const PozycjaMenu& p : menuGlowne()) {
+        if (p.wejscie == Wejscie::Koniec || !okno_->akcja(p.wejscie)->isEnabled()) continue;
+        SCOPED_TRACE(p.napis.toString().toStdString());
+        otwarte_.clear();
+        okno_->akcja(p.wejscie)->trigger();
+        EXPECT_FALSE(otwarte_.isEmpty()) << "nothing opens";
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(rozmowa_.pytania, QStringList()) << "nothing was changed, so nothing is asked";
+        EXPECT_EQ(calaBaza(), przedtem);
+        ++otwartych;
+    }
+    EXPECT_GE(otwartych, 15);
+}
+
+TEST_F(EkranyTest, KlawiaturaNaKazdymEkranie) {
+    otworzOkno();
+    wKazdymOknie([](QWidget& ekran) {
+        naKazdejZakladce(ekran, [&](const QString& zakladka) {
+            SCOPED_TRACE(nazwa(ekran).toStdString() + " / " + zakladka.toStdString());
+            QCoreApplication::processEvents();
+            sprawdzMnemoniki(ekran);
+            sprawdzNazwyDostepne(ekran);
+            sprawdzKolejnosc(ekran);
+        });
+    });
+    for (const PozycjaMenu& p : menuGlowne())
+        if (p.wejscie != Wejscie::Koniec && okno_->akcja(p.wejscie)->isEnabled())
+            okno_->akcja(p.wejscie)->trigger();
+    // Screens that other screens open.
+    Otoczenie& o = otoczenie();
+    ListaUzytkownikow uzytkownicy(o);
+    frmLogowanie().exec();
+    frmPlaceLista(o, {2001, 3}, u" "_s).exec();
+    frmWybPr(o, 1).exec();
+    frmNowyPrc(o).exec();
+    frmFind([](const QString&) { return false; }).exec();
+    frmLogNowy(uzytkownicy).exec();
+    frmInputData(frmInputData::Tryb::Miesiac, u"Miesiąc"_s, QDate(2001, 4, 1)).exec();
+    frmInputData(frmInputData::Tryb::Data, u"Dzień"_s, QDate(2001, 4, 1)).exec();
+    EXPECT_GE(otwarte_.size(), 23) << otwarte_.join(u' ').toStdString();
+}
+
+template <typename T = QWidget>
+T& widzet(const QWidget& ekran, const QString& nazwaWidzetu) {
+    if (auto* znaleziony = ekran.findChild<T*>(nazwaWidzetu)) return *znaleziony;
+    throw std::runtime_error("no control " + nazwaWidzetu.toStdString());
+}
+
+void klik(const QWidget& ekran, const QString& przycisk) {
+    QTest::mouseClick(&widzet(ekran, przycisk), Qt::LeftButton);
+}
+
+/// Goes to the field, on whatever tab it is, types over what it holds, and leaves it with Enter.
+void wpisz(QWidget& ekran, const QString& pole, const QString& tekst) {
+    // A screen gets its focus back from the one above it only with the next events.
+    ekran.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&ekran));
+    auto& linia = widzet<QLineEdit>(ekran, pole);
+    if (auto* zakladki = ekran.findChild<QTabWidget*>())
+        for (int i = 0; i < zakladki->count(); ++i)
+            if (zakladki->widget(i)->isAncestorOf(&linia)) zakladki->setCurrentIndex(i);
+    linia.setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(&linia, tekst);
+    QTest::keyClick(&linia, Qt::Key_Return);
+}
+
+TEST_F(EkranyTest, OdNowegoPracownikaDoKwotyDoWyplaty) {
+    rozmowa_.odpowiedz = Odpowiedz::Tak;
+    otworzOkno();
+    wOknie<frmPrac>([&](frmPrac& ekran) {
+        wOknie<frmNowyPrc>([](frmNowyPrc& nowy) {
+            EXPECT_EQ(widzet<QLineEdit>(nowy, u"txtNR"_s).text(), u"13"_s);
+            wpisz(nowy, u"txtNazwisko"_s, u"Nowicki"_s);
+            EXPECT_TRUE(nowy.isVisible()) << "Enter moves on to the last line";
+            wpisz(nowy, u"txtImie"_s, u"Adam"_s);
+        });
+        klik(ekran, u"cmdnowyprac"_s);
+        EXPECT_EQ(widzet<WidokListy>(ekran, u"lvwPrac"_s).wybrany(), 13);
+        wpisz(ekran, u"dtData_zatr"_s, u"01032001"_s);
+        wpisz(ekran, u"txtPlaca_zas"_s, u"2000"_s);
+        wpisz(ekran, u"txtEtat"_s, u"1"_s);
+        wpisz(ekran, u"txtEtat2"_s, u"1"_s);
+        wpisz(ekran, u"txtKup"_s, u"101,82"_s);
+        for (const QString& flaga : {u"chkCzy_kuz"_s, u"chkCzy_ulga"_s})
+            QTest::keyClick(&widzet(ekran, flaga), Qt::Key_Space);
+        QTest::keyClick(&ekran, Qt::Key_S, Qt::ControlModifier);
+        QTest::keyClick(&ekran, Qt::Key_Escape);
+    });
+    okno_->akcja(Wejscie::PracownicyWszyscy)->trigger();
+
+    wOknie<frmPlace>([&](frmPlace& ekran) {
+        ASSERT_TRUE(widzet<WidokListy>(ekran, u"lvwLista"_s).wybierz(200103));
+        const auto suma = [&](const QString& pole) { return widzet<QLineEdit>(ekran, pole).text(); };
+        EXPECT_EQ(suma(u"txtIlWyplat"_s) + u'|' + suma(u"txtDoWyplaty"_s), u"11|26330,94"_s);
+        wOknie<frmPlaceLista>([](frmPlaceLista& lista) {
+            wOknie<frmWybPr>([](frmWybPr& wybor) {
+                EXPECT_TRUE(widzet<WidokListy>(wybor, u"lvwWybPr"_s).wybierz(13));
+                klik(wybor, u"cmdWybierz"_s);
+            });
+            klik(lista, u"cmdNowy"_s);
+            klik(lista, u"cmdPrzelicz"_s);
+            EXPECT_EQ(widzet<QLineEdit>(lista, u"txtBrutto"_s).text(), u"2000,00"_s);
+            // Contributions of 195,20, 130 and 49; 1523,98 to be taxed; 289,56 less the credit of 36,35.
+            EXPECT_EQ(widzet<QLineEdit>(lista, u"txtDoWyplaty"_s).text(), u"1372,59"_s);
+            QTest::keyClick(&lista, Qt::Key_Escape);
+        });
+        klik(ekran, u"Command2"_s);
+        EXPECT_EQ(suma(u"txtIlWyplat"_s) + u'|' + suma(u"txtDoWyplaty"_s), u"12|27703,53"_s);
+        QTest::keyClick(&ekran, Qt::Key_Escape);
+    });
+    okno_->akcja(Wejscie::ListaPlac)->trigger();
+    EXPECT_EQ(rozmowa_.pytania.join(u'|'),
+              u"Został zarejestrowany nowy pracownik. Czy nastąpi zgłoszenie pracownika do ubezpieczeń "
+              "społecznych ?|Czy nastąpi zgłoszenie pracownika do ubezpieczenia zdrowotnego ?"_s);
+}
+
+TEST_F(EkranyTest, KadryNieDochodzaDoPlac) {
+    const auto wszystkimi = [&] {
+        otwarte_.clear();
+        for (QAction* akcja : okno_->findChildren<QAction*>()) akcja->trigger();
+        for (QAbstractButton* przycisk : okno_->findChildren<QAbstractButton*>()) {
+            auto* zLista = qobject_cast<QToolButton*>(przycisk);
+            // The menu of such a button holds the actions already tried.
+            if (!zLista || !zLista->menu()) przycisk->click();
+        }
+        for (int klawisz = Qt::Key_F1; klawisz <= Qt::Key_F12; ++klawisz)
+            QTest::keyClick(okno_.get(), static_cast<Qt::Key>(klawisz));
+        for (int klawisz = Qt::Key_0; klawisz <= Qt::Key_Z; ++klawisz)
+            for (const auto modyfikatory :
+                 {Qt::KeyboardModifiers(Qt::AltModifier), Qt::KeyboardModifiers(Qt::ControlModifier),
+                  Qt::AltModifier | Qt::ControlModifier})
+                QTest::keyClick(okno_.get(), static_cast<Qt::Key>(klawisz), modyfikatory);
+        return std::set<QString>(otwarte_.begin(), otwarte_.end());
+    };
+    wKazdymOknie([](QWidget&) {});
+    otworzOkno();
+    const auto administrator = wszystkimi();
+    for (const QString& ekran : {u"frmPrac"_s, u"frmPlace"_s, u"frmStaleProgramu"_s, u"frmLogLista"_s})
+        EXPECT_TRUE(administrator.contains(ekran)) << ekran.toStdString();
+
+    otoczenie().sesja.uzytkownik = {u"Kadrowa"_s, {}, 1};
+    okno_.reset();
+    otworzOkno();
+    EXPECT_EQ(wszystkimi(), (std::set<QString>{u"frmPrac"_s, u"frmHaslo"_s, u"frmAbout"_s}));
+}
+
+} // namespace
