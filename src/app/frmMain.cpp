@@ -62,7 +62,7 @@ frmMain::frmMain(Otoczenie& otoczenie) : o_(otoczenie) {
 
     rejestruj(Wejscie::Koniec, [this] { close(); });
     rejestruj(Wejscie::OProgramie, [this] { frmAbout(this).exec(); });
-    akcja(Wejscie::Koniec)->setShortcut(QKeySequence::Quit);
+    akcja(Wejscie::Koniec)->setShortcut(Qt::CTRL | Qt::Key_Q); // not every desktop has a key for it
     akcja(Wejscie::Pomoc)->setShortcut(QKeySequence::HelpContents);
     UstawDostepnoscMenu();
 }

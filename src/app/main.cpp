@@ -6,8 +6,10 @@
 #include "app/Rozruch.h"
 #include "app/Uzytkownicy.h"
 #include "okna/Aplikacja.h"
+#include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/Wyglad.h"
+#include <QDir>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -71,6 +73,7 @@ int main(int argc, char** argv) {
     Aplikacja::processEvents();
     Aplikacja::setOverrideCursor(Qt::WaitCursor);
     RozmowaOkien rozmowa;
+    Pomoc pomoc(QDir(Aplikacja::applicationDirPath()).filePath(QStringLiteral("Help.hlp")), rozmowa);
     const QString baza =
         polecenie.baza.isEmpty() ? ZnajdzBaze(Aplikacja::applicationDirPath(), rozmowa) : polecenie.baza;
     const std::unique_ptr<Program> program = PStart(baza, rozmowa);
@@ -84,6 +87,7 @@ int main(int argc, char** argv) {
 
     frmMain okno(program->otoczenie());
     ZarejestrujEkrany(okno, program->otoczenie());
+    okno.rejestruj(Wejscie::Pomoc, [&] { pomoc.pokazSpis(okno); });
     splash.finish(&okno);
     okno.show();
     okno.wczytaj();

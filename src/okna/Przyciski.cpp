@@ -1,13 +1,27 @@
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
+#include <QCoreApplication>
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QPushButton>
 
 QPushButton* przycisk(const QString& nazwa, const QString& napis, QStringView ikona) {
     auto* nowy = new QPushButton(Wyglad::ikona(ikona), napis);
     nowy->setObjectName(nazwa);
     return nowy;
+}
+
+QPushButton* przyciskPomocy() {
+    QPushButton* pomoc = przycisk(QStringLiteral("cmdPomoc"), QStringLiteral("Pomoc"), u"pomoc");
+    pomoc->setAutoDefault(false);
+    pomoc->setToolTip(QStringLiteral("F1"));
+    // The event that stands for such a wish: no screen has to know who answers.
+    QObject::connect(pomoc, &QPushButton::clicked, pomoc, [pomoc] {
+        QHelpEvent zyczenie(QEvent::WhatsThis, QPoint(), QPoint());
+        QCoreApplication::sendEvent(pomoc, &zyczenie);
+    });
+    return pomoc;
 }
 
 QWidget* rzadPrzyciskow(const QList<QPushButton*>& przyciski) {

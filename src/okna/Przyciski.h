@@ -11,6 +11,10 @@ class QWidget;
 /// A button with its name and caption (mnemonic included), and a picture if `ikona` names one.
 [[nodiscard]] QPushButton* przycisk(const QString& nazwa, const QString& napis, QStringView ikona = {});
 
+/// `cmdPomoc` "Pomoc", which asks for the page of the handbook about its screen, as F1 does. Never the
+/// default.
+[[nodiscard]] QPushButton* przyciskPomocy();
+
 /// The buttons in one row at the right, in the order given.
 [[nodiscard]] QWidget* rzadPrzyciskow(const QList<QPushButton*>& przyciski);
 

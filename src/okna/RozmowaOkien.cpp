@@ -41,6 +41,7 @@ QString naEkran(QString tekst) { return tekst.replace(QLatin1String("\r\n"), QLa
 
 /// A box whose text is never taken for markup: names and notes of the clerk stand in it.
 void przygotuj(QMessageBox& okno, const QString& tekst, const QString& tytul) {
+    okno.setObjectName(QStringLiteral("komunikaty")); // all boxes share one page of the handbook
     okno.setTextFormat(Qt::PlainText);
     okno.setWindowTitle(tytul);
     okno.setText(naEkran(tekst));

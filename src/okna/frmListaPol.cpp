@@ -111,7 +111,7 @@ QWidget* frmListaPol::dol() {
     auto* uklad = new QHBoxLayout(rzad);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(labZmiana_, 1);
-    uklad->addWidget(rzadPrzyciskow({cmdNowy_, cmdUsun_, cmdAnuluj_}));
+    uklad->addWidget(rzadPrzyciskow({cmdNowy_, cmdUsun_, przyciskPomocy(), cmdAnuluj_}));
     return rzad;
 }
 

@@ -1,11 +1,20 @@
 #include "payroll/DaneNieobecnosci.h"
 #include "store/Sesja.h"
+#include <charconv>
+#include <vector>
 
 namespace {
 
-/// ISO text of the file; anything else is an invalid date.
+/// "2001-07-31" of the file; anything else is an invalid date.
 QDate dataZTekstu(std::string_view tekst) {
-    return QDate::fromString(QLatin1String(tekst.data(), static_cast<qsizetype>(tekst.size())), Qt::ISODate);
+    if (tekst.size() != 10 || tekst[4] != '-' || tekst[7] != '-') return {};
+    const auto liczba = [&](std::size_t od, std::size_t ile) {
+        int wynik = 0;
+        const char* koniec = tekst.data() + od + ile;
+        const auto [dokad, blad] = std::from_chars(tekst.data() + od, koniec, wynik);
+        return blad == std::errc() && dokad == koniec ? wynik : 0;
+    };
+    return QDate(liczba(0, 4), liczba(5, 2), liczba(8, 2));
 }
 
 } // namespace
@@ -15,38 +24,69 @@ class DaneNieobecnosci::Rejestr {
 public:
     /// `kolumny`: kind, amount and percentage in this order, or a constant where the register has none.
     Rejestr(Sesja& sesja, const char* tabela, const char* kolumny, QDate od, QDate dokad, Odczyt odczyt)
-        : instrukcja_(sesja.cnPlace, (QByteArray("SELECT PRC_ID, DATA, DATA_DO, ") + kolumny + " FROM " +
+        : odczyt_(odczyt),
+          instrukcja_(sesja.cnPlace, (QByteArray("SELECT PRC_ID, DATA, DATA_DO, ") + kolumny + " FROM " +
                                       tabela + " WHERE DATA_DO >= ?1 AND DATA <= ?2" +
-                                      (odczyt == Odczyt::PoJednym ? " AND PRC_ID = ?3" : "") +
-                                      " ORDER BY PRC_ID, DATA, DATA_DO")
+                                      (odczyt == Odczyt::PoJednym ? " AND PRC_ID = ?3" : ""))
                                          .toStdString()) {
         instrukcja_.wiaz(0, od.toString(Qt::ISODate)).wiaz(1, dokad.toString(Qt::ISODate));
-        if (odczyt == Odczyt::PoJednym) return;
-        wszystkie_.emplace();
-        while (instrukcja_.wiersz()) (*wszystkie_)[instrukcja_.liczba(0)].append(wiersz());
+        if (odczyt == Odczyt::Wszystkich) czytaj();
     }
 
     [[nodiscard]] Nieobecnosci pracownika(qint64 prcId) {
-        if (wszystkie_) return wszystkie_->value(prcId);
-        if (const auto znane = znane_.constFind(prcId); znane != znane_.cend()) return *znane;
-        instrukcja_.wiaz(2, prcId);
-        Nieobecnosci wynik;
-        while (instrukcja_.wiersz()) wynik.append(wiersz());
-        instrukcja_.od_nowa();
-        znane_.insert(prcId, wynik);
-        return wynik;
+        if (odczyt_ == Odczyt::PoJednym && prcId_ != prcId) {
+            prcId_ = prcId;
+            instrukcja_.wiaz(2, prcId);
+            czytaj();
+        }
+        const Zakres z = poNumerze_.value(prcId);
+        return Nieobecnosci(wiersze_).subspan(z.poczatek, z.ile);
     }
 
 private:
-    [[nodiscard]] Nieobecnosc wiersz() const {
-        return {dataZTekstu(instrukcja_.utf8(1)), dataZTekstu(instrukcja_.utf8(2)),
-                static_cast<int>(instrukcja_.liczba(3)), Waluta::zSurowej(instrukcja_.liczba(4)),
-                Waluta::zSurowej(instrukcja_.liczba(5))};
+    void czytaj() {
+        std::vector<std::pair<qint64, Nieobecnosc>> przeczytane;
+        poNumerze_.clear();
+        while (instrukcja_.wiersz()) {
+            const qint64 prcId = instrukcja_.liczba(0);
+            przeczytane.emplace_back(prcId, Nieobecnosc{dataZTekstu(instrukcja_.utf8(1)),
+                                                        dataZTekstu(instrukcja_.utf8(2)),
+                                                        static_cast<int>(instrukcja_.liczba(3)),
+                                                        Waluta::zSurowej(instrukcja_.liczba(4)),
+                                                        Waluta::zSurowej(instrukcja_.liczba(5))});
+            ++poNumerze_[prcId].ile;
+        }
+        instrukcja_.od_nowa();
+        ulozWgNumerow(przeczytane);
     }
 
+    /// Each employee's rows together and in order. The engine would do it row after row through its index.
+    void ulozWgNumerow(const std::vector<std::pair<qint64, Nieobecnosc>>& przeczytane) {
+        std::size_t miejsce = 0;
+        for (Zakres& z : poNumerze_) {
+            z.poczatek = miejsce;
+            miejsce += std::exchange(z.ile, 0);
+        }
+        wiersze_.resize(przeczytane.size());
+        for (const auto& [prcId, nieobecnosc] : przeczytane) {
+            Zakres& z = poNumerze_[prcId];
+            wiersze_[z.poczatek + z.ile++] = nieobecnosc;
+        }
+        for (const Zakres& z : std::as_const(poNumerze_))
+            std::ranges::sort(std::span(wiersze_).subspan(z.poczatek, z.ile), {},
+                              [](const Nieobecnosc& n) { return std::pair(n.Data, n.data_do); });
+    }
+
+    struct Zakres {
+        std::size_t poczatek = 0;
+        std::size_t ile = 0;
+    };
+
+    Odczyt odczyt_;
     Instrukcja instrukcja_;
-    std::optional<QHash<qint64, Nieobecnosci>> wszystkie_;
-    QHash<qint64, Nieobecnosci> znane_;
+    std::vector<Nieobecnosc> wiersze_;
+    QHash<qint64, Zakres> poNumerze_;
+    std::optional<qint64> prcId_; // whose rows these are, if read one by one
 };
 
 DaneNieobecnosci::DaneNieobecnosci(Sesja& sesja) : sesja_(sesja) {}

@@ -7,7 +7,7 @@
 #include <optional>
 #include <QDate>
 #include <QHash>
-#include <QList>
+#include <span>
 
 class Instrukcja;
 class Sesja;
@@ -20,7 +20,8 @@ struct Nieobecnosc {
     Waluta Kwota;   ///< fixed amount of a vacation, zł; 0 for none
     Waluta st_proc; ///< pay of a sick leave, percent
 };
-using Nieobecnosci = QList<Nieobecnosc>;
+/// Rows of one employee in the order of `DATA`, `DATA_DO`.
+using Nieobecnosci = std::span<const Nieobecnosc>;
 
 /// Look-ups for one action over the open month, through the file's indexes. What was read stays known until
 /// `zapomnij`.
@@ -32,9 +33,11 @@ public:
     /// Forgets everything that was read; the next look-ups read the two registers in this manner.
     void zapomnij(Odczyt odczyt);
 
-    /// Vacations with a day in the open month, in the order of `DATA`, `DATA_DO`. Reads `URL`.
+    // What these two give is valid until the next of these calls.
+
+    /// Vacations with a day in the open month. Reads `URL`.
     [[nodiscard]] Nieobecnosci urlopy(qint64 prcId);
-    /// Sick leaves with a day from 1 January to the last day of the open month, in that order. A leave that
+    /// Sick leaves with a day from 1 January to the last day of the open month. A leave that
     /// began in the year before is among them. Reads `ZW`.
     [[nodiscard]] Nieobecnosci zwolnieniaRoku(qint64 prcId);
     /// A month of the employee's own calendar, or of the general one for number 0. Reads `KALENDARZ`.

@@ -49,8 +49,8 @@ struct RaportSerii {
 
 enum class Obliczenie {
     PoliczenieDni, ///< `Przelicz_Dni`: the month's days by kind
-    Przepisanie,  ///< `Przelicz2`: components anew from the personnel file
-    Przeliczenie, ///< `Przelicz1`: bases, contributions, tax, amount to pay
+    Przepisanie,   ///< `Przelicz2`: components anew from the personnel file
+    Przeliczenie,  ///< `Przelicz1`: bases, contributions, tax, amount to pay
 };
 
 class ListaPlac {

@@ -11,8 +11,9 @@ using schemat::PRACPR;
 
 Naliczanie::Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziSerii& odpowiedzi,
                        WykazyPodstaw* wykazy)
-    : o_(otoczenie), pozycje_(pozycje), odpowiedzi_(odpowiedzi),
-      w_{otoczenie, pozycje, odpowiedzi, wykazy, DaneNieobecnosci(otoczenie.sesja), Odczyt::PoJednym, {}} {}
+    : o_(otoczenie), pozycje_(pozycje),
+      odpowiedzi_(odpowiedzi), w_{otoczenie, pozycje, odpowiedzi, wykazy, DaneNieobecnosci(otoczenie.sesja)} {
+}
 
 Naliczanie::~Naliczanie() = default;
 
@@ -174,12 +175,8 @@ void Naliczanie::PrzyjmijUbzdrNalezne() {
 }
 
 void Naliczanie::zapomnij(Odczyt odczyt) {
-    w_.odczyt = odczyt;
-    w_.uwagi.clear();
-    w_.dane.zapomnij(odczyt);
+    w_.zapomnij(odczyt);
     nadgodziny_.zapomnij();
-    l4_.zapomnij();
-    urlop_.zapomnij();
     stareBrutto_.reset();
 }
 

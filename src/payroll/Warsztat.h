@@ -2,6 +2,7 @@
 #pragma once
 #include "payroll/DaneNieobecnosci.h"
 #include "payroll/OdpowiedziSerii.h"
+#include "payroll/PodstawySrednich.h"
 #include "payroll/Pozycje.h"
 #include "payroll/WykazyPodstaw.h"
 #include "rules/Otoczenie.h"
@@ -14,7 +15,12 @@ struct Warsztat {
     WykazyPodstaw* wykazy; ///< none: the computed averages and the suggested components stand
     DaneNieobecnosci dane;
     Odczyt odczyt = Odczyt::PoJednym;
-    QStringList uwagi; ///< of the row in work, for the closing report of a batch
+    std::unique_ptr<PodstawySrednich> podstawyZnane = nullptr; ///< none until they are first needed
+    QStringList uwagi = {}; ///< of the row in work, for the closing report of a batch
+
+    /// Forgets what was read outside the open month; from now on it is read in this manner.
+    void zapomnij(Odczyt nowy);
+    [[nodiscard]] PodstawySrednich& podstawy();
 
     /// Whether the component may take an amount: a number from 1 to 30 with both active marks.
     [[nodiscard]] bool aktywny(int nr) const { return nr >= 1 && nr <= 30 && pozycje.dodatnia(nr).aktywna(); }

@@ -30,7 +30,7 @@ Waluta bezSkladek(Waluta brutto, Waluta fe, Waluta fr, Waluta fc) {
 
 } // namespace
 
-int IleDotDniL4(const Nieobecnosci& zwolnienia, int rok, int mies) {
+int IleDotDniL4(Nieobecnosci zwolnienia, int rok, int mies) {
     const QDate pierwszy = PierwszyDzien(rok, mies);
     qint64 dni = 0;
     // Deliberate: the start is not cut at 1 January.
@@ -44,14 +44,10 @@ SrednieL4 WynagrodzenieL4::SredniaDoL4(qint64 prcId, int ile) {
     SrednieL4 wynik;
     ile = std::min(ile, kNajwiecejMiesiecy);
     if (ile <= 0) return wynik;
-    if (!podstawy_)
-        podstawy_ = std::make_unique<PodstawySrednich>(
-            w_.o.sesja, QList<int>(w_.o.stale.SklSrL4.begin(), w_.o.stale.SklSrL4.end()),
-            PodstawySrednich::Rodzaj::ZeStawkami, w_.odczyt);
     Waluta brutto, netto;
-    for (const PodstawaMiesiaca& m : podstawy_->pracownika(prcId, ile)) {
+    for (const PodstawaL4& m : w_.podstawy().doL4(prcId, ile)) {
         const Waluta poSkladkach = bezSkladek(m.skladniki, m.wsk_feprc, m.wsk_frprc, m.wsk_fcprc);
-        wynik.miesiace.append({m.nazwa, m.skladniki, poSkladkach});
+        wynik.miesiace.append({m.miesiac, m.skladniki, poSkladkach});
         brutto += m.skladniki;
         netto += poSkladkach;
     }
@@ -93,8 +89,8 @@ void WynagrodzenieL4::wpiszSkladnik(int nr, Waluta kwota, QDate od, QDate dokad,
     w_.o.sesja.rsPLD.ustaw(schemat::SDO(nr), dokad);
 }
 
-WynagrodzenieL4::Rozliczenie WynagrodzenieL4::rozlicz(const Nieobecnosci& zwolnienia, int uzyte,
-                                                      Waluta dzienna, Tryb tryb) {
+WynagrodzenieL4::Rozliczenie WynagrodzenieL4::rozlicz(Nieobecnosci zwolnienia, int uzyte, Waluta dzienna,
+                                                      Tryb tryb) {
     const Stale& c = w_.o.stale;
     const QDate pierwszy = PierwszyDzien(w_.o.sesja.rok(), w_.o.sesja.mies());
     const QDate ostatni = OstatniDzien(w_.o.sesja.rok(), w_.o.sesja.mies());
@@ -186,10 +182,10 @@ Waluta WynagrodzenieL4::WyliczL4(Tryb tryb) {
     const qint64 prcId = a.liczba(PLA("PRC_ID"));
     const Nieobecnosci roku = w_.dane.zwolnieniaRoku(prcId);
     const QDate pierwszy = PierwszyDzien(o.sesja.rok(), o.sesja.mies());
-    Nieobecnosci miesiaca;
+    std::vector<Nieobecnosc> miesiaca;
     for (const Nieobecnosc& n : roku)
-        if (n.data_do >= pierwszy && n.Data <= n.data_do) miesiaca.append(n);
-    if (miesiaca.isEmpty() ||
+        if (n.data_do >= pierwszy && n.Data <= n.data_do) miesiaca.push_back(n);
+    if (miesiaca.empty() ||
         !w_.odpowiedzi.liczycL4.pytaj(o.rozmowa, tryb, QStringLiteral("Czy wyliczać L4 dla pracowników ?"),
                                       QStringLiteral("Czy wyliczyć L4 dla pracownika ?")))
         return {};

@@ -1,12 +1,11 @@
 // Sick pay: the month's sick leaves priced into the payroll row, split between the employer and the insurer.
 #pragma once
 #include "common/Rozmowa.h"
-#include "payroll/PodstawySrednich.h"
 #include "payroll/Warsztat.h"
 
 /// Sick days from the start of the year to the day before the open month, of leaves that
 /// `DaneNieobecnosci::zwolnieniaRoku` gave. A leave that began in the year before counts whole.
-[[nodiscard]] int IleDotDniL4(const Nieobecnosci& zwolnienia, int rok, int mies);
+[[nodiscard]] int IleDotDniL4(Nieobecnosci zwolnienia, int rok, int mies);
 
 /// The averages of the months before the open one, zł.
 struct SrednieL4 {
@@ -18,9 +17,6 @@ struct SrednieL4 {
 class WynagrodzenieL4 {
 public:
     explicit WynagrodzenieL4(Warsztat& warsztat) : w_(warsztat) {}
-
-    /// Forgets the earlier months that were read.
-    void zapomnij() { podstawy_.reset(); }
 
     /// Fills the row on which the month's handles stand, in memory: the amounts and periods of the components
     /// of constants 104 and 105, base salary and bonus if the clerk wants it, the average and the days. Gives
@@ -39,12 +35,11 @@ private:
     };
 
     [[nodiscard]] SrednieL4 srednie(qint64 prcId, Tryb tryb);
-    [[nodiscard]] Rozliczenie rozlicz(const Nieobecnosci& zwolnienia, int uzyte, Waluta dzienna, Tryb tryb);
+    [[nodiscard]] Rozliczenie rozlicz(Nieobecnosci zwolnienia, int uzyte, Waluta dzienna, Tryb tryb);
     void wpiszSkladnik(int nr, Waluta kwota, QDate od, QDate dokad, Tryb tryb);
     void przeliczPlace(const SrednieL4& srednie, int dniMies, int dniObowiazku, Tryb tryb);
     [[nodiscard]] Waluta zasadniczaPoL4(const SrednieL4& srednie, int dniMies, int dniObowiazku) const;
     [[nodiscard]] Waluta poSkladkach(Waluta brutto) const;
 
     Warsztat& w_;
-    std::unique_ptr<PodstawySrednich> podstawy_;
 };

@@ -24,13 +24,9 @@ SredniaUrlopu WynagrodzenieUrlop::SredniaDoUrlopu(qint64 prcId, int ile) {
     SredniaUrlopu wynik;
     ile = std::min(ile, kNajwiecejMiesiecy);
     if (ile <= 0) return wynik;
-    if (!podstawy_)
-        podstawy_ = std::make_unique<PodstawySrednich>(
-            w_.o.sesja, QList<int>(w_.o.stale.SkSumDoSrURL.begin(), w_.o.stale.SkSumDoSrURL.end()),
-            PodstawySrednich::Rodzaj::ZDniami, w_.odczyt);
     Waluta suma;
-    for (const PodstawaMiesiaca& m : podstawy_->pracownika(prcId, ile)) {
-        wynik.miesiace.append({m.nazwa, m.skladniki, {}});
+    for (const PodstawaUrlopu& m : w_.podstawy().doUrlopu(prcId, ile)) {
+        wynik.miesiace.append({m.miesiac, m.skladniki, {}});
         wynik.dni += m.dniPracy;
         suma += m.skladniki;
     }
@@ -57,7 +53,7 @@ std::optional<int> WynagrodzenieUrlop::WyliczIleDniUrl(qint64 prcId, QDate od, Q
     return dni;
 }
 
-QList<OkresUrlopu> WynagrodzenieUrlop::okresy(qint64 prcId, const Nieobecnosci& urlopy, Waluta stawka,
+QList<OkresUrlopu> WynagrodzenieUrlop::okresy(qint64 prcId, Nieobecnosci urlopy, Waluta stawka,
                                               Liczenie liczenie, Tryb tryb) {
     const int rok = w_.o.sesja.rok(), mies = w_.o.sesja.mies();
     QList<OkresUrlopu> wynik;
@@ -159,7 +155,7 @@ void WynagrodzenieUrlop::WyliczURL(Tryb tryb) {
     const auto pytaj = [&](PytanieRaz& pytanie, const QString& seryjne, const QString& pojedyncze) {
         return pytanie.pytaj(o.rozmowa, tryb, seryjne, pojedyncze);
     };
-    if (urlopy.isEmpty() ||
+    if (urlopy.empty() ||
         !pytaj(w_.odpowiedzi.liczycUrlop, QStringLiteral("Czy wyliczać urlop dla pracowników ?"),
                QStringLiteral("Czy wyliczyć urlop dla pracownika ?")))
         return;

@@ -1,7 +1,6 @@
 // Vacation pay: the month's vacation periods priced into the payroll row.
 #pragma once
 #include "common/Rozmowa.h"
-#include "payroll/PodstawySrednich.h"
 #include "payroll/Warsztat.h"
 
 /// The daily rate of the months before the open one.
@@ -14,9 +13,6 @@ struct SredniaUrlopu {
 class WynagrodzenieUrlop {
 public:
     explicit WynagrodzenieUrlop(Warsztat& warsztat) : w_(warsztat) {}
-
-    /// Forgets the earlier months that were read.
-    void zapomnij() { podstawy_.reset(); }
 
     /// Fills the row on which the month's handles stand, in memory: the amounts and periods of the vacation
     /// components, the components that a vacation reduces, the average rate. Reads `URL`, `KALENDARZ` and the
@@ -36,7 +32,7 @@ public:
 
 private:
     [[nodiscard]] Waluta stawka(qint64 prcId, Tryb tryb);
-    [[nodiscard]] QList<OkresUrlopu> okresy(qint64 prcId, const Nieobecnosci& urlopy, Waluta stawka,
+    [[nodiscard]] QList<OkresUrlopu> okresy(qint64 prcId, Nieobecnosci urlopy, Waluta stawka,
                                             Liczenie liczenie, Tryb tryb);
     void wpiszRazem(const QList<OkresUrlopu>& okresy, Tryb tryb);
     void wpiszKolejno(const QList<OkresUrlopu>& okresy);
@@ -46,5 +42,4 @@ private:
     void przeliczSkladniki();
 
     Warsztat& w_;
-    std::unique_ptr<PodstawySrednich> podstawy_;
 };

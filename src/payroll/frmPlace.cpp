@@ -74,7 +74,8 @@ frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic)
     srodek->addWidget(lvwLista_);
     srodek->addWidget(ramki(), 1);
     uklad->addLayout(srodek, 1);
-    uklad->addWidget(rzadPrzyciskow({cmdNowy_, cmdUsun_, cmdBlokada_, cmdWejdz_, cmdAnuluj_}));
+    uklad->addWidget(
+        rzadPrzyciskow({cmdNowy_, cmdUsun_, cmdBlokada_, cmdWejdz_, przyciskPomocy(), cmdAnuluj_}));
     cmdWejdz_->setDefault(true);
     resize(122 * Wyglad::kSiatka, 68 * Wyglad::kSiatka);
 

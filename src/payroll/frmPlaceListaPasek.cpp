@@ -54,7 +54,9 @@ PasekListy::PasekListy(QWidget* rodzic) : QWidget(rodzic) {
 
     auto* uklad = new QHBoxLayout(this);
     uklad->setContentsMargins(0, 0, 0, 0);
-    uklad->addWidget(rzadPrzyciskow(wszystkie));
+    QList<QPushButton*> rzad = wszystkie;
+    rzad.insert(rzad.size() - 1, przyciskPomocy());
+    uklad->addWidget(rzadPrzyciskow(rzad));
 }
 
 void PasekListy::budujMenu() {

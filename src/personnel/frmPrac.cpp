@@ -123,7 +123,8 @@ QWidget* frmPrac::rzad() {
     connect(cmdAnuluj_, &QPushButton::clicked, this, &frmPrac::anuluj);
     connect(cmdZapisz_, &QPushButton::clicked, this, &frmPrac::zapisz);
     connect(cmdPowrot_, &QPushButton::clicked, this, &QDialog::reject);
-    return rzadPrzyciskow(przyciski);
+    return rzadPrzyciskow(
+        {cmdWyszukaj_, cmdNowy_, cmdUsun_, cmdAnuluj_, cmdZapisz_, przyciskPomocy(), cmdPowrot_});
 }
 
 void frmPrac::budujSkroty() {

@@ -84,7 +84,7 @@ frmSkladnikiPlac::frmSkladnikiPlac(Otoczenie& otoczenie, QWidget* rodzic)
     for (QPushButton* p : {uaktywnienie, powrot}) p->setAutoDefault(false);
     connect(uaktywnienie, &QPushButton::clicked, this, &frmSkladnikiPlac::uaktywnij);
     connect(powrot, &QPushButton::clicked, this, &QDialog::reject);
-    uklad->addWidget(rzadPrzyciskow({uaktywnienie, powrot}));
+    uklad->addWidget(rzadPrzyciskow({uaktywnienie, przyciskPomocy(), powrot}));
     if (const auto* program = qobject_cast<Aplikacja*>(qApp))
         connect(program, &Aplikacja::danePrzeczytane, this, &frmSkladnikiPlac::pokazPonownie);
     pokaz();

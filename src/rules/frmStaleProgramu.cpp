@@ -77,7 +77,7 @@ void frmStaleProgramu::buduj() {
     QPushButton* anuluj = przyciskBezWejscia(QStringLiteral("Command2"), QStringLiteral("&Anuluj"));
     connect(ok, &QPushButton::clicked, this, &frmStaleProgramu::accept);
     connect(anuluj, &QPushButton::clicked, this, &QDialog::reject);
-    uklad->addWidget(rzadPrzyciskow({ok, anuluj}));
+    uklad->addWidget(rzadPrzyciskow({ok, anuluj, przyciskPomocy()}));
     ok->setDefault(true);
     dodajSkroty();
     resize(kRozmiar);

@@ -1,0 +1,10 @@
+# Joins the pages of the handbook, in the order of their file names, into the one file beside the program.
+file(GLOB strony ${STRONY}/*.html)
+list(SORT strony)
+file(WRITE ${PLIK}.nowy "<!DOCTYPE html>\n<html lang=\"pl\"><head><meta charset=\"utf-8\"><title>Pomoc</title></head><body>\n")
+foreach(strona IN LISTS strony)
+    file(READ ${strona} tresc)
+    file(APPEND ${PLIK}.nowy "${tresc}")
+endforeach()
+file(APPEND ${PLIK}.nowy "</body></html>\n")
+file(RENAME ${PLIK}.nowy ${PLIK})
