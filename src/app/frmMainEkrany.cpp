@@ -3,6 +3,7 @@
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
 #include "bank/frmKonta.h"
+#include "payroll/frmNadg.h"
 #include "payroll/frmPlace.h"
 #include "personnel/frmMPRACY.h"
 #include "personnel/frmPrac.h"
@@ -32,6 +33,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     for (const auto& [wejscie, filtr] : kadry)
         okno.rejestruj(wejscie, [&, f = filtr] { frmPrac(otoczenie, f, &okno).exec(); });
     zarejestruj<frmPlace>(okno, otoczenie, Wejscie::ListaPlac);
+    zarejestruj<frmNadg>(okno, otoczenie, Wejscie::Nadgodziny);
     zarejestruj<frmSkladnikiPlac>(okno, otoczenie, Wejscie::SkladnikiPlac);
     zarejestruj<frmUS>(okno, otoczenie, Wejscie::UrzedySkarbowe);
     zarejestruj<frmMPRACY>(okno, otoczenie, Wejscie::AdresyDzialalnosci);

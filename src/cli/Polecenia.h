@@ -30,3 +30,4 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaTabel();
 [[nodiscard]] QList<Polecenie> poleceniaMiesiecy();
 [[nodiscard]] QList<Polecenie> poleceniaListy();
+[[nodiscard]] QList<Polecenie> poleceniaNadgodzin();

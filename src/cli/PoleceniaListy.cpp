@@ -26,17 +26,6 @@ ListaPlac otworzListe(Wywolanie& w) {
     return ListaPlac(w.otoczenie(), miesiac.rok, miesiac.mies, symbol);
 }
 
-/// The values of `--pracownik` and the numbers that follow them.
-QList<qint64> podaniPracownicy(const Wywolanie& w) {
-    const QStringList dalsze = w.argumenty.pozycje.mid(1);
-    if (!dalsze.isEmpty() && !w.argumenty.ma(kPracownik))
-        throw ZleUzycie(QStringLiteral("Za dużo argumentów."));
-    QList<qint64> wynik;
-    for (const QString& numer : w.argumenty.opcje.value(kPracownik) + dalsze)
-        wynik.append(numerPracownikaZTekstu(numer));
-    return wynik;
-}
-
 /// The rows of the open list. A symbol was typed for a purpose: a list without a row is refused here, where
 /// the windows ask whether to make it.
 QList<LiniaListy> wierszeListy(const Wywolanie& w, Sesja& sesja, ListaPlac& lista) {

@@ -69,6 +69,17 @@ qint64 numerPracownikaZTekstu(const QString& tekst) {
     return liczbaZTekstu(tekst, 1, static_cast<int>(kNajwyzszyNumer), QStringLiteral("Numer pracownika"));
 }
 
+QList<qint64> podaniPracownicy(const Wywolanie& w) {
+    const QString pracownik = QStringLiteral("pracownik");
+    const QStringList dalsze = w.argumenty.pozycje.mid(1);
+    if (!dalsze.isEmpty() && !w.argumenty.ma(pracownik))
+        throw ZleUzycie(QStringLiteral("Za dużo argumentów."));
+    QList<qint64> wynik;
+    for (const QString& numer : w.argumenty.opcje.value(pracownik) + dalsze)
+        wynik.append(numerPracownikaZTekstu(numer));
+    return wynik;
+}
+
 QString tekstMiesiaca(RokMies miesiac) {
     return FormatRoku(miesiac.rok) + QLatin1Char('-') + FormatMiesiaca(miesiac.mies);
 }

@@ -75,5 +75,8 @@ private:
 [[nodiscard]] int liczbaZTekstu(const QString& tekst, int min, int max, const QString& nazwa);
 /// An employee's number. Throws `ZleUzycie`.
 [[nodiscard]] qint64 numerPracownikaZTekstu(const QString& tekst);
+/// The values of `--pracownik` and the numbers that follow them behind the first positional argument. Throws
+/// `ZleUzycie`.
+[[nodiscard]] QList<qint64> podaniPracownicy(const Wywolanie& w);
 /// "2001-03", the way months are typed.
 [[nodiscard]] QString tekstMiesiaca(RokMies miesiac);

@@ -38,6 +38,17 @@ QString RaportSerii::tekst() const {
     return linie.join(QLatin1Char('\n'));
 }
 
+void RaportSerii::pokaz(Rozmowa& rozmowa) const {
+    constexpr qsizetype kNajwiecejLinii = 20;
+    QStringList linie = tekst().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    if (linie.isEmpty()) return;
+    if (const qsizetype reszta = linie.size() - kNajwiecejLinii; reszta > 0) {
+        linie.resize(kNajwiecejLinii);
+        linie.append(QStringLiteral("... i jeszcze: %1").arg(reszta));
+    }
+    rozmowa.komunikat(linie.join(QLatin1Char('\n')), Styl::Wykrzyknik);
+}
+
 ListaPlac::ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol, WykazyPodstaw* wykazy)
     : o_(otoczenie), rok_(rok), mies_(mies), symbol_(symbol.isEmpty() ? kWszystkieListy : symbol.left(1)),
       naliczanie_(otoczenie, pozycje_, odpowiedzi_, wykazy) {

@@ -45,6 +45,8 @@ struct RaportSerii {
 
     /// One line for each employee who was not computed, then one for each remark; empty if there is none.
     [[nodiscard]] QString tekst() const;
+    /// Shows as much of it as a message box has room for; nothing if it is empty.
+    void pokaz(Rozmowa& rozmowa) const;
 };
 
 enum class Obliczenie {

@@ -27,8 +27,6 @@ using schemat::PLA;
 namespace {
 
 constexpr int kTrybPracujacy = 1;
-/// A message box has no room for more lines.
-constexpr int kNajwiecejLinii = 20;
 
 enum KolumnaPlac { Nazwisko, Numer, Symbol };
 
@@ -251,7 +249,7 @@ void frmPlaceLista::dodajWielu(const QList<qint64>& osoby) {
         std::find_if(osoby.rbegin(), osoby.rend(), [&](qint64 nr) { return dodani.contains(nr); });
     if (ostatni != osoby.rend()) zaznacz = dodani.value(*ostatni);
     pokazListe(zaznacz);
-    pokazRaport(raport);
+    raport.pokaz(o_.rozmowa);
 }
 
 void frmPlaceLista::usun() {
@@ -310,22 +308,10 @@ void frmPlaceLista::seria(const QList<Obliczenie>& obliczenia) {
             else if (obliczenie == Obliczenie::Przeliczenie)
                 doPrzeliczenia_.erase({k.prcId, k.lista});
         }
-        pokazRaport(raport);
+        raport.pokaz(o_.rozmowa);
         if (raport.przerwana) break;
     }
     wypiszBiezacy();
-}
-
-void frmPlaceLista::pokazRaport(const RaportSerii& raport) {
-    const QString tekst = raport.tekst();
-    if (tekst.isEmpty()) return;
-    QStringList linie = tekst.split(QLatin1Char('\n'));
-    if (linie.size() > kNajwiecejLinii) {
-        const qsizetype reszta = linie.size() - kNajwiecejLinii;
-        linie = linie.first(kNajwiecejLinii);
-        linie.append(QStringLiteral("... i jeszcze: %1").arg(reszta));
-    }
-    o_.rozmowa.komunikat(linie.join(QLatin1Char('\n')), Styl::Wykrzyknik);
 }
 
 void frmPlaceLista::done(int wynik) {

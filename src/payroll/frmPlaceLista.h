@@ -54,7 +54,6 @@ private:
     void przepisz();
     void przeliczDni();
     void seria(const QList<Obliczenie>& obliczenia);
-    void pokazRaport(const RaportSerii& raport);
     void oznacz(const KluczListy& klucz, bool doPrzeliczenia);
     void pokazOznaczenie();
     void nastepnePole();

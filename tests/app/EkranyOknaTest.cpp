@@ -371,9 +371,11 @@ TEST_F(EkranyTest, OdNowegoPracownikaDoKwotyDoWyplaty) {
         QTest::keyClick(&ekran, Qt::Key_Escape);
     });
     okno_->akcja(Wejscie::ListaPlac)->trigger();
-    EXPECT_EQ(rozmowa_.pytania.join(u'|'),
-              u"Został zarejestrowany nowy pracownik. Czy nastąpi zgłoszenie pracownika do ubezpieczeń "
-              "społecznych ?|Czy nastąpi zgłoszenie pracownika do ubezpieczenia zdrowotnego ?"_s);
+    EXPECT_EQ(
+        rozmowa_.pytania.join(u'|'),
+        u"Został zarejestrowany nowy pracownik. Czy nastąpi zgłoszenie pracownika do ubezpieczeń "
+        "społecznych ?|Czy nastąpi zgłoszenie pracownika do ubezpieczenia zdrowotnego ?|Czy wyliczyć "
+        "ilość przepracowanych dni dla pracownika ?|Czy ilość dni wyliczyć z bazy dni wolnych pracownika ?"_s);
 }
 
 TEST_F(EkranyTest, KadryNieDochodzaDoPlac) {
