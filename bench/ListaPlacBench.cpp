@@ -188,38 +188,15 @@ void JedenPracownik(benchmark::State& stan) {
     }
 }
 
-BENCHMARK(WsadStyczen)
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(50000)
-    ->UseManualTime()
-    ->Iterations(1)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(WsadGrudzien)
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(50000)
-    ->UseManualTime()
-    ->Iterations(1)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(NieobecnosciStyczen)
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(50000)
-    ->UseManualTime()
-    ->Iterations(1)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(NieobecnosciGrudzien)
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(50000)
-    ->UseManualTime()
-    ->Iterations(1)
-    ->Unit(benchmark::kMillisecond);
+void rozmiaryFirmy(benchmark::internal::Benchmark* pomiar) {
+    for (const int ile : {100, 1000, 10000, 50000}) pomiar->Arg(ile);
+    pomiar->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(WsadStyczen)->Apply(rozmiaryFirmy);
+BENCHMARK(WsadGrudzien)->Apply(rozmiaryFirmy);
+BENCHMARK(NieobecnosciStyczen)->Apply(rozmiaryFirmy);
+BENCHMARK(NieobecnosciGrudzien)->Apply(rozmiaryFirmy);
 BENCHMARK(StartProgramu)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(EkranMiesiaca)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(JedenPracownik)->Arg(10000)->Unit(benchmark::kMillisecond);
