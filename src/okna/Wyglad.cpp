@@ -11,6 +11,7 @@
 #include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QSvgRenderer>
 #include <QVariant>
 
@@ -70,6 +71,13 @@ public:
         default:
             return rozmiar;
         }
+    }
+    void drawPrimitive(PrimitiveElement co, const QStyleOption* opcja, QPainter* malarz,
+                       const QWidget* widzet) const override {
+        QProxyStyle::drawPrimitive(co, opcja, malarz, widzet);
+        // One ground for all tabs, whether or not their pages scroll.
+        if (co == PE_FrameTabWidget)
+            malarz->fillRect(opcja->rect.adjusted(1, 1, -1, -1), opcja->palette.window());
     }
     QIcon standardIcon(StandardPixmap obraz, const QStyleOption* opcja,
                        const QWidget* widzet) const override {
