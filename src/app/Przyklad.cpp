@@ -1,11 +1,15 @@
 #include "app/Przyklad.h"
+#include "app/NieobecnosciPrzykladu.h"
 #include "app/PracownicyPrzykladu.h"
 #include "app/Rozruch.h"
 #include "common/Blad.h"
 #include "common/Csv.h"
 #include "common/Daty.h"
+#include "payroll/ListaNadgodzin.h"
 #include "payroll/ListaPlac.h"
 #include "payroll/Miesiace.h"
+#include "payroll/Nadgodziny.h"
+#include "personnel/Kalendarz.h"
 #include "rules/Konfiguracja.h"
 #include "store/TabelaCsv.h"
 #include <QFile>
@@ -17,6 +21,17 @@ using schemat::PRACPR;
 namespace {
 
 constexpr int kRok = 2001;
+/// The months of the year before that the first averages are made of.
+constexpr RokMies kHistoria[] = {{kRok - 1, 10}, {kRok - 1, 11}, {kRok - 1, 12}};
+/// Hours of overtime in a group, of somebody in a month.
+struct Nadgodzina {
+    int mies;
+    int prcId;
+    int grupa;
+    const char16_t* godziny;
+};
+constexpr Nadgodzina kNadgodziny[] = {
+    {2, 4, 1, u"8"}, {2, 6, 1, u"6"}, {2, 6, 2, u"4"}, {3, 6, 1, u"5,5"}, {3, 10, 1, u"3"}};
 
 /// Says Yes, but for the report to the insurer: the staff was reported long ago, and whoever is new says so
 /// in his own data.
@@ -80,14 +95,26 @@ void zatrudnij(Otoczenie& o, int ile) {
     if (ile > opisanych) DodajPracownikowPrzykladu(o.sesja, opisanych + 1, ile);
 }
 
+/// The year's general calendar and the absences of the employees.
+void wpiszNieobecnosci(Otoczenie& o, int ile) {
+    for (const auto& [rok, mies] : kHistoria)
+        (void)Kalendarz(o).Nowy_dniwolne({kKalendarzOgolny, rok, mies}, Swieta::Zaznaczone);
+    for (int mies = 1; mies <= 12; ++mies)
+        (void)Kalendarz(o).Nowy_dniwolne({kKalendarzOgolny, kRok, mies}, Swieta::Zaznaczone);
+    const int opisanych = std::min(ile, kPracownikowPrzykladu);
+    for (const QString& tabela : {QStringLiteral("URL"), QStringLiteral("ZW")})
+        wczytaj(o.sesja, tabela, danePracownikow(tabela, opisanych));
+    if (ile > opisanych) DodajNieobecnosciPrzykladu(o, opisanych + 1, ile);
+}
+
 /// Who is on the month's payroll: employed by its last day and not dismissed before its first.
-QList<qint64> zatrudnieni(Sesja& sesja, int mies) {
+QList<qint64> zatrudnieni(Sesja& sesja, RokMies miesiac) {
     QList<qint64> wynik;
     Recordset& pr = sesja.rsPRACPR;
     for (pr.MoveFirst(); !pr.EOF_(); pr.MoveNext()) {
         const QDate zwolniony = pr.data(PRACPR("data_zwoln"));
-        if (pr.data(PRACPR("data_zatr")) <= OstatniDzien(kRok, mies) &&
-            (!zwolniony.isValid() || zwolniony >= PierwszyDzien(kRok, mies)))
+        if (pr.data(PRACPR("data_zatr")) <= OstatniDzien(miesiac.rok, miesiac.mies) &&
+            (!zwolniony.isValid() || zwolniony >= PierwszyDzien(miesiac.rok, miesiac.mies)))
             wynik.append(pr.liczba(PRACPR("prc_id")));
     }
     return wynik;
@@ -102,11 +129,29 @@ void przeznaczNaPrzelewy(Sesja& sesja) {
     pla.UpdateBatch();
 }
 
-void policzMiesiac(Otoczenie& o, int mies) {
+/// The month's overtime, of those whom the firm has.
+void wpiszNadgodziny(Otoczenie& o, RokMies miesiac) {
+    std::optional<ListaNadgodzin> lista;
+    for (const Nadgodzina& n : kNadgodziny) {
+        if (RokMies{kRok, n.mies} != miesiac || !o.sesja.UstawPracownika(n.prcId)) continue;
+        if (!lista) {
+            (void)Nadgodziny(o).NowaLista([&] { return miesiac; });
+            lista.emplace(o, miesiac);
+        }
+        if (!lista->WypiszNadgodziny(n.prcId)) {
+            (void)lista->NowaOsoba(n.prcId);
+            (void)lista->WypiszNadgodziny(n.prcId);
+        }
+        (void)lista->ZmienGodziny(0, n.grupa, QString::fromUtf16(n.godziny));
+    }
+}
+
+void policzMiesiac(Otoczenie& o, RokMies miesiac) {
     Miesiace miesiace(o);
-    (void)miesiace.Nowy_miesiac([mies] { return RokMies{kRok, mies}; });
-    ListaPlac lista(o, kRok, mies, QStringLiteral(" "));
-    const RaportSerii raport = lista.DodajPracownikow(zatrudnieni(o.sesja, mies));
+    (void)miesiace.Nowy_miesiac([miesiac] { return miesiac; });
+    wpiszNadgodziny(o, miesiac);
+    ListaPlac lista(o, miesiac.rok, miesiac.mies, QStringLiteral(" "));
+    const RaportSerii raport = lista.DodajPracownikow(zatrudnieni(o.sesja, miesiac));
     if (!raport.niepowodzenia.isEmpty()) throw Blad(raport.tekst());
     przeznaczNaPrzelewy(o.sesja);
     lista.ZapiszSumy();
@@ -121,11 +166,15 @@ void utworzFirme(const QString& sciezka, int pracownikow, int miesiecy, const QS
         Transakcja transakcja(o.sesja.cnPlace);
         ustawFirme(o);
         zatrudnij(o, pracownikow);
+        wpiszNieobecnosci(o, pracownikow);
         transakcja.zatwierdz();
     }
-    for (int mies = 1; mies <= miesiecy; ++mies) {
-        policzMiesiac(o, mies);
-        if (mies < miesiecy) (void)Miesiace(o).BlokadaMies({kRok, mies});
+    QList<RokMies> miesiace;
+    if (miesiecy > 0) miesiace.append(QList<RokMies>(std::begin(kHistoria), std::end(kHistoria)));
+    for (int mies = 1; mies <= miesiecy; ++mies) miesiace.append({kRok, mies});
+    for (const RokMies miesiac : std::as_const(miesiace)) {
+        policzMiesiac(o, miesiac);
+        if (miesiac != miesiace.last()) (void)Miesiace(o).BlokadaMies(miesiac);
     }
 }
 

@@ -8,7 +8,8 @@ inline constexpr int kMiesiecyPrzykladu = 3;
 inline constexpr int kNajwiecejPracownikow = static_cast<int>(kNajwyzszyNumer);
 
 /// Makes a new database with the firm, `liczbaPracownikow` (1 to `kNajwiecejPracownikow`) employees and the
-/// first `miesiecy` (0 to 12) months of 2001 computed; all months but the last are blocked. The first twelve
+/// first `miesiecy` (0 to 12) months of 2001 computed, preceded, unless there is none, by the last quarter of
+/// 2000, which the first averages are made of; all months but the last are blocked. The first twelve
 /// employees are written out by hand, the others follow their patterns by a fixed sequence of numbers. The
 /// file appears when it is complete. Throws `Blad` for a number out of range and an existing file; no file is
 /// left behind then.

@@ -5,8 +5,13 @@
 #include "bank/frmKonta.h"
 #include "payroll/frmNadg.h"
 #include "payroll/frmPlace.h"
+#include "personnel/frmDniWolne.h"
+#include "personnel/frmDniWolnePr.h"
 #include "personnel/frmMPRACY.h"
 #include "personnel/frmPrac.h"
+#include "personnel/frmRejUrl.h"
+#include "personnel/frmRejZwoln.h"
+#include "personnel/frmTrDoPr.h"
 #include "personnel/frmUS.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
@@ -35,6 +40,11 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     zarejestruj<frmPlace>(okno, otoczenie, Wejscie::ListaPlac);
     zarejestruj<frmNadg>(okno, otoczenie, Wejscie::Nadgodziny);
     zarejestruj<frmSkladnikiPlac>(okno, otoczenie, Wejscie::SkladnikiPlac);
+    zarejestruj<frmDniWolne>(okno, otoczenie, Wejscie::DniWolneOgolne);
+    zarejestruj<frmDniWolnePr>(okno, otoczenie, Wejscie::DniWolnePracownika);
+    zarejestruj<frmTrDoPr>(okno, otoczenie, Wejscie::TransportDoPracownika);
+    zarejestruj<frmRejUrl>(okno, otoczenie, Wejscie::Urlopy);
+    zarejestruj<frmRejZwoln>(okno, otoczenie, Wejscie::ZwolnieniaLekarskie);
     zarejestruj<frmUS>(okno, otoczenie, Wejscie::UrzedySkarbowe);
     zarejestruj<frmMPRACY>(okno, otoczenie, Wejscie::AdresyDzialalnosci);
     zarejestruj<frmKonta>(okno, otoczenie, Wejscie::KontaBankowe);

@@ -19,8 +19,8 @@ const QList<OpcjaPolecenia>& opcjeOgolne() {
 
 const QList<Polecenie>& polecenia() {
     static const QList<Polecenie> wszystkie = poleceniaBazy() + poleceniaRegul() + poleceniaKadr() +
-                                              poleceniaTabel() + poleceniaMiesiecy() + poleceniaListy() +
-                                              poleceniaNadgodzin();
+                                              poleceniaNieobecnosci() + poleceniaTabel() +
+                                              poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin();
     return wszystkie;
 }
 

@@ -27,6 +27,7 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaBazy();
 [[nodiscard]] QList<Polecenie> poleceniaRegul();
 [[nodiscard]] QList<Polecenie> poleceniaKadr();
+[[nodiscard]] QList<Polecenie> poleceniaNieobecnosci();
 [[nodiscard]] QList<Polecenie> poleceniaTabel();
 [[nodiscard]] QList<Polecenie> poleceniaMiesiecy();
 [[nodiscard]] QList<Polecenie> poleceniaListy();

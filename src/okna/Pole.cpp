@@ -89,7 +89,8 @@ QString tekstWartosci(const Pole& pole, const Wartosc& wartosc) {
 QString uporzadkuj(const Pole& pole, const QString& wpisany) {
     switch (pole.rodzaj) {
     case Rodzaj::Kwota:
-        return FormatKwoty(KwotaAlboZero(wpisany));
+        return FormatKwoty(pole.grosze == Grosze::Round ? Round(KwotaAlboZero(wpisany), 2)
+                                                        : KwotaAlboZero(wpisany));
     case Rodzaj::Liczba:
         return QString::number(calkowita(pole, wpisany));
     case Rodzaj::Data:

@@ -19,6 +19,10 @@ enum class Rodzaj {
 /// Whether a field is typed into or only shows what was computed.
 enum class Dostep { Edycja, Odczyt };
 
+/// How an amount typed with more than two decimals becomes grosze: as it is shown (half away from zero), or
+/// by the payroll's `Round` (half to even).
+enum class Grosze { JakPokazane, Round };
+
 /// One choice: what is stored and what is shown.
 struct Pozycja {
     Wartosc wartosc;
@@ -33,10 +37,11 @@ struct Pole {
     Kolumna kolumna; ///< empty for a source other than table rows
     Rodzaj rodzaj = Rodzaj::Tekst;
     Dostep dostep = Dostep::Edycja;
-    QList<Pozycja> pozycje = {}; ///< of `Wybor`
-    int klucz = 0;               ///< by which a source other than table rows finds the value
-    int rozmiar = 0;             ///< longest text, where no column tells it; 0 sets no bound
-    QString opis = {};           ///< accessible name and tool tip, where the caption does not tell enough
+    QList<Pozycja> pozycje = {};         ///< of `Wybor`
+    int klucz = 0;                       ///< by which a source other than table rows finds the value
+    int rozmiar = 0;                     ///< longest text, where no column tells it; 0 sets no bound
+    Grosze grosze = Grosze::JakPokazane; ///< of `Kwota`
+    QString opis = {}; ///< accessible name and tool tip, where the caption does not tell enough
 };
 
 /// The longest text the field takes, 0 for no bound.

@@ -1,5 +1,6 @@
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
+#include <algorithm>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -36,6 +37,14 @@ bool WidokListy::wybierz(qint64 id) {
 }
 
 qint64 WidokListy::wybrany() const { return model_.id(currentIndex().row()); }
+
+QList<qint64> WidokListy::zaznaczeni() const {
+    QList<qint64> wynik;
+    for (const QItemSelectionRange& zakres : selectionModel()->selection())
+        for (int i = zakres.top(); i <= zakres.bottom(); ++i) wynik.append(model_.id(i));
+    std::ranges::sort(wynik);
+    return wynik;
+}
 
 void WidokListy::ustawPodpowiedz(const QString& tekst) {
     podpowiedz_ = tekst;

@@ -17,6 +17,8 @@ public:
     bool wybierz(qint64 id);
     /// The id of the chosen row, -1 if none is.
     [[nodiscard]] qint64 wybrany() const;
+    /// The ids of all selected rows, ascending, where the selection mode allows several.
+    [[nodiscard]] QList<qint64> zaznaczeni() const;
     /// What an empty list says: what to do next.
     void ustawPodpowiedz(const QString& tekst);
     [[nodiscard]] ListaModel& lista() { return model_; }

@@ -168,6 +168,9 @@ QLineEdit[obliczane="true"], QPlainTextEdit[obliczane="true"] { background: pale
 QLineEdit[glowne="true"] { font-weight: bold; }
 QLabel[baner="true"] { background: palette(highlight); color: palette(highlighted-text); padding: 6px 8px;
                        border-radius: 4px; }
+QLabel[wolny="true"] { background: rgb(208,0,0); color: rgb(255,255,255); font-weight: bold;
+                       border-radius: 3px; }
+QLabel[koniecTygodnia="true"] { font-weight: bold; }
 QLabel[podpowiedz="true"] { color: %1; }
 QPushButton[kafel="true"] { text-align: left; padding: 12px 8px; background: palette(base); }
 QToolBar QToolButton { font-size: 9pt; padding: 2px 3px; }
@@ -263,6 +266,10 @@ void oznaczDoPrzeliczenia(QAbstractButton& przycisk, bool doPrzeliczenia) {
 void oznaczObliczane(QWidget& pole) { oznacz(pole, "obliczane", true); }
 
 void oznaczGlowne(QWidget& pole) { oznacz(pole, "glowne", true); }
+
+void oznaczWolny(QWidget& numer, bool wolny) { oznacz(numer, "wolny", wolny); }
+
+void oznaczKoniecTygodnia(QWidget& nazwa, bool koniec) { oznacz(nazwa, "koniecTygodnia", koniec); }
 
 QLabel* baner(const QString& tekst, QWidget* rodzic) {
     auto* etykieta = new QLabel(rodzic);

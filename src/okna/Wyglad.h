@@ -39,6 +39,12 @@ void oznaczObliczane(QWidget& pole);
 /// Marks a field as one of the few amounts that the eye looks for first.
 void oznaczGlowne(QWidget& pole);
 
+/// Marks the number of a calendar's day as that of a free day (white on red, bold), or takes the mark off.
+void oznaczWolny(QWidget& numer, bool wolny);
+
+/// Marks the name of a day as that of a Saturday or Sunday.
+void oznaczKoniecTygodnia(QWidget& nazwa, bool koniec);
+
 /// A label that stands out as a banner over a screen, as for a blocked month. Hidden while `tekst` is empty.
 [[nodiscard]] QLabel* baner(const QString& tekst, QWidget* rodzic);
 void ustawBaner(QLabel& baner, const QString& tekst);

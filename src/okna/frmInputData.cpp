@@ -1,13 +1,11 @@
 #include "okna/frmInputData.h"
 #include "common/Daty.h"
+#include "okna/PoleMiesiaca.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
-#include <algorithm>
-#include <QComboBox>
 #include <QFormLayout>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 frmInputData::frmInputData(Tryb tryb, const QString& tytul, QDate wstepna, QWidget* rodzic)
@@ -19,28 +17,12 @@ frmInputData::frmInputData(Tryb tryb, const QString& tytul, QDate wstepna, QWidg
     uklad->setContentsMargins(2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka,
                               2 * Wyglad::kSiatka);
     uklad->setSpacing(2 * Wyglad::kSiatka);
-    uklad->addWidget(tryb == Tryb::Miesiac ? polaMiesiaca(wstepna) : polaDaty(wstepna));
+    if (tryb == Tryb::Miesiac)
+        uklad->addWidget(miesiac_ = new PoleMiesiaca(wstepna));
+    else
+        uklad->addWidget(polaDaty(wstepna));
     uklad->addStretch();
     uklad->addWidget(przyciskiOkAnuluj(*this, QStringLiteral("OK")));
-}
-
-QWidget* frmInputData::polaMiesiaca(QDate wstepna) {
-    auto* pola = new QWidget;
-    auto* formularz = new QFormLayout(pola);
-    formularz->setContentsMargins(0, 0, 0, 0);
-    cboMies_ = new QComboBox;
-    cboMies_->setObjectName(QStringLiteral("cboMies"));
-    for (int m = 1; m <= 12; ++m)
-        cboMies_->addItem(FormatMiesiaca(m) + QStringLiteral("  ") + NazwaMiesiaca(m));
-    cboMies_->setMaxVisibleItems(12);
-    cboMies_->setCurrentIndex(wstepna.isValid() ? wstepna.month() - 1 : 0);
-    spnRok_ = new QSpinBox;
-    spnRok_->setObjectName(QStringLiteral("spnRok"));
-    spnRok_->setRange(kPierwszyRok, kOstatniRok);
-    spnRok_->setValue(wstepna.isValid() ? wstepna.year() : kPierwszyRok);
-    formularz->addRow(QStringLiteral("&Miesiąc:"), cboMies_);
-    formularz->addRow(QStringLiteral("&Rok:"), spnRok_);
-    return pola;
 }
 
 QWidget* frmInputData::polaDaty(QDate wstepna) {
@@ -55,7 +37,7 @@ QWidget* frmInputData::polaDaty(QDate wstepna) {
 }
 
 QDate frmInputData::data() const {
-    if (tryb_ == Tryb::Miesiac) return PierwszyDzien(spnRok_->value(), cboMies_->currentIndex() + 1);
+    if (tryb_ == Tryb::Miesiac) return miesiac_->pierwszyDzien();
     return CzytajDate(SprawdzDate(dtData_->text())).value_or(QDate());
 }
 

@@ -4,16 +4,12 @@
 #include <QDialog>
 
 class PoleDaty;
-class QComboBox;
-class QSpinBox;
+class PoleMiesiaca;
 
 class frmInputData : public QDialog {
     Q_OBJECT
 public:
     enum class Tryb { Miesiac, Data };
-
-    static constexpr int kPierwszyRok = 1990;
-    static constexpr int kOstatniRok = 2099;
 
     /// `tytul` is the caption of the window, `wstepna` the proposal: its month, or the day itself.
     frmInputData(Tryb tryb, const QString& tytul, QDate wstepna, QWidget* rodzic = nullptr);
@@ -26,11 +22,9 @@ public:
     void accept() override;
 
 private:
-    [[nodiscard]] QWidget* polaMiesiaca(QDate wstepna);
     [[nodiscard]] QWidget* polaDaty(QDate wstepna);
 
     Tryb tryb_;
-    QComboBox* cboMies_ = nullptr;
-    QSpinBox* spnRok_ = nullptr;
+    PoleMiesiaca* miesiac_ = nullptr;
     PoleDaty* dtData_ = nullptr;
 };

@@ -62,7 +62,7 @@ QWidget* frmListaPol::lewaStrona(const OpisListyPol& opis) {
     txtSzukaj_ = new PoleSzukania(*lvwLista_, opis.kolumnaNumeru, opis.kolumnaNazwy);
     txtSzukaj_->setPlaceholderText(opis.szukaj);
     auto* lewa = new QWidget;
-    lewa->setFixedWidth(kSzerokoscListy);
+    lewa->setFixedWidth(opis.szerokosc > 0 ? opis.szerokosc : kSzerokoscListy);
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(txtSzukaj_);

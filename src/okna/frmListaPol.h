@@ -27,6 +27,7 @@ struct OpisListyPol {
     QList<KolumnaListy> kolumny;
     QList<int> udzialy;    ///< width of each column in percent of the list's
     QString pustaLista;    ///< what an empty list says: what to do next
+    int szerokosc = 0;     ///< of the list in pixels, 0 for the usual one
     QString szukaj;        ///< what the quick find says while it is empty
     int kolumnaNumeru = 0; ///< where the quick find looks for digits
     int kolumnaNazwy = 1;  ///< and where for letters

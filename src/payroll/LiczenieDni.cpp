@@ -19,9 +19,9 @@ void zaznacz(DniWgDaty& dni, const Nieobecnosc& n, QDate pierwszy, int znak) {
         dni[static_cast<std::size_t>(d.day())] = znak;
 }
 
-DniMiesiaca zliczDni(const DniKalendarza& kalendarz, QDate pierwszy, const DniWgDaty& urlop,
+LicznikiDni zliczDni(const DniKalendarza& kalendarz, QDate pierwszy, const DniWgDaty& urlop,
                      const DniWgDaty& l4) {
-    DniMiesiaca wynik;
+    LicznikiDni wynik;
     for (int d = 1; d <= pierwszy.daysInMonth(); ++d) {
         if (kalendarz[d] == DniKalendarza::NieMa) continue;
         const int rodzaj = urlop[static_cast<std::size_t>(d)];
@@ -57,7 +57,7 @@ std::optional<DniKalendarza> LiczenieDni::kalendarzMiesiaca(qint64 prcId, CzyjKa
     return w_.dane.kalendarz(0, rok, mies);
 }
 
-std::optional<DniMiesiaca> LiczenieDni::policz(qint64 prcId, Tryb tryb) {
+std::optional<LicznikiDni> LiczenieDni::policz(qint64 prcId, Tryb tryb) {
     Otoczenie& o = w_.o;
     if (!w_.odpowiedzi.liczycDni.pytaj(
             o.rozmowa, tryb, QStringLiteral("Czy wyliczać ilość przepracowanych dni dla pracowników ?"),
@@ -89,7 +89,7 @@ std::optional<DniMiesiaca> LiczenieDni::policz(qint64 prcId, Tryb tryb) {
         return zliczDni(*kalendarz, pierwszy, urlop, l4);
     if (tryb == Tryb::Seria)
         w_.uwaga(tryb, QStringLiteral("W kalendarzu nie ma miesiąca, dni czasu pracy są równe 0."));
-    return DniMiesiaca{};
+    return LicznikiDni{};
 }
 
 void LiczenieDni::Przelicz_Dni(Tryb tryb) {
@@ -104,7 +104,7 @@ void LiczenieDni::Przelicz_Dni(Tryb tryb) {
     if (const auto dni = policz(w_.o.sesja.rsPLA.liczba(PLA("PRC_ID")), tryb)) WpiszDni(*dni);
 }
 
-void LiczenieDni::WpiszDni(const DniMiesiaca& dni) {
+void LiczenieDni::WpiszDni(const LicznikiDni& dni) {
     Recordset& a = w_.o.sesja.rsPLA;
     a.ustaw(PLA("DN_PR"), dni.Dnirob + dni.Soboty + dni.Niedziele);
     a.ustaw(PLA("DN_URL"), dni.Czasnaurl);

@@ -9,7 +9,7 @@ struct Warsztat;
 class DniKalendarza;
 
 /// Work counters of a row, in days.
-struct DniMiesiaca {
+struct LicznikiDni {
     int Dnirob = 0;
     int Soboty = 0;
     int Niedziele = 0;
@@ -35,9 +35,9 @@ public:
     [[nodiscard]] int DniObowiazkuPracy(qint64 prcId, CzyjKalendarz czyj);
 
 private:
-    [[nodiscard]] std::optional<DniMiesiaca> policz(qint64 prcId, Tryb tryb);
+    [[nodiscard]] std::optional<LicznikiDni> policz(qint64 prcId, Tryb tryb);
     [[nodiscard]] std::optional<DniKalendarza> kalendarzMiesiaca(qint64 prcId, CzyjKalendarz czyj, Tryb tryb);
-    void WpiszDni(const DniMiesiaca& dni);
+    void WpiszDni(const LicznikiDni& dni);
 
     Warsztat& w_;
 };

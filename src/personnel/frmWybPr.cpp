@@ -5,7 +5,6 @@
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
-#include <algorithm>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -25,7 +24,7 @@ QList<WierszListy> wiersze(const QList<Osoba>& osoby) {
 
 } // namespace
 
-frmWybPr::frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic)
+frmWybPr::frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic, qint64 zaznacz)
     : QDialog(rodzic), o_(otoczenie), tryb_(tryb), osoby_(Pracownicy(otoczenie).doWyboru(tryb)),
       lvwWybPr_(new WidokListy({{QStringLiteral("NR"), Qt::AlignRight},
                                 {QStringLiteral("NAZWISKO")},
@@ -39,7 +38,7 @@ frmWybPr::frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic)
     labZaznaczono_->setObjectName(QStringLiteral("labZaznaczono"));
     buduj(ilu);
     resize(86 * Wyglad::kSiatka, 76 * Wyglad::kSiatka);
-    lvwWybPr_->ustaw(wiersze(osoby_));
+    lvwWybPr_->ustaw(wiersze(osoby_), zaznacz);
     pokazIlu();
     connect(lvwWybPr_, &WidokListy::wejscie, this, &QDialog::accept);
     connect(lvwWybPr_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmWybPr::pokazIlu);
@@ -79,16 +78,10 @@ int frmWybPr::exec() {
     return Rejected;
 }
 
-QList<qint64> frmWybPr::wybrani() const {
-    QList<qint64> numery;
-    for (const QItemSelectionRange& zakres : lvwWybPr_->selectionModel()->selection())
-        for (int i = zakres.top(); i <= zakres.bottom(); ++i) numery.append(lvwWybPr_->lista().id(i));
-    std::ranges::sort(numery);
-    return numery;
-}
+QList<qint64> frmWybPr::wybrani() const { return lvwWybPr_->zaznaczeni(); }
 
-QList<qint64> frmWybPr::wybierz(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic) {
-    frmWybPr okno(otoczenie, tryb, ilu, rodzic);
+QList<qint64> frmWybPr::wybierz(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic, qint64 zaznacz) {
+    frmWybPr okno(otoczenie, tryb, ilu, rodzic, zaznacz);
     return okno.exec() == Accepted ? okno.wybrani() : QList<qint64>();
 }
 

@@ -12,9 +12,10 @@ class frmWybPr : public QDialog {
 public:
     enum class Ilu { Jeden, Wielu };
 
-    /// `tryb`: whom it offers, as in `Pracownicy::doWyboru`. Reads the personnel tables, whose handles stand
-    /// elsewhere afterwards.
-    frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu = Ilu::Wielu, QWidget* rodzic = nullptr);
+    /// `tryb`: whom it offers, as in `Pracownicy::doWyboru`; `zaznacz`: who is chosen at first, if offered.
+    /// Reads the personnel tables, whose handles stand elsewhere afterwards.
+    frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu = Ilu::Wielu, QWidget* rodzic = nullptr,
+             qint64 zaznacz = -1);
 
     /// With nobody to offer it gives the mode's message, if there is one, and is cancelled at once.
     int exec() override;
@@ -23,7 +24,7 @@ public:
 
     /// Opens the picker; nobody when it was cancelled.
     [[nodiscard]] static QList<qint64> wybierz(Otoczenie& otoczenie, int tryb, Ilu ilu = Ilu::Wielu,
-                                               QWidget* rodzic = nullptr);
+                                               QWidget* rodzic = nullptr, qint64 zaznacz = -1);
 
 private:
     void buduj(Ilu ilu);

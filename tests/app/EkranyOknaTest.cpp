@@ -353,7 +353,7 @@ TEST_F(EkranyTest, OdNowegoPracownikaDoKwotyDoWyplaty) {
     wOknie<frmPlace>([&](frmPlace& ekran) {
         ASSERT_TRUE(widzet<WidokListy>(ekran, u"lvwLista"_s).wybierz(200103));
         const auto suma = [&](const QString& pole) { return widzet<QLineEdit>(ekran, pole).text(); };
-        EXPECT_EQ(suma(u"txtIlWyplat"_s) + u'|' + suma(u"txtDoWyplaty"_s), u"11|26330,94"_s);
+        EXPECT_EQ(suma(u"txtIlWyplat"_s) + u'|' + suma(u"txtDoWyplaty"_s), u"11|25432,85"_s);
         wOknie<frmPlaceLista>([](frmPlaceLista& lista) {
             wOknie<frmWybPr>([](frmWybPr& wybor) {
                 EXPECT_TRUE(widzet<WidokListy>(wybor, u"lvwWybPr"_s).wybierz(13));
@@ -367,15 +367,16 @@ TEST_F(EkranyTest, OdNowegoPracownikaDoKwotyDoWyplaty) {
             QTest::keyClick(&lista, Qt::Key_Escape);
         });
         klik(ekran, u"Command2"_s);
-        EXPECT_EQ(suma(u"txtIlWyplat"_s) + u'|' + suma(u"txtDoWyplaty"_s), u"12|27703,53"_s);
+        EXPECT_EQ(suma(u"txtIlWyplat"_s) + u'|' + suma(u"txtDoWyplaty"_s), u"12|26805,44"_s);
         QTest::keyClick(&ekran, Qt::Key_Escape);
     });
     okno_->akcja(Wejscie::ListaPlac)->trigger();
-    EXPECT_EQ(
-        rozmowa_.pytania.join(u'|'),
-        u"Został zarejestrowany nowy pracownik. Czy nastąpi zgłoszenie pracownika do ubezpieczeń "
-        "społecznych ?|Czy nastąpi zgłoszenie pracownika do ubezpieczenia zdrowotnego ?|Czy wyliczyć "
-        "ilość przepracowanych dni dla pracownika ?|Czy ilość dni wyliczyć z bazy dni wolnych pracownika ?"_s);
+    EXPECT_EQ(rozmowa_.pytania.join(u'|'),
+              u"Został zarejestrowany nowy pracownik. Czy nastąpi zgłoszenie pracownika do ubezpieczeń "
+              "społecznych ?|Czy nastąpi zgłoszenie pracownika do ubezpieczenia zdrowotnego ?|Czy wyliczyć "
+              "ilość przepracowanych dni dla pracownika ?|Czy ilość dni wyliczyć z bazy dni wolnych "
+              "pracownika ?|Brak dni w kalendarzu dla "
+              "pracownika. Czy szukać dni w kalendarzu dni wolnych ogólnych ?"_s);
 }
 
 TEST_F(EkranyTest, KadryNieDochodzaDoPlac) {

@@ -2,6 +2,10 @@
 #include "app/Przyklad.h"
 #include "app/Rozruch.h"
 #include "common/Blad.h"
+#include "personnel/Kalendarz.h"
+#include "personnel/Urlopy.h"
+#include "personnel/Zwolnienia.h"
+#include "rules/Stale.h"
 #include "store/TabelaCsv.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <array>
@@ -58,7 +62,8 @@ constexpr std::array kKolumny{
 // 2: 1650,00 and 15% and 165,00 for seniority, 16,50 to the union. 4: the tax is less than the health
 // insurance. 3: 12800,00 a month, past 29624,00 in March. 7: group 2 from the first zloty, no tax credit.
 // 8: 100,00 to the pension plan, which leaves the base as it is. 11: 85,20 of family benefit, 169,00 taken
-// off.
+// off. 2, sick on 27 days of February at 55,89 and 80% and on 18 of March at 40,46, of which the insurer pays
+// the last 10. 12: 5 days of vacation at 36,77, for which the base salary shrinks from 760,00 to 570,00.
 constexpr Wiersz kWiersze[] = {
     {1,
      2,
@@ -70,6 +75,21 @@ constexpr Wiersz kWiersze[] = {
      "B",
      {"400,00", "39,04", "26,00", "9,80", "97,23", "227,93", "25,20", "43,32", "36,35", "6,97", "0,00",
       "318,19", "9,80", "0,32", "39,04", "6,48"}},
+    {2,
+     2,
+     "B",
+     {"1561,97", "34,62", "23,06", "8,69", "121,54", "1374,06", "115,91", "261,06", "36,35", "115,91",
+      "108,80", "1254,39", "8,69", "0,28", "34,62", "5,75"}},
+    {3,
+     2,
+     "B",
+     {"1506,62", "90,18", "60,06", "22,64", "121,54", "1212,20", "78,28", "230,28", "36,35", "78,28",
+      "115,60", "799,63", "22,64", "0,74", "90,18", "14,97"}},
+    {2,
+     12,
+     "B",
+     {"753,85", "73,58", "49,00", "18,47", "97,23", "515,57", "47,49", "98,04", "36,35", "47,49", "14,20",
+      "401,11", "18,47", "0,60", "73,58", "12,21"}},
     {2,
      3,
      "A",
@@ -125,7 +145,7 @@ TEST_F(PrzykladTest, ShowsWhatItPromises) {
     for (s.rsPLACE.MoveFirst(); !s.rsPLACE.EOF_(); s.rsPLACE.MoveNext())
         miesiace += s.rsPLACE.tekst(schemat::PLACE("Mies")) + s.rsPLACE.tekst(schemat::PLACE("akc")) +
                     QString::number(s.rsPLACE.liczba(schemat::PLACE("il_wyplat")));
-    EXPECT_EQ(miesiace.join(QLatin1Char(' ')), QStringLiteral("01T11 02T11 03N11"));
+    EXPECT_EQ(miesiace.join(QLatin1Char(' ')), QStringLiteral("10T11 11T11 12T11 01T11 02T11 03N11"));
 
     const auto stawka = [&](int mies, int prcId) {
         ustaw(s, mies, prcId, prcId % 2 == 1 ? "A" : "B");
@@ -146,6 +166,13 @@ TEST_F(PrzykladTest, ShowsWhatItPromises) {
     EXPECT_FALSE(s.rsPLA.Znajdz(9)) << "gone since January";
     ustaw(s, 3, 11, "B");
     EXPECT_EQ(s.rsPLA.liczba(PLA("IL_Z_RODZ")), 2);
+    ustaw(s, 3, 2, "B");
+    EXPECT_EQ(s.rsPLA.liczba(PLA("DNI_L4_PR")), 8) << "the rest of 35";
+    EXPECT_EQ(s.rsPLA.liczba(PLA("DNI_L4_ZUS")), 10);
+    EXPECT_EQ(s.rsPLD.data(schemat::SOD(12)), QDate(2001, 3, 9));
+    ustaw(s, 3, 6, "B");
+    EXPECT_EQ(FormatKwoty(s.rsPLS.kwota(schemat::SP(6))), QStringLiteral("78,54"))
+        << "5,5 h at 9,52 and a half";
 }
 
 TEST_F(PrzykladTest, MoreEmployeesFollowTheSamePatternsAlwaysAlike) {
@@ -174,6 +201,48 @@ TEST_F(PrzykladTest, MoreEmployeesFollowTheSamePatternsAlwaysAlike) {
         EXPECT_GT(s.rsPRACPR.kwota(PRACPR("placa_zas")), Waluta{});
         EXPECT_FALSE(dp.tekst(PRACDP("Naz")).isEmpty() || dp.tekst(PRACDP("Imie_1")).isEmpty());
     }
+}
+
+TEST_F(PrzykladTest, CalendarAndAbsencesAgree) {
+    using schemat::URL;
+    using schemat::ZW;
+    UtworzPrzyklad(plik("a.mdb"), 200, 0);
+    RozmowaSkrypt rozmowa;
+    Program program(plik("a.mdb"), folder_.path(), rozmowa);
+    const Kalendarz kalendarz(program.otoczenie());
+    ASSERT_EQ(kalendarz.miesiace(kKalendarzOgolny).size(), 15) << "2001 and the quarter before";
+    EXPECT_EQ(kalendarz.dni({0, 2001, 6}).value()[14], DniKalendarza::Wolny) << "Corpus Christi";
+
+    RejestrUrlopow urlopy(program.otoczenie());
+    RejestrZwolnien zwolnienia(program.otoczenie());
+    QHash<qint64, QList<ZakresDat>> zajete;
+    const auto sprawdz = [&](Recordset& rs, const TabelaDef& t) {
+        const qint64 prcId = rs.liczba(t.nr(0));
+        const ZakresDat zakres{rs.data(t.nr(t.numer("Data"))), rs.data(t.nr(t.numer("data_do")))};
+        EXPECT_TRUE(zakres.poprawny()) << prcId;
+        for (const ZakresDat& inny : zajete[prcId]) EXPECT_FALSE(zakres.maWspolnyDzien(inny)) << prcId;
+        zajete[prcId].append(zakres);
+        EXPECT_EQ(rs.tekst(t.nr(1)) + u' ' + rs.tekst(t.nr(2)),
+                  Pracownicy(program.otoczenie()).nazwisko(prcId));
+        return zakres;
+    };
+    bool przezMiesiac = false;
+    for (Recordset rs = urlopy.wiersze({}); !rs.EOF_(); rs.MoveNext()) {
+        const ZakresDat z = sprawdz(rs, URL);
+        przezMiesiac |= z.od.month() != z.dokad.month();
+        qint64 dni = 0;
+        for (QDate d = z.od; d <= z.dokad; d = d.addDays(1))
+            dni += kalendarz.dni({0, d.year(), d.month()}).value()[d.day()] == DniKalendarza::Roboczy;
+        EXPECT_EQ(rs.liczba(URL("il_dni")), dni) << rs.liczba(URL("prc_id"));
+    }
+    EXPECT_TRUE(przezMiesiac);
+    QHash<qint64, qint64> chorobowe;
+    for (Recordset rs = zwolnienia.wiersze({}); !rs.EOF_(); rs.MoveNext())
+        chorobowe[rs.liczba(ZW("prc_id"))] += sprawdz(rs, ZW).dni();
+    EXPECT_GT(chorobowe[2], program.otoczenie().stale.L4Pracod) << "past what the employer pays";
+    int wygenerowani = 0;
+    for (auto i = zajete.keyBegin(); i != zajete.keyEnd(); ++i) wygenerowani += *i > kPracownikowPrzykladu;
+    EXPECT_NEAR(wygenerowani, 19, 3) << "about one in ten";
 }
 
 TEST_F(PrzykladTest, RefusesNumbersOutOfRangeAndAnExistingFile) {

@@ -61,8 +61,8 @@ TEST_F(ImportEksportTest, EveryTableComesBackAsItWas) {
         tabele.append({t, QString::fromLatin1(t->nazwa.data(), static_cast<qsizetype>(t->nazwa.size()))});
     for (const TabelaDef* t : schemat::TabeleMiesiaca)
         tabele.append({t, Sesja::nazwaMiesiaca(t->nazwa, 2001, 2)});
-    const auto nadgodziny = {std::pair{&schemat::NADGN, QStringLiteral("NADGN200102")},
-                             std::pair{&schemat::NADGDzien, QStringLiteral("NADG200102")}};
+    const auto nadgodziny = {std::pair{&schemat::NADGN, QStringLiteral("NADGN200105")},
+                             std::pair{&schemat::NADGDzien, QStringLiteral("NADG200105")}};
     for (const auto& [t, nazwa] : nadgodziny) tabele.append({t, nazwa});
 
     const QString nowa = plik("nowa.mdb");

@@ -1,0 +1,27 @@
+#include "okna/PoleMiesiaca.h"
+#include "common/Daty.h"
+#include <QComboBox>
+#include <QFormLayout>
+#include <QSpinBox>
+
+PoleMiesiaca::PoleMiesiaca(QDate wstepna, QWidget* rodzic)
+    : QWidget(rodzic), cboMies_(new QComboBox), spnRok_(new QSpinBox) {
+    auto* formularz = new QFormLayout(this);
+    formularz->setContentsMargins(0, 0, 0, 0);
+    cboMies_->setObjectName(QStringLiteral("cboMies"));
+    cboMies_->setAccessibleName(QStringLiteral("Miesiąc"));
+    for (int m = 1; m <= 12; ++m)
+        cboMies_->addItem(FormatMiesiaca(m) + QStringLiteral("  ") + NazwaMiesiaca(m));
+    cboMies_->setMaxVisibleItems(12);
+    cboMies_->setCurrentIndex(wstepna.isValid() ? wstepna.month() - 1 : 0);
+    spnRok_->setObjectName(QStringLiteral("spnRok"));
+    spnRok_->setAccessibleName(QStringLiteral("Rok"));
+    spnRok_->setRange(kPierwszyRok, kOstatniRok);
+    spnRok_->setValue(wstepna.isValid() ? wstepna.year() : kPierwszyRok);
+    formularz->addRow(QStringLiteral("&Miesiąc:"), cboMies_);
+    formularz->addRow(QStringLiteral("&Rok:"), spnRok_);
+}
+
+QDate PoleMiesiaca::pierwszyDzien() const {
+    return PierwszyDzien(spnRok_->value(), cboMies_->currentIndex() + 1);
+}

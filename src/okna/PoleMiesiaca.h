@@ -1,0 +1,23 @@
+// The two fields that choose a month: its name and its year.
+#pragma once
+#include <QDate>
+#include <QWidget>
+
+class QComboBox;
+class QSpinBox;
+
+class PoleMiesiaca : public QWidget {
+    Q_OBJECT
+public:
+    static constexpr int kPierwszyRok = 1990;
+    static constexpr int kOstatniRok = 2099;
+
+    /// `wstepna`: any day of the month that is proposed; January of the first year for an invalid one.
+    explicit PoleMiesiaca(QDate wstepna, QWidget* rodzic = nullptr);
+
+    [[nodiscard]] QDate pierwszyDzien() const;
+
+private:
+    QComboBox* cboMies_;
+    QSpinBox* spnRok_;
+};

@@ -1,0 +1,112 @@
+#include "personnel/RejestrNieobecnosci.h"
+#include "common/Blad.h"
+#include "common/Daty.h"
+#include "common/Rozmowa.h"
+#include "personnel/Pracownicy.h"
+#include "store/Sesja.h"
+
+using schemat::PRACDP;
+
+bool ZakresPrzyjety(Rozmowa& rozmowa, const ZakresDat& zakres) {
+    if (zakres.poprawny()) return true;
+    rozmowa.komunikat(QStringLiteral("Data końcowa musi być większ od początkowej."), Styl::Wykrzyknik);
+    return false;
+}
+
+RejestrNieobecnosci::RejestrNieobecnosci(Otoczenie& otoczenie, Recordset& uchwyt, const Teksty& teksty)
+    : o_(otoczenie), uchwyt_(uchwyt), teksty_(teksty) {
+    uchwyt_.Close(); // whatever an earlier screen had taken up
+}
+
+Kolumna RejestrNieobecnosci::kolumna(std::string_view nazwa) const {
+    return uchwyt_.tabela().nr(uchwyt_.tabela().numer(nazwa));
+}
+
+QList<WierszRejestru> RejestrNieobecnosci::lista() const {
+    const QByteArray tabela = nazwaSql(uchwyt_.tabela().nazwa);
+    Instrukcja instrukcja(o_.sesja.cnPlace, ("SELECT rowid, PRC_ID, Naz, Imie, Data, data_do FROM " + tabela +
+                                             " ORDER BY PRC_ID, Data, data_do")
+                                                .toStdString());
+    const auto data = [&](int k) { return CzytajDate(instrukcja.tekst(k)).value_or(QDate()); };
+    QList<WierszRejestru> wynik;
+    while (instrukcja.wiersz())
+        wynik.append({instrukcja.liczba(0),
+                      instrukcja.liczba(1),
+                      instrukcja.tekst(2),
+                      instrukcja.tekst(3),
+                      {data(4), data(5)}});
+    return wynik;
+}
+
+Recordset RejestrNieobecnosci::wiersze(std::optional<qint64> prcId) const {
+    Recordset rs(uchwyt_.tabela());
+    Warunek warunek;
+    if (prcId) warunek.append({kolumna("prc_id"), Kryterium::Operator::Rowne, *prcId});
+    rs.Open(o_.sesja.cnPlace, {}, warunek);
+    rs.Sort({kolumna("prc_id"), kolumna("Data"), kolumna("data_do")});
+    rs.MoveFirst();
+    return rs;
+}
+
+bool RejestrNieobecnosci::Wypisz(const WierszRejestru& wiersz) {
+    uchwyt_.Open(o_.sesja.cnPlace, {},
+                 {{kolumna("prc_id"), Kryterium::Operator::Rowne, wiersz.prcId},
+                  {kolumna("Data"), Kryterium::Operator::Rowne, wiersz.zakres.od},
+                  {kolumna("data_do"), Kryterium::Operator::Rowne, wiersz.zakres.dokad}});
+    if (uchwyt_.naWierszu()) return true;
+    o_.rozmowa.komunikat(QStringLiteral("FATAL ERROR !!! Nie znaleziono rekordu."), Styl::Krytyczny);
+    return false;
+}
+
+void RejestrNieobecnosci::Wpisz() {
+    uchwyt_.ustaw(kolumna("Kwota"), Round(uchwyt_.kwota(kolumna("Kwota")), 2));
+    uchwyt_.UpdateBatch();
+}
+
+bool RejestrNieobecnosci::Usun() {
+    if (!o_.rozmowa.pytanie(teksty_.usunac.toString())) return false;
+    try {
+        uchwyt_.Delete();
+        uchwyt_.UpdateBatch();
+    } catch (...) {
+        uchwyt_.CancelBatch();
+        throw;
+    }
+    return true;
+}
+
+bool RejestrNieobecnosci::moznaZarejestrowac(qint64 prcId, const ZakresDat& zakres) const {
+    if (!Pracownicy(o_).istnieje(prcId))
+        throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
+    if (!ZakresPrzyjety(o_.rozmowa, zakres)) return false;
+    for (Recordset rs = wiersze(prcId); !rs.EOF_(); rs.MoveNext()) {
+        if (!zakres.maWspolnyDzien({rs.data(kolumna("Data")), rs.data(kolumna("data_do"))})) continue;
+        o_.rozmowa.komunikat(teksty_.pokrywaSie.toString(), Styl::Wykrzyknik);
+        return false;
+    }
+    return true;
+}
+
+qint64 RejestrNieobecnosci::dopisz(qint64 prcId, const ZakresDat& zakres,
+                                   std::initializer_list<std::pair<Kolumna, Wartosc>> wartosci) {
+    // Nothing is read: the condition holds for no row, and the new one stands alone in the handle.
+    uchwyt_.Open(o_.sesja.cnPlace, {},
+                 {{kolumna("prc_id"), Kryterium::Operator::Rowne, prcId},
+                  {kolumna("Data"), Kryterium::Operator::Rowne, zakres.od},
+                  {kolumna("data_do"), Kryterium::Operator::Rowne, zakres.dokad}});
+    Recordset& dp = o_.sesja.rsPRACDP;
+    (void)dp.Znajdz(prcId);
+    try {
+        uchwyt_.AddNewZero(prcId);
+        uchwyt_.ustaw(kolumna("Naz"), dp.tekst(PRACDP("Naz")));
+        uchwyt_.ustaw(kolumna("Imie"), dp.tekst(PRACDP("Imie_1")));
+        uchwyt_.ustaw(kolumna("Data"), zakres.od);
+        uchwyt_.ustaw(kolumna("data_do"), zakres.dokad);
+        for (const auto& [kolumnaRejestru, wartosc] : wartosci) uchwyt_.ustaw(kolumnaRejestru, wartosc);
+        uchwyt_.UpdateBatch();
+    } catch (...) {
+        uchwyt_.CancelBatch();
+        throw;
+    }
+    return o_.sesja.cnPlace.ostatniWiersz();
+}

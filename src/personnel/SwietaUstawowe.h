@@ -1,0 +1,15 @@
+// The days off that the law gives to everybody, as it stood in 2001.
+#pragma once
+#include <QDate>
+#include <QList>
+#include <QString>
+
+struct Swieto {
+    QDate data;
+    QString nazwa;
+};
+
+/// Easter Sunday of the Gregorian year.
+[[nodiscard]] QDate Wielkanoc(int rok);
+/// The holidays of the year in the order of the calendar; Easter and Whit Sunday are among them.
+[[nodiscard]] QList<Swieto> SwietaUstawowe(int rok);

@@ -1,0 +1,33 @@
+// "Data": asks for the range of an absence.
+#pragma once
+#include "personnel/RejestrNieobecnosci.h"
+#include <QDialog>
+#include <span>
+
+class PoleDaty;
+class QComboBox;
+
+class frmData : public QDialog {
+    Q_OBJECT
+public:
+    /// `kto`: whose absence it is, as the clerk reads it. `rodzaje`: kinds to choose from, none for an
+    /// absence of one kind only.
+    frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStringView> rodzaje,
+            QWidget* rodzic = nullptr);
+
+    /// The range; an end or start that is no date is invalid.
+    [[nodiscard]] ZakresDat zakres() const;
+    /// The position of the kind, 0 if there is nothing to choose.
+    [[nodiscard]] int rodzaj() const;
+
+    /// Stays open for a field that holds no date and, after a message, for an end before the start.
+    void accept() override;
+
+private:
+    void sprawdzKoniec();
+
+    Otoczenie& o_;
+    PoleDaty *dtOd_, *dtDo_;
+    QComboBox* cboRodzaj_;
+    bool koniecWpisany_ = false;
+};

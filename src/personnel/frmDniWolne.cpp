@@ -1,0 +1,14 @@
+#include "personnel/frmDniWolne.h"
+#include "okna/WidokListy.h"
+
+frmDniWolne::frmDniWolne(Otoczenie& otoczenie, QWidget* rodzic)
+    : frmKalendarz(otoczenie, QStringLiteral("frmDniWolne"), {}, rodzic) {
+    WczytajMiesiace();
+    listaMiesiecy().setFocus();
+}
+
+void frmDniWolne::pokazano(const std::optional<MiesiacKalendarza>& miesiac) {
+    const QString nazwa = miesiac ? nazwaMiesiaca(*miesiac) : QString();
+    setWindowTitle((QStringLiteral("Dni Wolne (lista ogólna) ") + nazwa).trimmed());
+    ustawTytulDni(nazwa);
+}

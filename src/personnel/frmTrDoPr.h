@@ -1,0 +1,30 @@
+// "Transport dni wolnych do pracowników": copies a month of the general calendar to the employees.
+#pragma once
+#include "personnel/Pracownicy.h"
+#include <QDialog>
+
+class PoleMiesiaca;
+class QLabel;
+class QPushButton;
+class WidokListy;
+
+class frmTrDoPr : public QDialog {
+    Q_OBJECT
+public:
+    /// Offers the working employees, and proposes the last month of the general calendar.
+    explicit frmTrDoPr(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
+
+    /// With nobody to transport to it says so and is cancelled at once.
+    int exec() override;
+
+private:
+    void buduj();
+    void Transp(const QList<qint64>& numery);
+    void pokazIlu();
+
+    Otoczenie& o_;
+    QList<Osoba> osoby_;
+    WidokListy* lvwPrac_;
+    PoleMiesiaca* miesiac_;
+    QLabel* labZaznaczono_;
+};
