@@ -14,16 +14,27 @@
 #include "bank/frmKonta.h"
 #include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
+#include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/Wyglad.h"
+#include "payroll/frmNadg.h"
 #include "payroll/frmPlace.h"
 #include "payroll/frmPlaceLista.h"
+#include "payroll/frmWykazy.h"
+#include "personnel/frmData.h"
+#include "personnel/frmDniWolne.h"
+#include "personnel/frmDniWolnePr.h"
 #include "personnel/frmFind.h"
 #include "personnel/frmMPRACY.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
+#include "personnel/frmRejUrl.h"
+#include "personnel/frmRejZwoln.h"
+#include "personnel/frmTrDoPr.h"
 #include "personnel/frmUS.h"
 #include "personnel/frmWybPr.h"
+#include "personnel/Kalendarz.h"
+#include "personnel/Urlopy.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
 #include <QDir>
@@ -135,6 +146,44 @@ void place(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.dialog(dzien, QStringLiteral("data"));
 }
 
+void nieobecnosci(const Zrzuty& zrzuty, Otoczenie& o) {
+    for (const int prcId : {3, 8})
+        for (const int mies : {4, 5})
+            (void)Kalendarz(o).Nowy_dniwolne({prcId, 2001, mies}, Swieta::Zaznaczone);
+    frmDniWolne ogolne(o);
+    zrzuty.ekran(ogolne, QStringLiteral("dni-wolne"));
+    frmDniWolnePr pracownikow(o);
+    zrzuty.ekran(pracownikow, QStringLiteral("dni-wolne-pracownikow"));
+    frmTrDoPr transport(o);
+    zrzuty.ekran(transport, QStringLiteral("transport"));
+    frmRejUrl urlopy(o);
+    zrzuty.ekran(urlopy, QStringLiteral("urlopy"));
+    frmRejZwoln zwolnienia(o);
+    zrzuty.ekran(zwolnienia, QStringLiteral("zwolnienia"));
+    frmData zakres(o, QStringLiteral("1  Adamska Barbara"), RodzajeUrlopu());
+    zrzuty.dialog(zakres, QStringLiteral("zakres-dat"));
+    frmNadg nadgodziny(o);
+    zrzuty.ekran(nadgodziny, QStringLiteral("nadgodziny"));
+
+    const auto zl = [](int kwota) { return Waluta::zlotych(kwota); };
+    const QList<LiniaWykazu> miesiace{{QStringLiteral("2001 Luty"), zl(2880), zl(2341)},
+                                      {QStringLiteral("2001 Styczeń"), zl(2640), zl(2146)},
+                                      {QStringLiteral("2000 Grudzień"), zl(2880), zl(2341)}};
+    frmWykazPodstawL4 wykazL4(miesiace, zl(2800));
+    zrzuty.dialog(wykazL4, QStringLiteral("wykaz-l4"));
+    frmWykazPodstaw wykaz(miesiace, 61, zl(137));
+    zrzuty.dialog(wykaz, QStringLiteral("wykaz-urlop"));
+    frmNrSkladnikaURL nrSkladnika({{2001, 3, 1}, {2001, 3, 6}, zl(548)}, 3);
+    zrzuty.dialog(nrSkladnika, QStringLiteral("numer-skladnika"));
+}
+
+/// The handbook as F1 opens it over a screen.
+void pomoc(const Zrzuty& zrzuty, Pomoc& podrecznik, QWidget& okno) {
+    podrecznik.pokazSpis(okno);
+    if (auto* ekran = okno.findChild<QDialog*>(QStringLiteral("frmPomoc")))
+        zrzuty.dialog(*ekran, QStringLiteral("pomoc"));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -155,8 +204,10 @@ int main(int argc, char** argv) {
     zrzuty.dialog(powitanie, QStringLiteral("powitanie"));
     frmLogowanie logowanie;
     zrzuty.dialog(logowanie, QStringLiteral("logowanie"));
+    Pomoc podrecznik(QDir(Aplikacja::applicationDirPath()).filePath(QStringLiteral("Help.hlp")), rozmowa);
     frmMain glowne(o);
     ZarejestrujEkrany(glowne, o);
+    glowne.rejestruj(Wejscie::Pomoc, [&] { podrecznik.pokazSpis(glowne); });
     glowne.wczytaj();
     zrzuty.ekran(glowne, QStringLiteral("okno-glowne"));
     frmAbout oProgramie;
@@ -164,5 +215,7 @@ int main(int argc, char** argv) {
     kadryIUstawienia(zrzuty, o);
     uzytkownicy(zrzuty, o);
     place(zrzuty, o);
+    nieobecnosci(zrzuty, o);
+    pomoc(zrzuty, podrecznik, glowne);
     return 0;
 }

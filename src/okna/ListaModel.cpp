@@ -73,7 +73,7 @@ QVariant ListaModel::data(const QModelIndex& indeks, int rola) const {
 
 QVariant ListaModel::headerData(int sekcja, Qt::Orientation kierunek, int rola) const {
     if (kierunek != Qt::Horizontal || sekcja < 0 || sekcja >= kolumny_.size()) return {};
-    if (rola == Qt::DisplayRole) return kolumny_.at(sekcja).naglowek;
+    if (rola == Qt::DisplayRole || rola == Qt::ToolTipRole) return kolumny_.at(sekcja).naglowek;
     if (rola == Qt::TextAlignmentRole)
         return QVariant::fromValue(kolumny_.at(sekcja).wyrownanie | Qt::AlignVCenter);
     return {};

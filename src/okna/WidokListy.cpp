@@ -19,6 +19,7 @@ WidokListy::WidokListy(QList<KolumnaListy> kolumny, QList<int> udzialy, QWidget*
     setTabKeyNavigation(false);
     header()->setSectionsMovable(false);
     header()->setHighlightSections(false);
+    header()->setTextElideMode(Qt::ElideMiddle);
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& indeks) { emit wejscie(model_.id(indeks.row())); });
 }

@@ -1,7 +1,7 @@
 // The open overtime list of a month: its persons, their hours by time group and what these are worth.
 #pragma once
-#include "payroll/ListaPlac.h"
 #include "payroll/Miesiace.h"
+#include "payroll/RaportSerii.h"
 #include "payroll/RownaniaNadgodzin.h"
 #include "store/Recordset.h"
 #include <functional>

@@ -100,8 +100,8 @@ frmNadg::frmNadg(Otoczenie& otoczenie, QWidget* rodzic)
     srodek->addWidget(lewaStrona());
     srodek->addWidget(prawaStrona(), 1);
     uklad->addLayout(srodek, 1);
-    uklad->addWidget(rzadPrzyciskow(
-        {cmdNowaLista_, cmdUsunListe_, cmdNowaOsoba_, cmdUsunOsobe_, cmdOdswiez_, cmdAnuluj_}));
+    uklad->addWidget(rzadPrzyciskow({cmdNowaLista_, cmdUsunListe_, cmdNowaOsoba_, cmdUsunOsobe_, cmdOdswiez_,
+                                     przyciskPomocy(), cmdAnuluj_}));
     setMinimumSize(128 * Wyglad::kSiatka, 75 * Wyglad::kSiatka); // below it the sums are cut off
     resize(156 * Wyglad::kSiatka, 92 * Wyglad::kSiatka);
     polacz();

@@ -86,7 +86,7 @@ frmWykazPodstawL4::frmWykazPodstawL4(const QList<LiniaWykazu>& miesiace, Waluta 
     uklad_->addWidget(podpowiedz(QStringLiteral("Stawkę za dzień daje średnia po składkach. Zmieniona "
                                                 "średnia brutto jest pomniejszana o składki pracownika.")));
     txtBruttoSr_ =
-        poleSredniej(QStringLiteral("txtBruttoSr"), QStringLiteral("Ś&rednia brutto wynosi:"), sredniaBrutto);
+        poleSredniej(QStringLiteral("txtBruttoSr"), QStringLiteral("Średnia brutto wynosi:"), sredniaBrutto);
 }
 
 std::optional<Waluta> frmWykazPodstawL4::srednia() const { return CzytajKwote(txtBruttoSr_->text()); }
@@ -103,7 +103,7 @@ frmWykazPodstaw::frmWykazPodstaw(const QList<LiniaWykazu>& miesiace, qint64 dni,
     labDni->setObjectName(QStringLiteral("labDni"));
     uklad_->addWidget(labDni);
     txtDniowka_ =
-        poleSredniej(QStringLiteral("txtDniowka"), QStringLiteral("Średnia dniówka &wynosi:"), stawkaDzienna);
+        poleSredniej(QStringLiteral("txtDniowka"), QStringLiteral("Średnia dniówka wynosi:"), stawkaDzienna);
 }
 
 std::optional<Waluta> frmWykazPodstaw::dniowka() const { return CzytajKwote(txtDniowka_->text()); }
@@ -127,7 +127,7 @@ frmNrSkladnikaURL::frmNrSkladnikaURL(const OkresUrlopu& okres, int proponowany, 
     wartosc(QStringLiteral("Kwota za urlopu"), QStringLiteral("labKwota"), FormatKwoty(okres.kwota));
     txtSkl_->setMaxLength(2);
     txtSkl_->setFixedWidth(8 * Wyglad::kSiatka);
-    formularz->addRow(QStringLiteral("&Numer składnika"), txtSkl_);
+    formularz->addRow(QStringLiteral("Numer składnika"), txtSkl_);
     uklad->addLayout(formularz);
     uklad->addStretch();
     QPushButton* cmdOK = domyslny(QStringLiteral("cmdOK"), QStringLiteral("&Dalej"));

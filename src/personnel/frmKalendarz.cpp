@@ -91,8 +91,8 @@ QWidget* frmKalendarz::ramkaDni() {
 }
 
 QWidget* frmKalendarz::rzad(const QList<QPushButton*>& dodatkowe) {
-    const QList<QPushButton*> przyciski =
-        QList<QPushButton*>{cmdNowy_, cmdSwieta_, cmdUsun_} + dodatkowe + QList<QPushButton*>{cmdAnuluj_};
+    const QList<QPushButton*> przyciski = QList<QPushButton*>{cmdNowy_, cmdSwieta_, cmdUsun_} + dodatkowe +
+                                          QList<QPushButton*>{przyciskPomocy(), cmdAnuluj_};
     // Enter belongs to the days: no button takes it from them.
     for (QPushButton* p : przyciski) p->setAutoDefault(false);
     connect(cmdNowy_, &QPushButton::clicked, this, [this] {

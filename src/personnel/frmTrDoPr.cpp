@@ -76,7 +76,7 @@ void frmTrDoPr::buduj() {
     uklad->addWidget(ramka);
     uklad->addLayout(gora);
     uklad->addWidget(lvwPrac_, 1);
-    uklad->addWidget(rzadPrzyciskow({cmdWszyscy, cmdWybrani, cmdAnuluj}));
+    uklad->addWidget(rzadPrzyciskow({cmdWszyscy, cmdWybrani, przyciskPomocy(), cmdAnuluj}));
     lvwPrac_->setFocus();
 }
 

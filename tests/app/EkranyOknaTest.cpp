@@ -10,10 +10,13 @@
 #include "okna/WidokListy.h"
 #include "payroll/frmPlace.h"
 #include "payroll/frmPlaceLista.h"
+#include "payroll/frmWykazy.h"
+#include "personnel/frmData.h"
 #include "personnel/frmFind.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
 #include "personnel/frmWybPr.h"
+#include "personnel/Urlopy.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include "wsparcie/RozmowaZgoda.h"
 #include <functional>
@@ -299,7 +302,11 @@ TEST_F(EkranyTest, KlawiaturaNaKazdymEkranie) {
     frmLogNowy(uzytkownicy).exec();
     frmInputData(frmInputData::Tryb::Miesiac, u"Miesiąc"_s, QDate(2001, 4, 1)).exec();
     frmInputData(frmInputData::Tryb::Data, u"Dzień"_s, QDate(2001, 4, 1)).exec();
-    EXPECT_GE(otwarte_.size(), 23) << otwarte_.join(u' ').toStdString();
+    frmData(o, u"1"_s, RodzajeUrlopu()).exec();
+    frmWykazPodstawL4({}, {}).exec();
+    frmWykazPodstaw({}, 0, {}).exec();
+    frmNrSkladnikaURL({}, 0).exec();
+    EXPECT_GE(otwarte_.size(), 33) << otwarte_.join(u' ').toStdString();
 }
 
 template <typename T = QWidget>

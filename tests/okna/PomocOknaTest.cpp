@@ -11,10 +11,13 @@
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "payroll/frmPlaceLista.h"
+#include "payroll/frmWykazy.h"
+#include "personnel/frmData.h"
 #include "personnel/frmFind.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
 #include "personnel/frmWybPr.h"
+#include "personnel/Urlopy.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
 #include "wsparcie/BazaTestowa.h"
@@ -181,6 +184,10 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
         [&] { return std::make_unique<frmWybPr>(o(), 1); },
         [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Miesiac, u"Nowa"_s, QDate()); },
         [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Data, u"Dzień"_s, QDate()); },
+        [&] { return std::make_unique<frmData>(o(), u"1"_s, RodzajeUrlopu()); },
+        [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
+        [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },
+        [] { return std::make_unique<frmNrSkladnikaURL>(OkresUrlopu(), 0); },
     };
     for (const auto& zrob : dialogi) {
         const Dialog dialog = zrob();
