@@ -1,6 +1,5 @@
 #include "payroll/DaneNieobecnosci.h"
 #include "store/Sesja.h"
-#include <charconv>
 #include <vector>
 
 namespace {
@@ -10,9 +9,9 @@ QDate dataZTekstu(std::string_view tekst) {
     if (tekst.size() != 10 || tekst[4] != '-' || tekst[7] != '-') return {};
     const auto liczba = [&](std::size_t od, std::size_t ile) {
         int wynik = 0;
-        const char* koniec = tekst.data() + od + ile;
-        const auto [dokad, blad] = std::from_chars(tekst.data() + od, koniec, wynik);
-        return blad == std::errc() && dokad == koniec ? wynik : 0;
+        for (const char znak : tekst.substr(od, ile))
+            wynik = znak >= '0' && znak <= '9' ? 10 * wynik + znak - '0' : -10000;
+        return wynik;
     };
     return QDate(liczba(0, 4), liczba(5, 2), liczba(8, 2));
 }
@@ -22,9 +21,12 @@ QDate dataZTekstu(std::string_view tekst) {
 /// One of the two registers, between two dates.
 class DaneNieobecnosci::Rejestr {
 public:
-    /// `kolumny`: kind, amount and percentage in this order, or a constant where the register has none.
-    Rejestr(Sesja& sesja, const char* tabela, const char* kolumny, QDate od, QDate dokad, Odczyt odczyt)
-        : odczyt_(odczyt),
+    using Reszta = void (*)(Nieobecnosc& cel, const Instrukcja& wiersz);
+
+    /// `kolumny`: of this register alone; `reszta` reads them from number 3 on.
+    Rejestr(Sesja& sesja, const char* tabela, const char* kolumny, Reszta reszta, QDate od, QDate dokad,
+            Odczyt odczyt)
+        : odczyt_(odczyt), reszta_(reszta),
           instrukcja_(sesja.cnPlace, (QByteArray("SELECT PRC_ID, DATA, DATA_DO, ") + kolumny + " FROM " +
                                       tabela + " WHERE DATA_DO >= ?1 AND DATA <= ?2" +
                                       (odczyt == Odczyt::PoJednym ? " AND PRC_ID = ?3" : ""))
@@ -49,11 +51,10 @@ private:
         poNumerze_.clear();
         while (instrukcja_.wiersz()) {
             const qint64 prcId = instrukcja_.liczba(0);
-            przeczytane.emplace_back(prcId, Nieobecnosc{dataZTekstu(instrukcja_.utf8(1)),
-                                                        dataZTekstu(instrukcja_.utf8(2)),
-                                                        static_cast<int>(instrukcja_.liczba(3)),
-                                                        Waluta::zSurowej(instrukcja_.liczba(4)),
-                                                        Waluta::zSurowej(instrukcja_.liczba(5))});
+            Nieobecnosc& n = przeczytane.emplace_back(prcId, Nieobecnosc{}).second;
+            n.Data = dataZTekstu(instrukcja_.utf8(1));
+            n.data_do = dataZTekstu(instrukcja_.utf8(2));
+            reszta_(n, instrukcja_);
             ++poNumerze_[prcId].ile;
         }
         instrukcja_.od_nowa();
@@ -83,6 +84,7 @@ private:
     };
 
     Odczyt odczyt_;
+    Reszta reszta_;
     Instrukcja instrukcja_;
     std::vector<Nieobecnosc> wiersze_;
     QHash<qint64, Zakres> poNumerze_;
@@ -103,18 +105,27 @@ void DaneNieobecnosci::zapomnij(Odczyt odczyt) {
 }
 
 Nieobecnosci DaneNieobecnosci::urlopy(qint64 prcId) {
-    const int rok = sesja_.rok(), mies = sesja_.mies();
-    if (!urlopy_)
-        urlopy_ = std::make_unique<Rejestr>(sesja_, "URL", "RODZAJ, KWOTA, 0", PierwszyDzien(rok, mies),
+    if (!urlopy_) {
+        const int rok = sesja_.rok(), mies = sesja_.mies();
+        const auto reszta = [](Nieobecnosc& n, const Instrukcja& wiersz) {
+            n.Rodzaj = static_cast<int>(wiersz.liczba(3));
+            n.Kwota = Waluta::zSurowej(wiersz.liczba(4));
+        };
+        urlopy_ = std::make_unique<Rejestr>(sesja_, "URL", "RODZAJ, KWOTA", reszta, PierwszyDzien(rok, mies),
                                             OstatniDzien(rok, mies), odczyt_);
+    }
     return urlopy_->pracownika(prcId);
 }
 
 Nieobecnosci DaneNieobecnosci::zwolnieniaRoku(qint64 prcId) {
-    const int rok = sesja_.rok();
-    if (!zwolnienia_)
-        zwolnienia_ = std::make_unique<Rejestr>(sesja_, "ZW", "0, 0, ST_PROC", PierwszyDzien(rok, 1),
+    if (!zwolnienia_) {
+        const int rok = sesja_.rok();
+        const auto reszta = [](Nieobecnosc& n, const Instrukcja& wiersz) {
+            n.st_proc = Waluta::zSurowej(wiersz.liczba(3));
+        };
+        zwolnienia_ = std::make_unique<Rejestr>(sesja_, "ZW", "ST_PROC", reszta, PierwszyDzien(rok, 1),
                                                 OstatniDzien(rok, sesja_.mies()), odczyt_);
+    }
     return zwolnienia_->pracownika(prcId);
 }
 

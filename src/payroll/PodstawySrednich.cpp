@@ -4,8 +4,7 @@
 #include "payroll/SumaKwot.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
-#include <optional>
-#include <QHash>
+#include <string>
 
 namespace {
 
@@ -14,55 +13,72 @@ enum class Ktory { Pierwszy, Ostatni };
 
 struct SumySkladnikow {
     SumaKwot l4, urlopu;
+
+    void dolicz(const SumySkladnikow& inne) {
+        l4.dodaj(inne.l4);
+        urlopu.dodaj(inne.urlopu);
+    }
 };
 
-/// Three columns of one row of each employee.
+/// Three columns of one row.
+template <Ktory ktory>
 struct TrzyKolumny {
-    std::optional<std::string> lista; // none before the first row
+    std::string lista;
     std::array<qint64, 3> wartosci{};
+
+    void dolicz(const TrzyKolumny& inne) {
+        if (ktory == Ktory::Pierwszy ? inne.lista < lista : inne.lista > lista) *this = inne;
+    }
+    static TrzyKolumny zWiersza(const Instrukcja& wiersz) {
+        return {std::string(wiersz.utf8(1)), {wiersz.liczba(2), wiersz.liczba(3), wiersz.liczba(4)}};
+    }
 };
 
 /// The rows of one table of a month: those of the employee asked for, or all of them, read once.
 template <typename Wynik>
 class CzescMiesiaca {
 public:
-    using Dolicz = std::function<void(Wynik&, const Instrukcja&)>;
+    using Wiersz = std::function<Wynik(const Instrukcja&)>;
 
-    /// `kolumny`: what follows `PRC_ID`. `dolicz` takes a row in.
+    /// `kolumny`: what follows `PRC_ID`. `wiersz` makes something of a row.
     CzescMiesiaca(Polaczenie& baza, const QString& tabela, const QByteArray& kolumny, Odczyt odczyt,
-                  Dolicz dolicz)
-        : wiersze_(baza, ("SELECT PRC_ID, " + kolumny + " FROM " + nazwaSql(tabela.toStdString()) +
+                  Wiersz wiersz)
+        : odczyt_(odczyt),
+          wiersze_(baza, ("SELECT PRC_ID, " + kolumny + " FROM " + nazwaSql(tabela.toStdString()) +
                           (odczyt == Odczyt::PoJednym ? " WHERE PRC_ID = ?1" : ""))
                              .toStdString()),
-          dolicz_(std::move(dolicz)) {
-        if (odczyt == Odczyt::PoJednym) return;
-        wszyscy_.emplace();
-        while (wiersze_.wiersz()) dolicz_((*wszyscy_)[wiersze_.liczba(0)], wiersze_);
+          wiersz_(std::move(wiersz)) {
+        if (odczyt == Odczyt::Wszystkich) czytaj();
     }
 
     [[nodiscard]] Wynik pracownika(qint64 prcId) {
-        if (wszyscy_) return wszyscy_->value(prcId);
-        Wynik wynik;
-        wiersze_.wiaz(0, prcId);
-        while (wiersze_.wiersz()) dolicz_(wynik, wiersze_);
-        wiersze_.od_nowa();
+        if (odczyt_ == Odczyt::PoJednym) {
+            wiersze_.wiaz(0, prcId);
+            czytaj();
+        }
+        auto i = std::ranges::lower_bound(wszystkie_, prcId, {}, &Para::first);
+        if (i == wszystkie_.end() || i->first != prcId) return {};
+        Wynik wynik = i->second;
+        while (++i != wszystkie_.end() && i->first == prcId) wynik.dolicz(i->second);
         return wynik;
     }
 
 private:
-    Instrukcja wiersze_;
-    Dolicz dolicz_;
-    std::optional<QHash<qint64, Wynik>> wszyscy_;
-};
+    using Para = std::pair<qint64, Wynik>;
 
-CzescMiesiaca<TrzyKolumny>::Dolicz wybierz(Ktory ktory) {
-    return [ktory](TrzyKolumny& cel, const Instrukcja& wiersz) {
-        const std::string_view lista = wiersz.utf8(1);
-        if (cel.lista && (ktory == Ktory::Pierwszy ? *cel.lista <= lista : *cel.lista >= lista)) return;
-        cel.lista = lista;
-        for (int i = 0; i < 3; ++i) cel.wartosci[static_cast<std::size_t>(i)] = wiersz.liczba(i + 2);
-    };
-}
+    void czytaj() {
+        wszystkie_.clear();
+        while (wiersze_.wiersz()) wszystkie_.emplace_back(wiersze_.liczba(0), wiersz_(wiersze_));
+        wiersze_.od_nowa();
+        if (!std::ranges::is_sorted(wszystkie_, {}, &Para::first))
+            std::ranges::stable_sort(wszystkie_, {}, &Para::first);
+    }
+
+    Odczyt odczyt_;
+    Instrukcja wiersze_;
+    Wiersz wiersz_;
+    std::vector<Para> wszystkie_; // by employee
+};
 
 } // namespace
 
@@ -81,25 +97,28 @@ public:
             QByteArrayList kolumny{"LISTA"};
             for (const int nr : skladnikiL4_ + skladnikiUrlopu_)
                 kolumny.append("SP_" + QByteArray::number(nr));
-            const auto dolicz = [l4 = skladnikiL4_.size(),
-                                 razem = kolumny.size() - 1](SumySkladnikow& suma, const Instrukcja& wiersz) {
+            const auto wiersz = [l4 = skladnikiL4_.size(), razem = kolumny.size() - 1](const Instrukcja& w) {
+                SumySkladnikow suma;
                 for (qsizetype i = 0; i < razem; ++i)
                     (i < l4 ? suma.l4 : suma.urlopu)
-                        .dodaj(Waluta::zSurowej(wiersz.liczba(static_cast<int>(i) + 2)));
+                        .dodaj(Waluta::zSurowej(w.liczba(static_cast<int>(i) + 2)));
+                return suma;
             };
-            otworz(skladniki_, "PLS", kolumny.join(", "), dolicz);
+            otworz(skladniki_, "PLS", kolumny.join(", "), wiersz);
         }
         return skladniki_->pracownika(prcId);
     }
-    [[nodiscard]] TrzyKolumny stawki(qint64 prcId) {
+    using Stawki = TrzyKolumny<Ktory::Ostatni>;
+    using Dni = TrzyKolumny<Ktory::Pierwszy>;
+
+    [[nodiscard]] Stawki stawki(qint64 prcId) {
         if (!jest_) return {};
-        if (!stawki_)
-            otworz(stawki_, "PLB", "LISTA, WSK_FEPRC, WSK_FRPRC, WSK_FCPRC", wybierz(Ktory::Ostatni));
+        if (!stawki_) otworz(stawki_, "PLB", "LISTA, WSK_FEPRC, WSK_FRPRC, WSK_FCPRC", Stawki::zWiersza);
         return stawki_->pracownika(prcId);
     }
-    [[nodiscard]] TrzyKolumny dni(qint64 prcId) {
+    [[nodiscard]] Dni dni(qint64 prcId) {
         if (!jest_) return {};
-        if (!dni_) otworz(dni_, "PLA", "LISTA, DN_RO, DN_SO, DN_NI", wybierz(Ktory::Pierwszy));
+        if (!dni_) otworz(dni_, "PLA", "LISTA, DN_RO, DN_SO, DN_NI", Dni::zWiersza);
         return dni_->pracownika(prcId);
     }
 
@@ -108,10 +127,10 @@ public:
 private:
     template <typename Wynik>
     void otworz(std::unique_ptr<CzescMiesiaca<Wynik>>& czesc, std::string_view tabela,
-                const QByteArray& kolumny, typename CzescMiesiaca<Wynik>::Dolicz dolicz) {
+                const QByteArray& kolumny, typename CzescMiesiaca<Wynik>::Wiersz wiersz) {
         czesc = std::make_unique<CzescMiesiaca<Wynik>>(
             sesja_.cnPlace, Sesja::nazwaMiesiaca(tabela, miesiac_.rok, miesiac_.mies), kolumny, odczyt_,
-            std::move(dolicz));
+            std::move(wiersz));
     }
 
     Sesja& sesja_;
@@ -120,7 +139,8 @@ private:
     Odczyt odczyt_;
     bool jest_;
     std::unique_ptr<CzescMiesiaca<SumySkladnikow>> skladniki_;
-    std::unique_ptr<CzescMiesiaca<TrzyKolumny>> stawki_, dni_;
+    std::unique_ptr<CzescMiesiaca<Stawki>> stawki_;
+    std::unique_ptr<CzescMiesiaca<Dni>> dni_;
 };
 
 PodstawySrednich::PodstawySrednich(Sesja& sesja, const Stale& stale, Odczyt odczyt)

@@ -12,6 +12,10 @@ public:
         przepelniona_ = przepelniona_ || __builtin_add_overflow(suma_.surowa(), kwota.surowa(), &surowa);
         suma_ = Waluta::zSurowej(surowa);
     }
+    void dodaj(const SumaKwot& inna) {
+        dodaj(inna.suma_);
+        przepelniona_ = przepelniona_ || inna.przepelniona_;
+    }
     /// Throws `Przepelnienie`.
     [[nodiscard]] Waluta kwota() const {
         if (przepelniona_)

@@ -82,7 +82,8 @@ qint64 Instrukcja::liczba(int kolumna) const { return sqlite3_column_int64(stmt_
 double Instrukcja::rzeczywista(int kolumna) const { return sqlite3_column_double(stmt_, kolumna); }
 
 std::string_view Instrukcja::utf8(int kolumna) const {
-    const auto* tekst = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, kolumna));
+    // As bytes: asked for text, the engine copies each one to put a zero behind it.
+    const auto* tekst = static_cast<const char*>(sqlite3_column_blob(stmt_, kolumna));
     if (!tekst) return {};
     return {tekst, static_cast<std::size_t>(sqlite3_column_bytes(stmt_, kolumna))};
 }
@@ -135,8 +136,9 @@ Polaczenie::Polaczenie(const QString& sciezka, Sposob sposob) : sciezka_(sciezka
             QStringLiteral("Nie można utworzyć pliku „%1”. Nowa baza danych nie została utworzona.")
                 .arg(sciezka));
     try {
-        if (sqlite3_open_v2(sciezka.toUtf8().constData(), &baza_, SQLITE_OPEN_READWRITE, nullptr) !=
-            SQLITE_OK)
+        // The program is one thread, so the engine needs no locks of its own.
+        constexpr int tryb = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+        if (sqlite3_open_v2(sciezka.toUtf8().constData(), &baza_, tryb, nullptr) != SQLITE_OK)
             zglosBlad(QStringLiteral("Nie można otworzyć bazy danych"));
         if (sqlite3_db_readonly(baza_, "main") == 1)
             throw BladBazy(QStringLiteral("Nie można otworzyć bazy danych „%1”: pliku nie wolno zapisywać.")
