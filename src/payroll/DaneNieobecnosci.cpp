@@ -1,6 +1,6 @@
 #include "payroll/DaneNieobecnosci.h"
+#include "payroll/WgPracownika.h"
 #include "store/Sesja.h"
-#include <vector>
 
 namespace {
 
@@ -27,8 +27,9 @@ public:
     Rejestr(Sesja& sesja, const char* tabela, const char* kolumny, Reszta reszta, QDate od, QDate dokad,
             Odczyt odczyt)
         : odczyt_(odczyt), reszta_(reszta),
+          // The plus signs keep the engine from trying every date as a number.
           instrukcja_(sesja.cnPlace, (QByteArray("SELECT PRC_ID, DATA, DATA_DO, ") + kolumny + " FROM " +
-                                      tabela + " WHERE DATA_DO >= ?1 AND DATA <= ?2" +
+                                      tabela + " WHERE +DATA_DO >= ?1 AND +DATA <= ?2" +
                                       (odczyt == Odczyt::PoJednym ? " AND PRC_ID = ?3" : ""))
                                          .toStdString()) {
         instrukcja_.wiaz(0, od.toString(Qt::ISODate)).wiaz(1, dokad.toString(Qt::ISODate));
@@ -41,53 +42,30 @@ public:
             instrukcja_.wiaz(2, prcId);
             czytaj();
         }
-        const Zakres z = poNumerze_.value(prcId);
-        return Nieobecnosci(wiersze_).subspan(z.poczatek, z.ile);
+        const std::span<Nieobecnosc> swoje = wiersze_.pracownika(prcId);
+        std::ranges::sort(swoje, {}, [](const Nieobecnosc& n) { return std::pair(n.Data, n.data_do); });
+        return swoje;
     }
 
 private:
     void czytaj() {
-        std::vector<std::pair<qint64, Nieobecnosc>> przeczytane;
-        poNumerze_.clear();
+        wiersze_.wyczysc();
         while (instrukcja_.wiersz()) {
-            const qint64 prcId = instrukcja_.liczba(0);
-            Nieobecnosc& n = przeczytane.emplace_back(prcId, Nieobecnosc{}).second;
-            n.Data = dataZTekstu(instrukcja_.utf8(1));
-            n.data_do = dataZTekstu(instrukcja_.utf8(2));
+            const QDate od = dataZTekstu(instrukcja_.utf8(1)), dokad = dataZTekstu(instrukcja_.utf8(2));
+            if (!od.isValid() || dokad < od) continue; // no day belongs to it
+            Nieobecnosc& n = wiersze_.dopisz(instrukcja_.liczba(0));
+            n.Data = od;
+            n.data_do = dokad;
             reszta_(n, instrukcja_);
-            ++poNumerze_[prcId].ile;
         }
         instrukcja_.od_nowa();
-        ulozWgNumerow(przeczytane);
+        wiersze_.uloz();
     }
-
-    /// Each employee's rows together and in order. The engine would do it row after row through its index.
-    void ulozWgNumerow(const std::vector<std::pair<qint64, Nieobecnosc>>& przeczytane) {
-        std::size_t miejsce = 0;
-        for (Zakres& z : poNumerze_) {
-            z.poczatek = miejsce;
-            miejsce += std::exchange(z.ile, 0);
-        }
-        wiersze_.resize(przeczytane.size());
-        for (const auto& [prcId, nieobecnosc] : przeczytane) {
-            Zakres& z = poNumerze_[prcId];
-            wiersze_[z.poczatek + z.ile++] = nieobecnosc;
-        }
-        for (const Zakres& z : std::as_const(poNumerze_))
-            std::ranges::sort(std::span(wiersze_).subspan(z.poczatek, z.ile), {},
-                              [](const Nieobecnosc& n) { return std::pair(n.Data, n.data_do); });
-    }
-
-    struct Zakres {
-        std::size_t poczatek = 0;
-        std::size_t ile = 0;
-    };
 
     Odczyt odczyt_;
     Reszta reszta_;
     Instrukcja instrukcja_;
-    std::vector<Nieobecnosc> wiersze_;
-    QHash<qint64, Zakres> poNumerze_;
+    WgPracownika<Nieobecnosc> wiersze_;
     std::optional<qint64> prcId_; // whose rows these are, if read one by one
 };
 

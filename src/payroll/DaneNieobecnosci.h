@@ -14,6 +14,7 @@ class Sesja;
 
 /// A row of `URL` or `ZW`.
 struct Nieobecnosc {
+    qint64 prcId = 0;
     QDate Data;     ///< first day
     QDate data_do;  ///< last day
     int Rodzaj = 0; ///< kind of a vacation, 0 to 6

@@ -2,6 +2,7 @@
 #include "common/Daty.h"
 #include "payroll/Miesiace.h"
 #include "payroll/SumaKwot.h"
+#include "payroll/WgPracownika.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
 #include <string>
@@ -56,28 +57,34 @@ public:
             wiersze_.wiaz(0, prcId);
             czytaj();
         }
-        auto i = std::ranges::lower_bound(wszystkie_, prcId, {}, &Para::first);
-        if (i == wszystkie_.end() || i->first != prcId) return {};
-        Wynik wynik = i->second;
-        while (++i != wszystkie_.end() && i->first == prcId) wynik.dolicz(i->second);
+        Wynik wynik;
+        bool pierwszy = true;
+        for (const Para& p : wszystkie_.pracownika(prcId)) {
+            if (std::exchange(pierwszy, false))
+                wynik = p.wynik;
+            else
+                wynik.dolicz(p.wynik);
+        }
         return wynik;
     }
 
 private:
-    using Para = std::pair<qint64, Wynik>;
+    struct Para {
+        qint64 prcId = 0;
+        Wynik wynik;
+    };
 
     void czytaj() {
-        wszystkie_.clear();
-        while (wiersze_.wiersz()) wszystkie_.emplace_back(wiersze_.liczba(0), wiersz_(wiersze_));
+        wszystkie_.wyczysc();
+        while (wiersze_.wiersz()) wszystkie_.dopisz(wiersze_.liczba(0)).wynik = wiersz_(wiersze_);
         wiersze_.od_nowa();
-        if (!std::ranges::is_sorted(wszystkie_, {}, &Para::first))
-            std::ranges::stable_sort(wszystkie_, {}, &Para::first);
+        wszystkie_.uloz();
     }
 
     Odczyt odczyt_;
     Instrukcja wiersze_;
     Wiersz wiersz_;
-    std::vector<Para> wszystkie_; // by employee
+    WgPracownika<Para> wszystkie_;
 };
 
 } // namespace

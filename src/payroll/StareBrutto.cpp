@@ -31,16 +31,22 @@ StareBrutto::StareBrutto(Sesja& sesja) : sesja_(sesja) {
 StareBrutto::~StareBrutto() = default;
 
 void StareBrutto::wczytajWszystkich() {
-    wszyscy_.emplace();
+    wszystkie_.emplace();
     for (const QString& tabela : tabele_) {
         Instrukcja wiersze(sesja_.cnPlace,
                            ("SELECT PRC_ID, BRUTTO FROM " + nazwaSql(tabela.toStdString())).toStdString());
-        while (wiersze.wiersz()) (*wszyscy_)[wiersze.liczba(0)].dodaj(Waluta::zSurowej(wiersze.liczba(1)));
+        while (wiersze.wiersz())
+            wszystkie_->dopisz(wiersze.liczba(0)).brutto = Waluta::zSurowej(wiersze.liczba(1));
     }
+    wszystkie_->uloz();
 }
 
 Waluta StareBrutto::zListPlac(qint64 prcId) {
-    if (wszyscy_) return wszyscy_->value(prcId).kwota();
+    if (wszystkie_) {
+        SumaKwot suma;
+        for (const Wiersz& w : wszystkie_->pracownika(prcId)) suma.dodaj(w.brutto);
+        return suma.kwota();
+    }
     if (!listy_) return {};
     listy_->wiaz(0, prcId);
     return sumaKwot(*listy_);

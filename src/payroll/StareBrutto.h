@@ -1,9 +1,9 @@
 // What an employee earned in the year before the open month, read through the file's indexes.
 #pragma once
 #include "payroll/SumaKwot.h"
+#include "payroll/WgPracownika.h"
 #include <memory>
 #include <optional>
-#include <QHash>
 #include <QStringList>
 
 class Instrukcja;
@@ -29,9 +29,14 @@ public:
     [[nodiscard]] Waluta zUmow(qint64 prcId);
 
 private:
+    struct Wiersz {
+        qint64 prcId = 0;
+        Waluta brutto;
+    };
+
     Sesja& sesja_;
     QStringList tabele_;                // PLA of the year's earlier months
     std::unique_ptr<Instrukcja> listy_; // none when there is no earlier month
-    std::optional<QHash<qint64, SumaKwot>> wszyscy_;
+    std::optional<WgPracownika<Wiersz>> wszystkie_;
     std::unique_ptr<Instrukcja> umowy_;
 };
