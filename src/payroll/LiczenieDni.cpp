@@ -9,11 +9,11 @@ using schemat::PLB;
 
 namespace {
 
-/// By day of the month: 0, or what holds on the day.
-using DniWgDaty = std::array<int, 32>;
+/// By day of the month: 0, or what holds on the day; wide enough for the number after any stored kind.
+using DniWgDaty = std::array<qint64, 32>;
 
 /// Marks the days of the absence that lie in the month. A later absence overwrites an earlier one.
-void zaznacz(DniWgDaty& dni, const Nieobecnosc& n, QDate pierwszy, int znak) {
+void zaznacz(DniWgDaty& dni, const Nieobecnosc& n, QDate pierwszy, qint64 znak) {
     const QDate ostatni = OstatniDzien(pierwszy.year(), pierwszy.month());
     for (QDate d = std::max(n.Data, pierwszy); d <= std::min(n.data_do, ostatni); d = d.addDays(1))
         dni[static_cast<std::size_t>(d.day())] = znak;
@@ -24,7 +24,7 @@ LicznikiDni zliczDni(const DniKalendarza& kalendarz, QDate pierwszy, const DniWg
     LicznikiDni wynik;
     for (int d = 1; d <= pierwszy.daysInMonth(); ++d) {
         if (kalendarz[d] == DniKalendarza::NieMa) continue;
-        const int rodzaj = urlop[static_cast<std::size_t>(d)];
+        const qint64 rodzaj = urlop[static_cast<std::size_t>(d)];
         const int dzienTygodnia = pierwszy.addDays(d - 1).dayOfWeek();
         if (l4[static_cast<std::size_t>(d)]) {
             ++wynik.Czasnl4; // whatever the calendar says
@@ -72,7 +72,7 @@ std::optional<LicznikiDni> LiczenieDni::policz(qint64 prcId, Tryb tryb) {
 
     const QDate pierwszy = PierwszyDzien(o.sesja.rok(), o.sesja.mies());
     DniWgDaty urlop{}, l4{};
-    for (const Nieobecnosc& n : w_.dane.urlopy(prcId)) zaznacz(urlop, n, pierwszy, n.Rodzaj + 1);
+    for (const Nieobecnosc& n : w_.dane.urlopy(prcId)) zaznacz(urlop, n, pierwszy, qint64{n.Rodzaj} + 1);
     for (const Nieobecnosc& n : w_.dane.zwolnieniaRoku(prcId)) zaznacz(l4, n, pierwszy, 1);
     for (std::size_t d = 1; d < urlop.size(); ++d)
         if (urlop[d] && l4[d]) {

@@ -49,6 +49,8 @@ void Naliczanie::WypelnijUjemny(int i) {
 }
 
 void Naliczanie::WypelnijSkladniki() {
+    // A row removed and added again has the same key, but no leave has been priced on it.
+    zasilek_.reset();
     for (int i = 1; i <= 30; ++i)
         if (pozycje_.dodatnia(i).aktywna()) WypelnijDodatni(i);
     for (int i = 1; i <= 15; ++i)

@@ -33,9 +33,10 @@ Waluta bezSkladek(Waluta brutto, Waluta fe, Waluta fr, Waluta fc) {
 int IleDotDniL4(Nieobecnosci zwolnienia, int rok, int mies) {
     const QDate pierwszy = PierwszyDzien(rok, mies);
     qint64 dni = 0;
-    // Deliberate: the start is not cut at 1 January.
+    // Deliberate: the start is not cut at 1 January. An imported leave that ends before it begins has no day
+    // and must not give any back.
     for (const Nieobecnosc& n : zwolnienia)
-        if (n.data_do >= PierwszyDzien(rok, 1) && n.Data < pierwszy)
+        if (n.data_do >= PierwszyDzien(rok, 1) && n.Data < pierwszy && n.Data <= n.data_do)
             dni += n.Data.daysTo(std::min(n.data_do.addDays(1), pierwszy));
     return static_cast<int>(dni);
 }

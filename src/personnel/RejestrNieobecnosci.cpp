@@ -49,10 +49,14 @@ Recordset RejestrNieobecnosci::wiersze(std::optional<qint64> prcId) const {
 }
 
 bool RejestrNieobecnosci::Wypisz(const WierszRejestru& wiersz) {
+    // A row imported without a date must be found as well, or nobody could delete it.
+    const auto rowna = [this](std::string_view nazwa, QDate data) -> Kryterium {
+        return {kolumna(nazwa), Kryterium::Operator::Rowne, data.isValid() ? Wartosc(data) : Wartosc(Null)};
+    };
     uchwyt_.Open(o_.sesja.cnPlace, {},
                  {{kolumna("prc_id"), Kryterium::Operator::Rowne, wiersz.prcId},
-                  {kolumna("Data"), Kryterium::Operator::Rowne, wiersz.zakres.od},
-                  {kolumna("data_do"), Kryterium::Operator::Rowne, wiersz.zakres.dokad}});
+                  rowna("Data", wiersz.zakres.od),
+                  rowna("data_do", wiersz.zakres.dokad)});
     if (uchwyt_.naWierszu()) return true;
     o_.rozmowa.komunikat(QStringLiteral("FATAL ERROR !!! Nie znaleziono rekordu."), Styl::Krytyczny);
     return false;

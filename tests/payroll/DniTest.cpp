@@ -80,6 +80,7 @@ TEST_F(DniTest, EachDayOfTheMonthIsOfOneKind) {
          "DN_RO=19 DN_URL=2 DN_UINNY=2 DN_INN=8"},
         {"February", {2001, 2}, {{'L', "2001-02-28", "2001-03-31"}}, true, "DN_RO=19 DN_ZAS=1 DN_INN=8"},
     };
+    EXPECT_EQ(DniKalendarza::zFlag(2001, 2, {}).ile(DniKalendarza::Roboczy), 28) << "an import knows no -1";
     pracownik(1, "placa_zas=1000");
     for (const auto& p : przypadki) {
         SCOPED_TRACE(p.opis);

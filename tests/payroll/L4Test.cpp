@@ -53,6 +53,9 @@ TEST_F(L4Test, TheEmployerPaysUpToTheLimitOfTheYearAndTheInsurerTheRest) {
          {{{2001, 7, 2}, {2001, 7, 11}}},
          "SR_BR_ZUS=2438,7 DNI_L4_PR=10 DNI_L4_ZUS=0 SP_20=650,32 SOD_20=2001-07-02 SDO_20=2001-07-11 "
          "SP_25=0"},
+        {"its last day is the first of the month",
+         {{{2001, 6, 29}, {2001, 7, 1}}},
+         "DNI_L4_PR=1 DNI_L4_ZUS=0 SP_20=65,032 SOD_20=2001-07-01 SDO_20=2001-07-01"},
         {"exactly to the limit",
          {{{2001, 2, 1}, {2001, 2, 25}}, {{2001, 7, 2}, {2001, 7, 11}}},
          "DNI_L4_PR=10 DNI_L4_ZUS=0 SP_20=650,32"},
@@ -160,18 +163,31 @@ TEST_F(L4Test, BaseSalaryAndBonusFollowTheStoredChoice) {
         oczekujPytan(p.placa, Odpowiedz::Tak);
         przepisz(p.wynik);
     }
+
+    // Without any calendar work is due from Monday to Friday; a bonus out of use is left alone.
+    wyczyscRejestry();
+    zwolnienie(1, {2001, 7, 2}, {2001, 7, 11});
+    stale().SposobStZasL4 = 2;
+    stale().PlZas = 1;
+    stale().PremPr = 3;
+    ustawIZapisz("DN_RO=11 DN_SO=0 DN_NI=0");
+    oczekujPytan(Odpowiedz::Tak, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(u"Składnik nr 3 odpowiadający premii procentowej jest nieaktywny. Zmiana nie została "
+                        "dokonana."_s,
+                        Styl::Wykrzyknik);
+    przepisz("SP_1=1500 SP_3=0");
 }
 
 TEST_F(L4Test, AnAverageOverTheTurnOfTheYearCountsMonthsThatAreMissing) {
     miesiac({2001, 1});
-    wczesniej({2000, 12}, 1, "SP_1=3000 SP_5=100 WSK_FEPRC=9,76 WSK_FRPRC=6,5 WSK_FCPRC=2,45");
+    wczesniej({2000, 12}, 1, "SP_1=3000 SP_30=100 WSK_FEPRC=9,76 WSK_FRPRC=6,5 WSK_FCPRC=2,45");
     // Two lists of a month: amounts of both, rates of the last.
-    wczesniej({2000, 10}, 1, "SP_1=1000 SP_5=50 WSK_FEPRC=50", u"A"_s);
+    wczesniej({2000, 10}, 1, "SP_1=1000 SP_30=50 WSK_FEPRC=50", u"A"_s);
     wczesniej({2000, 10}, 1, "SP_1=2000 WSK_FEPRC=10", u"B"_s);
     lista_ = std::make_unique<ListaPlac>(otoczenie(), 2001, 1, u" "_s, &wykazy_);
     dopisz(*lista_, 1);
     zwolnienie(1, {2000, 12, 30}, {2001, 1, 3}, 100);
-    stale().SklSrL4 = {1, 5, 5};
+    stale().SklSrL4 = {1, 30, 30};
     oczekujPytan();
     lista_->Przelicz2();
     // Gross 3200 + 0 + 3100; net 3200 * 81,29% + 3100 * 90%.
@@ -181,6 +197,11 @@ TEST_F(L4Test, AnAverageOverTheTurnOfTheYearCountsMonthsThatAreMissing) {
     EXPECT_EQ(wykazy_.linie[1].kwota, Waluta{});
     EXPECT_EQ(wykazy_.linie[2].kwota, zl(3100));
     EXPECT_EQ(wykazy_.linie[2].netto, zl(2790));
+
+    stale().MiesSrBr = 13; // at most twelve are taken
+    oczekujPytan();
+    lista_->Przelicz2();
+    oczekujWPliku({1, u" "_s}, "SR_BR_ZUS=449,27", {2001, 1});
 }
 
 TEST_F(L4Test, TheClerksOwnAverageIsReducedByTheRowsContributions) {
@@ -239,9 +260,14 @@ TEST_F(L4Test, ADivisionByZeroLeavesTheRowAndNamesTheEmployee) {
                         Odpowiedz::Tak);
     rozmowa_.spodziewaj(pytania::placaPoL4Serii, Odpowiedz::Tak);
     rozmowa_.spodziewaj(pytania::premiaPoL4Serii, Odpowiedz::Nie);
+    skladnik(20, "   ", false);
     const RaportSerii drugi =
-        lista_->PrzeliczSerie(Obliczenie::Przepisanie, {{1, u" "_s}, {2, u" "_s}, {3, u" "_s}});
-    EXPECT_EQ(drugi.tekst(), u"Pracownik nr 1: "_s + powod);
+        lista_->PrzeliczSerie(Obliczenie::Przepisanie, {{2, u" "_s}, {1, u" "_s}, {3, u" "_s}});
+    // What was remarked about somebody who failed is not said of the next.
+    EXPECT_EQ(drugi.tekst(),
+              u"Pracownik nr 1: "_s + powod +
+                  u"\nSkładnik nr 20 odpowiadający wynagrodzeniu za L-4 jest nieaktywny. Kwota "
+                  u"za L-4 nie została zaopisana. (pracownik nr 2)"_s);
     EXPECT_EQ(drugi.wykonane, 2);
     oczekujWPliku({1, u" "_s}, "SP_1=7 SP_20=0");
     oczekujWPliku({2, u" "_s}, "DNI_L4_PR=1");
@@ -249,7 +275,8 @@ TEST_F(L4Test, ADivisionByZeroLeavesTheRowAndNamesTheEmployee) {
 
 TEST_F(L4Test, TheBenefitOfTheRowIsTheSameTodayAndNextWeek) {
     zwolnienie(1, {2001, 3, 1}, {2001, 4, 30});
-    zwolnienie(1, {2001, 7, 2}, {2001, 7, 11});
+    zwolnienie(1, {2001, 7, 2}, {2001, 7, 6});
+    zwolnienie(1, {2001, 7, 7}, {2001, 7, 11});
     oczekujPytan();
     lista_->Przelicz2();
     // 3300 gross and 650,32 of benefit outside it, which is paid and taken off again.
@@ -264,6 +291,31 @@ TEST_F(L4Test, TheBenefitOfTheRowIsTheSameTodayAndNextWeek) {
         lista_ = std::make_unique<ListaPlac>(otoczenie(), kLipiec.rok, kLipiec.mies, u" "_s);
         ASSERT_TRUE(lista_->Wypisz_daneP({1, u" "_s}));
     }
+
+    // Another list's row of the employee has none of it, nor has another employee.
+    pracownik(2, "placa_zas=100");
+    dopisz(*lista_, 2);
+    dopisz(*std::make_unique<ListaPlac>(otoczenie(), kLipiec.rok, kLipiec.mies, u"A"_s), 1);
+    lista_ = std::make_unique<ListaPlac>(otoczenie(), kLipiec.rok, kLipiec.mies, u" "_s);
+    ASSERT_TRUE(lista_->Wypisz_daneP({1, u" "_s}));
+    oczekujPytan();
+    lista_->Przelicz2();
+    ASSERT_TRUE(lista_->Wypisz_daneP({1, u"A"_s}));
+    lista_->Przelicz1();
+    oczekujWPliku({1, u"A"_s}, "BRUTTO=3300 SP_25=0");
+    ASSERT_TRUE(lista_->Wypisz_daneP({2, u" "_s}));
+    lista_->Przelicz1();
+    ASSERT_TRUE(lista_->Wypisz_daneP({1, u" "_s}));
+
+    // Removed and added again, the row has no benefit until its leaves are priced.
+    oczekujPytan();
+    lista_->Przelicz2();
+    rozmowa_.spodziewaj(u"Czy na pewno usunąć pracownika o numerze 1 z miesięcznej listy płac ?"_s,
+                        Odpowiedz::Tak);
+    ASSERT_TRUE(lista_->Usun_prac());
+    dopisz(*lista_, 1);
+    lista_->Przelicz1();
+    oczekujWPliku({1, u" "_s}, "BRUTTO=3300 SP_25=0 DNI_L4_ZUS=0");
 }
 
 } // namespace

@@ -76,6 +76,7 @@ TEST_F(UrlopTest, APeriodIsItsDaysTimesTheAverageRate) {
          {{{2000, 8, 1}, {2001, 7, 3}}},
          false,
          "SOD_5=2000-08-01 SDO_5=2001-07-03 SP_5=36552,47"},
+        {"nor at the end", {{{2001, 7, 30}, {2002, 1, 2}}}, false, "SDO_5=2002-01-02 SP_5=17138,71"},
         {"unpaid leave alone earns nothing",
          {{{2001, 7, 2}, {2001, 7, 6}, 1}},
          false,
@@ -95,6 +96,27 @@ TEST_F(UrlopTest, APeriodIsItsDaysTimesTheAverageRate) {
     }
     EXPECT_EQ(wykazy_.dni, 60);
     EXPECT_EQ(wykazy_.linie[1].kwota, zl(4500));
+
+    // A second list of a month adds its amounts and not its days; at most nine months are taken.
+    wczesniej({2001, 6}, 1, "SP_1=900 DN_RO=5", u"A"_s);
+    wczesniej({2000, 9}, 1, "SP_1=6000 DN_RO=20");
+    stale().ZIluMSrDn = 12;
+    wyczyscRejestry();
+    urlop(1, {2001, 7, 2}, {2001, 7, 2});
+    oczekujPytan();
+    przepisz("SR_BR_URL=166,67 SP_5=166,67");
+    EXPECT_EQ(wykazy_.linie.size(), 9);
+
+    stale().SklUrl = 30; // left out without a word
+    oczekujPytan();
+    przepisz("SP_30=0 SOD_30=null SR_BR_URL=166,67");
+    stale().SklUrl = 3;
+    rozmowa_.spodziewaj(pytania::urlop, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(u"Składnik nr 3 odpowiadający wynagrodzeniu za urlop jest nieaktywny. Kwota za urlop "
+                        "nie została zaopisana."_s,
+                        Styl::Wykrzyknik);
+    rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
+    przepisz("SP_3=0");
 
     // Nobody is asked about a month without a vacation; only the average is cleared.
     wyczyscRejestry();

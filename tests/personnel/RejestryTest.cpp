@@ -187,6 +187,8 @@ TEST_F(RejestryTest, OstrzegaGdyUrlopPrzekroczyPrzyslugujacy) {
     rozmowa_.spodziewaj(kPrzekroczone, Styl::Wykrzyknik);
     ASSERT_TRUE(urlopy.Zarejestruj({7, zakres(u"21.03-21.03"_s)})) << "it stays";
     EXPECT_EQ(urlopy.WykorzystaneDni(7, 2001), 8);
+    zarejestruj(u"22.03-22.03"_s, RodzajUrlopu::Okolicznosciowy); // does not warn
+    ASSERT_TRUE(urlopy.Wypisz({0, 7, {}, {}, zakres(u"21.03-21.03"_s)}));
 
     // Typed by hand: more days warn again, a note or fewer days do not.
     urlopy.tabela().ustaw(URL("il_dni"), 2);
@@ -237,6 +239,17 @@ TEST_F(RejestryTest, ZmianaUsuniecieIWierszKtoregoJuzNieMa) {
     EXPECT_EQ(wPliku(ZW), QStringList{u"8 O'Hara 10.03-20.03"_s});
     rozmowa_.spodziewaj(u"FATAL ERROR !!! Nie znaleziono rekordu."_s, Styl::Krytyczny);
     EXPECT_FALSE(ponownie.Wypisz(lista[0]));
+
+    // Rows imported without dates can be taken up and deleted.
+    sesja().cnPlace.wykonaj("INSERT INTO ZW (prc_id, Data) VALUES (7, '2001-05-01'), (7, NULL)");
+    for (const WierszRejestru& wiersz : ponownie.lista()) {
+        if (wiersz.zakres.poprawny()) continue;
+        ASSERT_TRUE(ponownie.Wypisz(wiersz));
+        EXPECT_EQ(ponownie.CzasTrwania(), 0);
+        rozmowa_.spodziewaj(pytanie, Odpowiedz::Tak);
+        EXPECT_TRUE(ponownie.Usun());
+    }
+    EXPECT_EQ(wPliku(ZW), QStringList{u"8 O'Hara 10.03-20.03"_s});
 }
 
 TEST_F(RejestryTest, NieudanyZapisNieZostawiaNiczego) {
