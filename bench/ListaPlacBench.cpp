@@ -9,6 +9,7 @@
 #include "payroll/ListaPlac.h"
 #include "payroll/Miesiace.h"
 #include "personnel/DniKalendarza.h"
+#include "personnel/frmPrac.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
@@ -20,6 +21,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLineEdit>
 
 namespace {
 
@@ -172,6 +174,33 @@ void EkranMiesiaca(benchmark::State& stan) {
     stan.counters["razy"] = ekran / surowy;
 }
 
+/// Opening the personnel file until it is painted, against the raw read of its five tables; then a name typed
+/// into its quick find.
+void EkranKadr(benchmark::State& stan) {
+    const QString baza = kopiaFirmy(static_cast<int>(stan.range(0)), 0);
+    RozmowaCicha rozmowa;
+    Program program(baza, QDir::tempPath(), rozmowa);
+    double ekran = 0, szukanie = 0, surowy = 0;
+    for (auto _ : stan) {
+        std::unique_ptr<frmPrac> okno;
+        ekran = sekundy([&] {
+            okno = std::make_unique<frmPrac>(program.otoczenie(), FiltrPracownikow::Wszyscy);
+            okno->show();
+            QApplication::processEvents();
+        });
+        auto* pole = okno->findChild<QLineEdit*>(QStringLiteral("txtSzukaj"));
+        szukanie = sekundy([&] {
+            for (const QChar znak : QStringLiteral("wróbel")) pole->insert(znak);
+            QApplication::processEvents();
+        });
+        surowy = CzytajSurowo(program.sesja(), {"PRACDP", "PRACSK", "PRACINF", "PRACPR", "PRACZUS"});
+        stan.SetIterationTime(ekran);
+    }
+    stan.counters["szukanie_ms"] = szukanie * 1e3;
+    stan.counters["surowo_ms"] = surowy * 1e3;
+    stan.counters["razy"] = ekran / surowy;
+}
+
 /// One amount typed over in a row of many: its chain computed and the row saved.
 void JedenPracownik(benchmark::State& stan) {
     const QString baza = kopiaFirmy(static_cast<int>(stan.range(0)), 1);
@@ -199,6 +228,7 @@ BENCHMARK(NieobecnosciStyczen)->Apply(rozmiaryFirmy);
 BENCHMARK(NieobecnosciGrudzien)->Apply(rozmiaryFirmy);
 BENCHMARK(StartProgramu)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(EkranMiesiaca)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(EkranKadr)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(JedenPracownik)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 } // namespace
