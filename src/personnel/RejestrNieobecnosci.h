@@ -16,8 +16,8 @@ struct ZakresDat {
     QDate dokad;
 
     [[nodiscard]] bool poprawny() const { return od.isValid() && dokad.isValid() && od <= dokad; }
-    /// The length in calendar days.
-    [[nodiscard]] qint64 dni() const { return od.daysTo(dokad) + 1; }
+    /// The length in calendar days, 0 of one that is no range.
+    [[nodiscard]] qint64 dni() const { return poprawny() ? od.daysTo(dokad) + 1 : 0; }
     [[nodiscard]] bool maWspolnyDzien(const ZakresDat& inny) const {
         return od <= inny.dokad && inny.od <= dokad;
     }

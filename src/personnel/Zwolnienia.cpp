@@ -20,6 +20,5 @@ std::optional<qint64> RejestrZwolnien::Zarejestruj(const NoweZwolnienie& zwolnie
 qint64 RejestrZwolnien::CzasTrwania() const {
     const Recordset& rs = tabela();
     if (!rs.naWierszu()) return 0;
-    const ZakresDat zakres{rs.data(ZW("Data")), rs.data(ZW("data_do"))};
-    return zakres.poprawny() ? zakres.dni() : 0;
+    return ZakresDat{rs.data(ZW("Data")), rs.data(ZW("data_do"))}.dni();
 }
