@@ -50,7 +50,7 @@ public:
 
 private:
     class Rejestr;
-    struct MiesiacKalendarza {
+    struct PytanyMiesiac {
         qint64 prcId = -1;
         int rok = 0;
         int mies = 0;
@@ -64,6 +64,6 @@ private:
     std::unique_ptr<Rejestr> urlopy_, zwolnienia_;
     std::unique_ptr<Instrukcja> kalendarz_;
     QHash<int, std::optional<DniKalendarza>> ogolny_; // by 12 * year + month
-    MiesiacKalendarza wlasny_;                        // the last one asked for
+    PytanyMiesiac wlasny_;                            // the last one asked for
     std::optional<bool> pusty_;
 };

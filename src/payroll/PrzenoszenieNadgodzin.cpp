@@ -1,5 +1,6 @@
 #include "payroll/PrzenoszenieNadgodzin.h"
 #include "common/Daty.h"
+#include "payroll/KolumnyNadgodzin.h"
 #include "payroll/Miesiace.h"
 #include "payroll/Warsztat.h"
 #include "rules/Stale.h"
@@ -21,10 +22,15 @@ std::optional<PrzenoszenieNadgodzin::Kwoty> PrzenoszenieNadgodzin::kwoty(qint64 
         if (naglowek.wiersz() && naglowek.liczba(0) != 0) {
             const QString tabela = Sesja::nazwaMiesiaca("NADGN", s.rok(), s.mies());
             WymagajTabeli(s, tabela);
-            lista_ = std::make_unique<Instrukcja>(
-                s.cnPlace, ("SELECT SP_K1, SP_K2, SP_K3, SP_K4, SP_K5, SP_K6, SP_K7 FROM " +
-                            nazwaSql(tabela.toStdString()) + " WHERE PRC_ID = ?1")
-                               .toStdString());
+            QByteArrayList kolumny;
+            for (int g = 1; g <= kGrupNadgodzin; ++g) {
+                const std::string_view nazwa = schemat::KwotaOsoby(g).def().nazwa;
+                kolumny.append(QByteArray(nazwa.data(), static_cast<qsizetype>(nazwa.size())));
+            }
+            lista_ = std::make_unique<Instrukcja>(s.cnPlace,
+                                                  ("SELECT " + kolumny.join(", ") + " FROM " +
+                                                   nazwaSql(tabela.toStdString()) + " WHERE PRC_ID = ?1")
+                                                      .toStdString());
         }
         sprawdzone_ = true;
     }

@@ -2,7 +2,7 @@
 #pragma once
 #include "common/Rozmowa.h"
 #include "common/Waluta.h"
-#include <array>
+#include "payroll/KolumnyNadgodzin.h"
 #include <memory>
 #include <optional>
 #include <QList>
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] QList<int> PrzeniesNadgodziny(Tryb tryb);
 
 private:
-    using Kwoty = std::array<Waluta, 7>;
+    using Kwoty = WgGrup<Waluta>;
     [[nodiscard]] std::optional<Kwoty> kwoty(qint64 prcId);
 
     Warsztat& w_;

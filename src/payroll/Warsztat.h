@@ -24,6 +24,10 @@ struct Warsztat {
 
     /// Whether the component may take an amount: a number from 1 to 30 with both active marks.
     [[nodiscard]] bool aktywny(int nr) const { return nr >= 1 && nr <= 30 && pozycje.dodatnia(nr).aktywna(); }
+    /// Sets amount (zł) and period of component `nr`, 1 to 30, on the row in work. Changes `PLS`, `PLD`.
+    void wpisz(int nr, Waluta kwota, QDate od, QDate dokad);
+    /// Working days, Saturdays and Sundays of the row in work together. Reads `PLA`.
+    [[nodiscard]] qint64 dniPrzepracowane() const;
     /// Tells the clerk that something was left out: at once for one row, in the closing report for a batch.
     void uwaga(Tryb tryb, const QString& tekst, Styl styl = Styl::Wykrzyknik);
 };

@@ -85,9 +85,7 @@ void WynagrodzenieL4::wpiszSkladnik(int nr, Waluta kwota, QDate od, QDate dokad,
                             u"zaopisana."));
         return;
     }
-    w_.o.sesja.rsPLS.ustaw(schemat::SP(nr), kwota);
-    w_.o.sesja.rsPLD.ustaw(schemat::SOD(nr), od);
-    w_.o.sesja.rsPLD.ustaw(schemat::SDO(nr), dokad);
+    w_.wpisz(nr, kwota, od, dokad);
 }
 
 WynagrodzenieL4::Rozliczenie WynagrodzenieL4::rozlicz(Nieobecnosci zwolnienia, int uzyte, Waluta dzienna,
@@ -126,7 +124,6 @@ WynagrodzenieL4::Rozliczenie WynagrodzenieL4::rozlicz(Nieobecnosci zwolnienia, i
 
 Waluta WynagrodzenieL4::zasadniczaPoL4(const SrednieL4& srednie, int dniMies, int dniObowiazku) const {
     const Waluta placa = w_.o.sesja.rsPRACPR.kwota(PRACPR("placa_zas"));
-    const Recordset& a = w_.o.sesja.rsPLA;
     // By the stored value; the captions on the screen of constants tell another order.
     switch (w_.o.stale.SposobStZasL4) {
     case 0:
@@ -139,8 +136,7 @@ Waluta WynagrodzenieL4::zasadniczaPoL4(const SrednieL4& srednie, int dniMies, in
                            "Nie można przeliczyć płacy zasadniczej po L-4: dzielenie przez zero, w miesiącu "
                            "%1.%2 nie ma dnia, w którym należało pracować.")
                            .arg(FormatMiesiaca(w_.o.sesja.mies()), FormatRoku(w_.o.sesja.rok())));
-        return Proporcja(placa, a.liczba(PLA("DN_RO")) + a.liczba(PLA("DN_SO")) + a.liczba(PLA("DN_NI")),
-                         dniObowiazku, 2);
+        return Proporcja(placa, w_.dniPrzepracowane(), dniObowiazku, 2);
     default:
         return Round(placa, 2);
     }

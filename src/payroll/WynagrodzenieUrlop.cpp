@@ -76,12 +76,6 @@ QList<OkresUrlopu> WynagrodzenieUrlop::okresy(qint64 prcId, Nieobecnosci urlopy,
     return wynik;
 }
 
-void WynagrodzenieUrlop::wpisz(int nr, Waluta kwota, QDate od, QDate dokad) {
-    w_.o.sesja.rsPLS.ustaw(schemat::SP(nr), kwota);
-    w_.o.sesja.rsPLD.ustaw(schemat::SOD(nr), od);
-    w_.o.sesja.rsPLD.ustaw(schemat::SDO(nr), dokad);
-}
-
 void WynagrodzenieUrlop::wpiszRazem(const QList<OkresUrlopu>& okresy, Tryb tryb) {
     const int nr = w_.o.stale.SklUrl;
     // Deliberate: number 30 is left out as well, without a word.
@@ -95,7 +89,7 @@ void WynagrodzenieUrlop::wpiszRazem(const QList<OkresUrlopu>& okresy, Tryb tryb)
     }
     Waluta suma;
     for (const OkresUrlopu& okres : okresy) suma += okres.kwota;
-    wpisz(nr, suma, okresy.first().od, okresy.last().dokad);
+    w_.wpisz(nr, suma, okresy.first().od, okresy.last().dokad);
 }
 
 void WynagrodzenieUrlop::wpiszKolejno(const QList<OkresUrlopu>& okresy) {
@@ -103,7 +97,7 @@ void WynagrodzenieUrlop::wpiszKolejno(const QList<OkresUrlopu>& okresy) {
     for (qsizetype p = 0; p < okresy.size(); ++p) {
         const int nr = static_cast<std::size_t>(p) < numery.size() ? numery[static_cast<std::size_t>(p)] : 0;
         if (w_.aktywny(nr))
-            wpisz(nr, okresy[p].kwota, okresy[p].od, okresy[p].dokad);
+            w_.wpisz(nr, okresy[p].kwota, okresy[p].od, okresy[p].dokad);
         else
             w_.uwaga(Tryb::Seria, niezapisany(okresy[p]));
     }
@@ -126,7 +120,7 @@ void WynagrodzenieUrlop::wpiszWedlugKlerka(const QList<OkresUrlopu>& okresy) {
         const OkresUrlopu& okres = okresy[p];
         if (const auto nr = wybranySkladnik(
                 okres, static_cast<std::size_t>(p) < numery.size() ? numery[static_cast<std::size_t>(p)] : 0))
-            wpisz(*nr, okres.kwota, okres.od, okres.dokad);
+            w_.wpisz(*nr, okres.kwota, okres.od, okres.dokad);
         else
             w_.uwaga(Tryb::Pojedynczy, niezapisany(okres));
     }
@@ -134,8 +128,7 @@ void WynagrodzenieUrlop::wpiszWedlugKlerka(const QList<OkresUrlopu>& okresy) {
 
 void WynagrodzenieUrlop::przeliczSkladniki() {
     Sesja& s = w_.o.sesja;
-    const qint64 dniPracy =
-        s.rsPLA.liczba(PLA("DN_RO")) + s.rsPLA.liczba(PLA("DN_SO")) + s.rsPLA.liczba(PLA("DN_NI"));
+    const qint64 dniPracy = w_.dniPrzepracowane();
     const qint64 dniRazem = dniPracy + s.rsPLA.liczba(PLA("DN_URL"));
     for (const int nr : w_.o.stale.SklPrzelURL) {
         if (!w_.aktywny(nr)) continue;

@@ -38,7 +38,6 @@ private:
     void wpiszKolejno(const QList<OkresUrlopu>& okresy);
     void wpiszWedlugKlerka(const QList<OkresUrlopu>& okresy);
     [[nodiscard]] std::optional<int> wybranySkladnik(const OkresUrlopu& okres, int proponowany);
-    void wpisz(int nr, Waluta kwota, QDate od, QDate dokad);
     void przeliczSkladniki();
 
     Warsztat& w_;
