@@ -248,10 +248,9 @@ void frmMain::odswiezStan() {
     labBaza_->setText(QStringLiteral("Baza: ") +
                       fontMetrics().elidedText(baza, Qt::ElideMiddle, kSzerokoscBazy));
     labBaza_->setToolTip(baza);
-    labMiesiac_->setText(QStringLiteral("Miesiąc: ") +
-                         (sesja.rok() > 0
-                              ? FormatMiesiaca(sesja.mies()) + QLatin1Char('.') + FormatRoku(sesja.rok())
-                              : QStringLiteral("nie otwarto")));
+    labMiesiac_->setText(QStringLiteral("Miesiąc: ") + (sesja.rok() > 0
+                                                            ? NapisMiesiaca(sesja.rok(), sesja.mies())
+                                                            : QStringLiteral("nie otwarto")));
     ramkaPodpowiedzi_->setVisible(sesja.rsPRACDP.RecordCount() == 0);
 }
 

@@ -25,6 +25,10 @@
 [[nodiscard]] QString FormatMiesiaca(int mies);
 /// "0000".
 [[nodiscard]] QString FormatRoku(int rok);
+/// "00.0000", month and year as titles and lists show them.
+[[nodiscard]] inline QString NapisMiesiaca(int rok, int mies) {
+    return FormatMiesiaca(mies) + QLatin1Char('.') + FormatRoku(rok);
+}
 
 /// The text of a date field while it is typed, rebuilt: split at "/" (also "-" and "."), at most three parts,
 /// a part that is no number becomes empty, the separators stay as typed.

@@ -64,8 +64,8 @@ ListaNadgodzin::ListaNadgodzin(Otoczenie& otoczenie, RokMies miesiac) : o_(otocz
                       s.cnPlace.jestTabela(nazwaTabeli(NADGN)) &&
                       s.cnPlace.jestTabela(nazwaTabeli(NADGDzien));
     if (!jest)
-        throw Blad(QStringLiteral("Nie ma listy nadgodzin za miesiąc %1.%2.")
-                       .arg(FormatMiesiaca(miesiac.mies), FormatRoku(miesiac.rok)));
+        throw Blad(QStringLiteral("Nie ma listy nadgodzin za miesiąc %1.")
+                       .arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
     rownania_ = RownaniaNadgodzin::zNaglowka(s.rsNADG);
     osoby_.Open(s.cnPlace, nazwaTabeli(NADGN));
     osoby_.Sort({NADGN("PRC_ID")});
@@ -171,8 +171,8 @@ QString ListaNadgodzin::opisOsoby(qint64 prcId) const {
 
 void ListaNadgodzin::ustawNaglowek() {
     if (!o_.sesja.rsNADG.Znajdz(FormatRoku(miesiac_.rok), FormatMiesiaca(miesiac_.mies)))
-        throw Blad(QStringLiteral("Nie ma listy nadgodzin za miesiąc %1.%2.")
-                       .arg(FormatMiesiaca(miesiac_.mies), FormatRoku(miesiac_.rok)));
+        throw Blad(QStringLiteral("Nie ma listy nadgodzin za miesiąc %1.")
+                       .arg(NapisMiesiaca(miesiac_.rok, miesiac_.mies)));
 }
 
 /// The sums of the person in work from his days. His own base rate is that of the month's end.

@@ -27,8 +27,7 @@ ListaPlac::ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& sym
     int wynik = 0;
     o_.sesja.OtworzMiesiac(rok, mies, wynik);
     if (wynik != 0)
-        throw Blad(
-            QStringLiteral("Nie ma listy płac za miesiąc %1.%2.").arg(FormatMiesiaca(mies), FormatRoku(rok)));
+        throw Blad(QStringLiteral("Nie ma listy płac za miesiąc %1.").arg(NapisMiesiaca(rok, mies)));
     zablokowany_ = o_.sesja.rsPLACE.flaga(PLACE("akc"));
     Pobierz_Akt();
 }
@@ -50,7 +49,7 @@ void ListaPlac::Pobierz_Akt() {
 }
 
 QString ListaPlac::tytul() const {
-    const QString miesiac = FormatMiesiaca(mies_) + QLatin1Char('.') + FormatRoku(rok_);
+    const QString miesiac = NapisMiesiaca(rok_, mies_);
     const QString napis = symbol_ == kWszystkieListy ? QStringLiteral("Lista plac za miesiąc ") + miesiac
                                                      : QStringLiteral("Lista plac (") + symbol_ +
                                                            QStringLiteral(") za miesiąc ") + miesiac;
@@ -101,8 +100,8 @@ bool ListaPlac::Wypisz_daneP(const KluczListy& klucz) {
 
 void ListaPlac::wymagajOtwartego() const {
     if (zablokowany_)
-        throw Blad(QStringLiteral("Miesiąc %1.%2 jest zablokowany i nie można go zmieniać.")
-                       .arg(FormatMiesiaca(mies_), FormatRoku(rok_)));
+        throw Blad(QStringLiteral("Miesiąc %1 jest zablokowany i nie można go zmieniać.")
+                       .arg(NapisMiesiaca(rok_, mies_)));
 }
 
 void ListaPlac::wymagajWiersza() {

@@ -49,8 +49,7 @@ void Miesiace::wymagaj(RokMies miesiac) {
     // A month with a damaged header can still be blocked or deleted: PLACE alone decides.
     (void)Ustaw(miesiac);
     if (!o_.sesja.rsPLACE.naWierszu())
-        throw Blad(QStringLiteral("Nie ma miesiąca %1.%2.")
-                       .arg(FormatMiesiaca(miesiac.mies), FormatRoku(miesiac.rok)));
+        throw Blad(QStringLiteral("Nie ma miesiąca %1.").arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
 }
 
 void Miesiace::zapiszNaglowki() {

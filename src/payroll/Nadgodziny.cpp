@@ -65,8 +65,8 @@ std::optional<RokMies> Nadgodziny::NowaLista(const WyborMiesiaca& wybor) {
 
 bool Nadgodziny::UsunListe(RokMies miesiac) {
     if (!znajdz(miesiac))
-        throw Blad(QStringLiteral("Nie ma listy nadgodzin za miesiąc %1.%2.")
-                       .arg(FormatMiesiaca(miesiac.mies), FormatRoku(miesiac.rok)));
+        throw Blad(QStringLiteral("Nie ma listy nadgodzin za miesiąc %1.")
+                       .arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
     if (!o_.rozmowa.pytanie(QStringLiteral("Czy na pewno usunąć zaznaczony miesiąc ?"))) return false;
     Sesja& s = o_.sesja;
     try {

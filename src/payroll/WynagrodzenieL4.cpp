@@ -134,8 +134,8 @@ Waluta WynagrodzenieL4::zasadniczaPoL4(const SrednieL4& srednie, int dniMies, in
         if (dniObowiazku == 0)
             throw Blad(QStringLiteral(
                            "Nie można przeliczyć płacy zasadniczej po L-4: dzielenie przez zero, w miesiącu "
-                           "%1.%2 nie ma dnia, w którym należało pracować.")
-                           .arg(FormatMiesiaca(w_.o.sesja.mies()), FormatRoku(w_.o.sesja.rok())));
+                           "%1 nie ma dnia, w którym należało pracować.")
+                           .arg(NapisMiesiaca(w_.o.sesja.rok(), w_.o.sesja.mies())));
         return Proporcja(placa, w_.dniPrzepracowane(), dniObowiazku, 2);
     default:
         return Round(placa, 2);

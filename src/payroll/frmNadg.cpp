@@ -186,9 +186,7 @@ QWidget* frmNadg::prawaStrona() {
 void frmNadg::pokazListe(std::optional<RokMies> zaznacz) {
     QList<WierszListy> wiersze;
     for (const RokMies m : nadgodziny_.WczytajListe())
-        wiersze.append({idMiesiaca(m),
-                        {FormatMiesiaca(m.mies) + QLatin1Char('.') + FormatRoku(m.rok),
-                         NazwaMiesiaca(m.mies).toUpper()}});
+        wiersze.append({idMiesiaca(m), {NapisMiesiaca(m.rok, m.mies), NazwaMiesiaca(m.mies).toUpper()}});
     if (!zaznacz && !wiersze.isEmpty()) zaznacz = miesiacId(wiersze.last().id);
     const bool puste = wiersze.isEmpty();
     lvwLista_->ustaw(std::move(wiersze), zaznacz ? idMiesiaca(*zaznacz) : -1);

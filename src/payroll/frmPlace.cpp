@@ -49,8 +49,7 @@ qint64 idMiesiaca(RokMies m) { return m.rok * 100LL + m.mies; }
 RokMies miesiacId(qint64 id) { return {static_cast<int>(id / 100), static_cast<int>(id % 100)}; }
 
 QStringList tekstyWiersza(const WierszMiesiaca& w) {
-    return {FormatMiesiaca(w.miesiac.mies) + QLatin1Char('.') + FormatRoku(w.miesiac.rok),
-            NazwaMiesiaca(w.miesiac.mies).toUpper(),
+    return {NapisMiesiaca(w.miesiac.rok, w.miesiac.mies), NazwaMiesiaca(w.miesiac.mies).toUpper(),
             w.zablokowany ? QStringLiteral("ZABLOKOWANY") : QString()};
 }
 

@@ -54,15 +54,13 @@ void dopisz(Recordset& rs, const MiesiacKalendarza& m, const TrescMiesiaca& tres
     wpisz(rs, tresc);
 }
 
-QString tekstMiesiaca(int rok, int mies) { return FormatMiesiaca(mies) + QLatin1Char('.') + FormatRoku(rok); }
-
 void wymagajPracownika(Otoczenie& o, qint64 prcId) {
     if (!Pracownicy(o).istnieje(prcId))
         throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
 }
 
 [[noreturn]] void brakMiesiaca(const MiesiacKalendarza& m) {
-    throw Blad(QStringLiteral("Kalendarz nie ma miesiąca %1.").arg(tekstMiesiaca(m.rok, m.mies)));
+    throw Blad(QStringLiteral("Kalendarz nie ma miesiąca %1.").arg(NapisMiesiaca(m.rok, m.mies)));
 }
 
 } // namespace
@@ -229,7 +227,7 @@ std::optional<WynikTransportu> Kalendarz::Transp(int rok, int mies, const QList<
     const MiesiacKalendarza ogolny{kKalendarzOgolny, rok, mies};
     const auto tresc = WypiszDni(ogolny);
     if (!tresc) {
-        o_.rozmowa.komunikat(QStringLiteral("Nie znaleziono miesiąca ") + tekstMiesiaca(rok, mies) +
+        o_.rozmowa.komunikat(QStringLiteral("Nie znaleziono miesiąca ") + NapisMiesiaca(rok, mies) +
                                  QStringLiteral(" w bazie danych! Dni nie zostały przetransoprtowane!"),
                              Styl::Wykrzyknik);
         return std::nullopt;
