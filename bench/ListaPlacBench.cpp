@@ -1,17 +1,17 @@
 // What the payroll costs as it grows: the batch against the raw write of the same rows, the start and the
 // month's screen against the raw read of the rows shown. Prints a Markdown table with the ratios.
-#include "app/Przyklad.h"
-#include "app/Rozruch.h"
 #include "bench/Surowe.h"
 #include "common/Daty.h"
 #include "okna/Wyglad.h"
-#include "payroll/frmPlaceLista.h"
-#include "payroll/ListaPlac.h"
-#include "payroll/Miesiace.h"
+#include "payroll/lista/frmPlaceLista.h"
+#include "payroll/lista/ListaPlac.h"
+#include "payroll/miesiace/Miesiace.h"
 #include "personnel/DniKalendarza.h"
 #include "personnel/frmPrac.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Stale.h"
+#include "start/Przyklad.h"
+#include "start/Rozruch.h"
 #include "store/Sesja.h"
 #include <benchmark/benchmark.h>
 #include <cstdio>
@@ -22,6 +22,8 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+
+using namespace tornel::start;
 
 namespace {
 

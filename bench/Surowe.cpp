@@ -4,6 +4,8 @@
 #include <QFile>
 #include <sqlite3.h>
 
+using namespace tornel::start;
+
 namespace {
 
 /// All values of a table as they stand in the file, so that the writing alone is measured.

@@ -8,19 +8,16 @@
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
 #include "app/frmSplash.h"
-#include "app/Przyklad.h"
-#include "app/Rozruch.h"
-#include "app/Uzytkownicy.h"
 #include "bank/frmKonta.h"
 #include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/Wyglad.h"
-#include "payroll/frmNadg.h"
-#include "payroll/frmPlace.h"
-#include "payroll/frmPlaceLista.h"
-#include "payroll/frmWykazy.h"
+#include "payroll/lista/frmPlaceLista.h"
+#include "payroll/miesiace/frmPlace.h"
+#include "payroll/nadgodziny/frmNadg.h"
+#include "payroll/nieobecnosci/frmWykazy.h"
 #include "personnel/frmData.h"
 #include "personnel/frmDniWolne.h"
 #include "personnel/frmDniWolnePr.h"
@@ -37,10 +34,15 @@
 #include "personnel/Urlopy.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
+#include "start/Przyklad.h"
+#include "start/Rozruch.h"
+#include "start/Uzytkownicy.h"
 #include <QDir>
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
+
+using namespace tornel::app;
 
 namespace {
 

@@ -3,6 +3,8 @@
 #include "common/Rozmowa.h"
 #include "store/Sesja.h"
 
+namespace tornel::app {
+
 namespace {
 
 constexpr Kolumna kNazwa = schemat::UZYTKOWNICY("Nazwa");
@@ -116,3 +118,5 @@ bool ListaUzytkownikow::Nowy(const QString& nazwa, const QString& haslo, const Q
     zapisz();
     return true;
 }
+
+} // namespace tornel::app

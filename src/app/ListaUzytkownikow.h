@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace tornel::app {
+
 /// One user as the list's fields show him.
 struct DaneUzytkownika {
     QString nazwa = {};
@@ -46,3 +48,5 @@ private:
 
     Otoczenie& o_;
 };
+
+} // namespace tornel::app

@@ -1,6 +1,8 @@
 #include "app/Menu.h"
 #include <iterator>
 
+namespace tornel::app {
+
 namespace {
 
 using enum Prawo;
@@ -8,14 +10,14 @@ using enum Pasek;
 
 constexpr QStringView kPlik = u"Plik";
 constexpr QStringView kPracownicy = u"Pracownicy";
-constexpr QStringView kPlace = u"Płace";
+constexpr QStringView kMenuPlace = u"Płace";
 constexpr QStringView kZlecenia = u"Zlecenia";
 constexpr QStringView kDniWolne = u"Dni wolne";
 constexpr QStringView kNieobecnosci = u"Nieobecności";
 constexpr QStringView kAdresy = u"Adresy";
 constexpr QStringView kAnalizy = u"Analizy";
 constexpr QStringView kKonfiguracja = u"Konfiguracja";
-constexpr QStringView kAdministrator = u"Administrator";
+constexpr QStringView kMenuAdministrator = u"Administrator";
 constexpr QStringView kPomoc = u"Pomoc";
 
 // The list of users shows every password in clear, so it is the administrator's alone, as is his sub-menu.
@@ -28,9 +30,9 @@ constexpr PozycjaMenu kMenu[] = {
     {kPracownicy, {}, u"Zatrudnieni na umowę o dzieło", Wejscie::PracownicyUmowaODzielo, Kadry},
     {kPracownicy, {}, u"Otrzymujący honoraria", Wejscie::PracownicyHonoraria, Kadry},
     {kPracownicy, {}, u"Lista umów o pracę", Wejscie::UmowyOPrace, Kadry},
-    {kPlace, {}, u"Lista płac", Wejscie::ListaPlac, Place, ZLista, u"place"},
-    {kPlace, {}, u"Nadgodziny", Wejscie::Nadgodziny, Place, Nie, u"nadgodziny"},
-    {kPlace, {}, u"Składniki płac", Wejscie::SkladnikiPlac, Place, Nie, u"skladniki"},
+    {kMenuPlace, {}, u"Lista płac", Wejscie::ListaPlac, Place, ZLista, u"place"},
+    {kMenuPlace, {}, u"Nadgodziny", Wejscie::Nadgodziny, Place, Nie, u"nadgodziny"},
+    {kMenuPlace, {}, u"Składniki płac", Wejscie::SkladnikiPlac, Place, Nie, u"skladniki"},
     {kZlecenia, {}, u"Umowy zlecenia", Wejscie::UmowyZlecenia, Place, Przycisk, u"zlecenia"},
     {kZlecenia, {}, u"Umowy o dzieło", Wejscie::UmowyODzielo, Place, Przycisk, u"dziela"},
     {kZlecenia, {}, u"Honoraria", Wejscie::Honoraria, Place, Przycisk, u"honoraria"},
@@ -53,8 +55,8 @@ constexpr PozycjaMenu kMenu[] = {
     {kKonfiguracja, {}, u"Stałe programu", Wejscie::StaleProgramu, Place, Przycisk, u"stale"},
     {kKonfiguracja, {}, u"Zmiana hasła", Wejscie::ZmianaHasla, Kazdy, Nie, u"haslo"},
     {kKonfiguracja, {}, u"Utwórz archiwum danych", Wejscie::UtworzArchiwum, Kazdy, Nie, u"archiwum"},
-    {kKonfiguracja, kAdministrator, u"Aktualizuj bazę danych", Wejscie::AktualizujBaze, Administrator},
-    {kKonfiguracja, kAdministrator, u"Pobierz strukturę bazy", Wejscie::PobierzStrukture, Administrator},
+    {kKonfiguracja, kMenuAdministrator, u"Aktualizuj bazę danych", Wejscie::AktualizujBaze, Administrator},
+    {kKonfiguracja, kMenuAdministrator, u"Pobierz strukturę bazy", Wejscie::PobierzStrukture, Administrator},
     {kKonfiguracja,
      {},
      u"Lista użytkowników",
@@ -78,3 +80,5 @@ static_assert(wKolejnosciWejsc(), "the table follows the order of Wejscie");
 std::span<const PozycjaMenu> menuGlowne() { return kMenu; }
 
 const PozycjaMenu& pozycjaMenu(Wejscie wejscie) { return kMenu[static_cast<std::size_t>(wejscie)]; }
+
+} // namespace tornel::app

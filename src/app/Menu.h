@@ -1,8 +1,11 @@
 // The menu of the main window as a table: what it says, what it opens, who may open it, what the toolbar
 // repeats.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QStringView>
 #include <span>
+
+namespace tornel::app {
 
 /// Everything that the main window can open, one value for each entry of the menu.
 enum class Wejscie {
@@ -68,3 +71,5 @@ struct PozycjaMenu {
 
 /// The row of `wejscie`; each value of `Wejscie` has one.
 [[nodiscard]] const PozycjaMenu& pozycjaMenu(Wejscie wejscie);
+
+} // namespace tornel::app

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+namespace tornel::app {
+
 namespace {
 
 constexpr int kBitKadry = 1;
@@ -53,3 +55,5 @@ bool dozwoloneMenu(QStringView menu, const Uzytkownik& uzytkownik) {
     return std::ranges::any_of(
         menuGlowne(), [&](const PozycjaMenu& p) { return p.menu == menu && maPrawo(p.prawo, uzytkownik); });
 }
+
+} // namespace tornel::app

@@ -2,8 +2,15 @@
 #pragma once
 #include "app/Menu.h"
 
+namespace tornel::rules {
 struct Stale;
+} // namespace tornel::rules
+
+namespace tornel::store {
 struct Uzytkownik;
+} // namespace tornel::store
+
+namespace tornel::app {
 
 /// Whether the user's type gives the right: type 0 gives every right, otherwise bit 1 gives "Kadry", bit 2
 /// "Płace".
@@ -23,3 +30,5 @@ struct Uzytkownik;
 /// Whether the menu with the caption `menu` is open: the user has the right to one of its entries at least,
 /// whether or not the constants have it switched on.
 [[nodiscard]] bool dozwoloneMenu(QStringView menu, const Uzytkownik& uzytkownik);
+
+} // namespace tornel::app

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+namespace tornel::app {
+
 namespace {
 
 constexpr int kIkona = 8 * Wyglad::kSiatka;
@@ -41,3 +43,5 @@ frmAbout::frmAbout(QWidget* rodzic) : QDialog(rodzic) {
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     siatka->setSizeConstraint(QLayout::SetFixedSize);
 }
+
+} // namespace tornel::app

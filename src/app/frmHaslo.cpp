@@ -1,12 +1,14 @@
 #include "app/frmHaslo.h"
 #include "app/ListaUzytkownikow.h"
-#include "app/Uzytkownicy.h"
 #include "common/Rozmowa.h"
 #include "okna/LinieDialogu.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
+#include "start/Uzytkownicy.h"
 #include <QVBoxLayout>
+
+namespace tornel::app {
 
 frmHaslo::frmHaslo(Otoczenie& otoczenie, QWidget* rodzic) : QDialog(rodzic), o_(otoczenie) {
     setObjectName(QStringLiteral("frmHaslo"));
@@ -46,3 +48,5 @@ void frmHaslo::reject() {
     o_.rozmowa.komunikat(QStringLiteral("Hasło nie zostało zmienione"), Styl::Informacja,
                          QStringLiteral("Hasło"));
 }
+
+} // namespace tornel::app

@@ -3,7 +3,11 @@
 #include "rules/Otoczenie.h"
 #include <QDialog>
 
+namespace tornel::okna {
 class PoleTekstu;
+} // namespace tornel::okna
+
+namespace tornel::app {
 
 class frmHaslo : public QDialog {
     Q_OBJECT
@@ -19,3 +23,5 @@ private:
     Otoczenie& o_;
     PoleTekstu *txtHaslo1_, *txtHaslo2_, *txtHaslo3_;
 };
+
+} // namespace tornel::app

@@ -3,6 +3,8 @@
 #include "okna/Wyglad.h"
 #include <QLabel>
 
+namespace tornel::app {
+
 namespace {
 
 enum PoleUzytkownika { Nazwa, Haslo, Kadry, Place };
@@ -81,8 +83,9 @@ frmLogLista::frmLogLista(Otoczenie& otoczenie, QWidget* rodzic)
     : frmLogLista(otoczenie, std::make_unique<DaneUzytkownika>(), rodzic) {}
 
 frmLogLista::frmLogLista(Otoczenie& otoczenie, std::unique_ptr<DaneUzytkownika> dane, QWidget* rodzic)
-    : frmListaPol(otoczenie, std::make_unique<ZrodloUzytkownika>(*dane), opis(), rodzic), lista_(otoczenie),
-      dane_(std::move(dane)), labAdm_(Wyglad::baner(QStringLiteral("ADMINISTRATOR"), this)) {
+    : frmListaPol(otoczenie.rozmowa, std::make_unique<ZrodloUzytkownika>(*dane), opis(), rodzic),
+      lista_(otoczenie), dane_(std::move(dane)),
+      labAdm_(Wyglad::baner(QStringLiteral("ADMINISTRATOR"), this)) {
     labAdm_->setObjectName(QStringLiteral("labAdm"));
     dodaj(labAdm_);
     auto* uwaga = new QLabel(QStringLiteral("Użytkownik bez żadnego uprawnienia staje się administratorem."));
@@ -125,3 +128,5 @@ void frmLogLista::Blokada(bool administrator) {
     labAdm_->setVisible(administrator);
     wiazanie().blokuj(administrator);
 }
+
+} // namespace tornel::app

@@ -3,6 +3,8 @@
 #include "app/ListaUzytkownikow.h"
 #include "okna/frmListaPol.h"
 
+namespace tornel::app {
+
 class frmLogLista : public frmListaPol {
     Q_OBJECT
 public:
@@ -28,3 +30,5 @@ private:
     QStringList nazwy_;
     QLabel* labAdm_;
 };
+
+} // namespace tornel::app

@@ -6,6 +6,8 @@
 #include "okna/Wyglad.h"
 #include <QVBoxLayout>
 
+namespace tornel::app {
+
 frmLogNowy::frmLogNowy(ListaUzytkownikow& lista, QWidget* rodzic) : QDialog(rodzic), lista_(lista) {
     setObjectName(QStringLiteral("frmLogNowy"));
     setWindowTitle(QStringLiteral("Nowy użytkownik"));
@@ -33,3 +35,5 @@ void frmLogNowy::accept() {
     if (lista_.Nowy(txtNazwa_->text(), txtHaslo_->text(), txtPowtorzenie_->text())) return QDialog::accept();
     (txtHaslo_->text() != txtPowtorzenie_->text() ? txtHaslo_ : txtNazwa_)->setFocus(Qt::TabFocusReason);
 }
+
+} // namespace tornel::app

@@ -1,9 +1,15 @@
 // "Nowy użytkownik": name and password of a user to be added.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QDialog>
 
-class ListaUzytkownikow;
+namespace tornel::okna {
 class PoleTekstu;
+} // namespace tornel::okna
+
+namespace tornel::app {
+
+class ListaUzytkownikow;
 
 class frmLogNowy : public QDialog {
     Q_OBJECT
@@ -20,3 +26,5 @@ private:
     ListaUzytkownikow& lista_;
     PoleTekstu *txtNazwa_, *txtHaslo_, *txtPowtorzenie_;
 };
+
+} // namespace tornel::app

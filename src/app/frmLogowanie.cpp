@@ -6,9 +6,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 
+namespace tornel::app {
+
 namespace {
 
-constexpr int kIkona = 6 * Wyglad::kSiatka;
+constexpr int kIkonaLogowania = 6 * Wyglad::kSiatka;
 
 PoleTekstu* pole(QGridLayout& siatka, int wiersz, const QString& nazwa, const QString& podpis) {
     auto* linia = new PoleTekstu;
@@ -32,7 +34,7 @@ frmLogowanie::frmLogowanie(QWidget* rodzic) : QDialog(rodzic) {
     siatka->setHorizontalSpacing(2 * Wyglad::kSiatka);
 
     auto* obraz = new QLabel;
-    obraz->setPixmap(Wyglad::ikona(u"program").pixmap(kIkona, kIkona));
+    obraz->setPixmap(Wyglad::ikona(u"program").pixmap(kIkonaLogowania, kIkonaLogowania));
     siatka->addWidget(obraz, 0, 0, 3, 1, Qt::AlignTop);
     siatka->addWidget(new QLabel(QStringLiteral("Wprowadź swoje hasło do programu")), 0, 1, 1, 2);
     txtUser_ = pole(*siatka, 1, QStringLiteral("txtUser"), QStringLiteral("Użytkownik:"));
@@ -59,3 +61,5 @@ bool frmLogowanie::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
     }
     return QDialog::eventFilter(obiekt, zdarzenie);
 }
+
+} // namespace tornel::app

@@ -1,8 +1,13 @@
 // The login: name and password, handed over as typed.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QDialog>
 
+namespace tornel::okna {
 class PoleTekstu;
+} // namespace tornel::okna
+
+namespace tornel::app {
 
 /// Accepted: somebody wants in, and the caller checks who. Rejected: no login.
 class frmLogowanie : public QDialog {
@@ -20,3 +25,5 @@ private:
     PoleTekstu* txtUser_;
     PoleTekstu* txtPass_;
 };
+
+} // namespace tornel::app

@@ -20,6 +20,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+namespace tornel::app {
+
 namespace {
 
 constexpr int kStalaUsunietegoHasla = 998;
@@ -276,3 +278,5 @@ bool frmMain::pozegnaj() {
 }
 
 void frmMain::closeEvent(QCloseEvent* zdarzenie) { zdarzenie->setAccepted(bezPytania_ || pozegnaj()); }
+
+} // namespace tornel::app

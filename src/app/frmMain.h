@@ -15,6 +15,8 @@ class QMenu;
 class QPushButton;
 class QToolButton;
 
+namespace tornel::app {
+
 class frmMain : public QMainWindow {
     Q_OBJECT
 public:
@@ -74,3 +76,5 @@ private:
     QLabel* labMiesiac_ = nullptr;
     bool bezPytania_ = false;
 };
+
+} // namespace tornel::app

@@ -3,8 +3,8 @@
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
 #include "bank/frmKonta.h"
-#include "payroll/frmNadg.h"
-#include "payroll/frmPlace.h"
+#include "payroll/miesiace/frmPlace.h"
+#include "payroll/nadgodziny/frmNadg.h"
 #include "personnel/frmDniWolne.h"
 #include "personnel/frmDniWolnePr.h"
 #include "personnel/frmMPRACY.h"
@@ -15,6 +15,8 @@
 #include "personnel/frmUS.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
+
+namespace tornel::app {
 
 namespace {
 
@@ -60,3 +62,5 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
         frmStaleProgramu(otoczenie, porty, &okno).exec();
     });
 }
+
+} // namespace tornel::app

@@ -2,7 +2,11 @@
 #pragma once
 #include "rules/Otoczenie.h"
 
+namespace tornel::app {
+
 class frmMain;
 
 /// Registers every screen that exists with its entry; the others stay closed.
 void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie);
+
+} // namespace tornel::app

@@ -3,6 +3,8 @@
 #include "okna/Wyglad.h"
 #include <QPainter>
 
+namespace tornel::app {
+
 namespace {
 
 constexpr QSize kRozmiar(480, 280);
@@ -27,3 +29,5 @@ void frmSplash::drawContents(QPainter* malarz) {
     malarz->setFont(pismo);
     malarz->drawText(pole, Qt::AlignLeft | Qt::AlignTop, Rozmowa::domyslnyTytul());
 }
+
+} // namespace tornel::app

@@ -1,6 +1,9 @@
 // The picture shown while the program starts.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QSplashScreen>
+
+namespace tornel::app {
 
 class frmSplash : public QSplashScreen {
     Q_OBJECT
@@ -10,3 +13,5 @@ public:
 protected:
     void drawContents(QPainter* malarz) override;
 };
+
+} // namespace tornel::app

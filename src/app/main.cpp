@@ -3,16 +3,17 @@
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
 #include "app/frmSplash.h"
-#include "app/Rozruch.h"
-#include "app/Uzytkownicy.h"
 #include "okna/Aplikacja.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/Wyglad.h"
+#include "start/Rozruch.h"
+#include "start/Uzytkownicy.h"
 #include <QDir>
 #include <QLibraryInfo>
 #include <QTranslator>
 
+namespace tornel::app {
 namespace {
 
 /// What the window program takes: switches behind slashes, and a database other than the one beside the
@@ -62,7 +63,7 @@ bool zaloguj(Sesja& sesja, Rozmowa& rozmowa) {
 
 } // namespace
 
-int main(int argc, char** argv) {
+static int Uruchom(int argc, char** argv) {
     Aplikacja aplikacja(argc, argv);
     wczytajTlumaczenieQt(aplikacja);
     Wyglad::zastosuj(aplikacja);
@@ -93,3 +94,7 @@ int main(int argc, char** argv) {
     okno.wczytaj();
     return Aplikacja::exec();
 }
+
+} // namespace tornel::app
+
+int main(int argc, char** argv) { return tornel::app::Uruchom(argc, argv); }

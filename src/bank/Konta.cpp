@@ -1,5 +1,7 @@
 #include "bank/Konta.h"
 
+namespace tornel::bank {
+
 const KartotekaDef& KontaBankowe() {
     static const KartotekaDef def{
         .uchwyt = &Sesja::rsKONTA,
@@ -8,3 +10,5 @@ const KartotekaDef& KontaBankowe() {
     };
     return def;
 }
+
+} // namespace tornel::bank

@@ -1,6 +1,8 @@
 #include "bank/frmKonta.h"
 #include "bank/Konta.h"
 
+namespace tornel::bank {
+
 using schemat::KONTA;
 
 namespace {
@@ -37,3 +39,5 @@ frmKonta::frmKonta(Otoczenie& otoczenie, QWidget* rodzic)
     : frmKartoteka(otoczenie, KontaBankowe(), opis(), {KONTA("skrot")}, rodzic) {
     Wczytaj();
 }
+
+} // namespace tornel::bank

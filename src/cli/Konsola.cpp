@@ -6,6 +6,8 @@
 #include <QFileDevice>
 #include <unistd.h>
 
+namespace tornel::cli {
+
 namespace {
 
 /// Options that every command takes.
@@ -177,3 +179,5 @@ int Konsola(const QStringList& argumenty, const QString& folderProgramu, QIODevi
     }
     return status::Odmowa;
 }
+
+} // namespace tornel::cli

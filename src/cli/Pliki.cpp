@@ -5,6 +5,8 @@
 #include <QSaveFile>
 #include <QStringConverter>
 
+namespace tornel::cli {
+
 namespace {
 
 QString przyczynaOdczytu(const QFileInfo& plik) {
@@ -44,3 +46,5 @@ void ZapiszPlik(const QString& sciezka, const QByteArray& tresc) {
         throw Blad(QStringLiteral("Nie można zapisać pliku „%1”: %2.")
                        .arg(sciezka, przyczynaZapisu(QFileInfo(sciezka))));
 }
+
+} // namespace tornel::cli

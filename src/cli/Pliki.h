@@ -1,7 +1,10 @@
 // The files that a command reads and writes besides the database.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QByteArray>
 #include <QString>
+
+namespace tornel::cli {
 
 /// The whole content. Throws `Blad` that names the file.
 [[nodiscard]] QByteArray CzytajPlik(const QString& sciezka);
@@ -9,3 +12,5 @@
 [[nodiscard]] QString CzytajTekst(const QString& sciezka);
 /// Replaces the file at once or leaves it as it was. Throws `Blad` that names the file.
 void ZapiszPlik(const QString& sciezka, const QByteArray& tresc);
+
+} // namespace tornel::cli

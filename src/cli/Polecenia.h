@@ -4,6 +4,8 @@
 #include <QList>
 #include <QStringView>
 
+namespace tornel::cli {
+
 /// An option of the command line, without its hyphens; `wartosc` is empty for a switch.
 struct OpcjaPolecenia {
     QStringView nazwa;
@@ -32,3 +34,5 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaMiesiecy();
 [[nodiscard]] QList<Polecenie> poleceniaListy();
 [[nodiscard]] QList<Polecenie> poleceniaNadgodzin();
+
+} // namespace tornel::cli

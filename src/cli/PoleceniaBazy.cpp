@@ -1,5 +1,7 @@
-#include "app/Przyklad.h"
 #include "cli/Polecenia.h"
+#include "start/Przyklad.h"
+
+namespace tornel::cli {
 
 namespace {
 
@@ -40,3 +42,5 @@ QList<Polecenie> poleceniaBazy() {
          przyklad},
     };
 }
+
+} // namespace tornel::cli

@@ -3,6 +3,8 @@
 #include "personnel/Pracownicy.h"
 #include <QJsonArray>
 
+namespace tornel::cli {
+
 namespace {
 
 int nowy(Wywolanie& w) {
@@ -53,3 +55,5 @@ QList<Polecenie> poleceniaKadr() {
         {u"pracownik usun", u"N", u"usuwa pracownika z kadr", 1, 1, {}, usun},
     };
 }
+
+} // namespace tornel::cli

@@ -1,12 +1,14 @@
 #include "cli/Polecenia.h"
 #include "common/Daty.h"
 #include "common/Liczby.h"
-#include "payroll/ListaPlac.h"
+#include "payroll/lista/ListaPlac.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
 #include "store/Sesja.h"
 #include <algorithm>
 #include <QJsonArray>
+
+namespace tornel::cli {
 
 using schemat::PLA;
 using schemat::PLACE;
@@ -260,3 +262,5 @@ QList<Polecenie> poleceniaListy() {
         {u"lista pokaz", u"RRRR-MM [--lista X]", u"wypisuje wiersze i sumy miesiąca", 1, 1, {symbol}, pokaz},
     };
 }
+
+} // namespace tornel::cli

@@ -2,6 +2,8 @@
 #include "common/Daty.h"
 #include <QJsonArray>
 
+namespace tornel::cli {
+
 namespace {
 
 int wynik(bool wykonane) { return wykonane ? status::Wykonane : status::Odmowa; }
@@ -55,3 +57,5 @@ QList<Polecenie> poleceniaMiesiecy() {
          blokada},
     };
 }
+
+} // namespace tornel::cli

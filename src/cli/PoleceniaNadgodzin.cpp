@@ -2,10 +2,12 @@
 #include "common/Daty.h"
 #include "common/Godziny.h"
 #include "common/Liczby.h"
-#include "payroll/ListaNadgodzin.h"
-#include "payroll/Nadgodziny.h"
+#include "payroll/nadgodziny/ListaNadgodzin.h"
+#include "payroll/nadgodziny/Nadgodziny.h"
 #include "personnel/Pracownicy.h"
 #include <QJsonArray>
+
+namespace tornel::cli {
 
 namespace {
 
@@ -241,3 +243,5 @@ QList<Polecenie> poleceniaNadgodzin() {
          pokaz},
     };
 }
+
+} // namespace tornel::cli

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <QJsonArray>
 
+namespace tornel::cli {
+
 using schemat::URL;
 using schemat::ZW;
 
@@ -305,3 +307,5 @@ QList<Polecenie> poleceniaNieobecnosci() {
          listaZwolnien},
     };
 }
+
+} // namespace tornel::cli

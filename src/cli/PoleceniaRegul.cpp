@@ -8,6 +8,8 @@
 #include <QJsonArray>
 #include <QRegularExpression>
 
+namespace tornel::cli {
+
 namespace {
 
 void ustawZmienna(ZmienneWzoru& zmienne, const QString& podana) {
@@ -114,3 +116,5 @@ QList<Polecenie> poleceniaRegul() {
         {u"stale", u"[NUM | NUM=WART]", u"wypisuje, podaje albo ustawia stałe programu", 0, 1, {}, stale},
     };
 }
+
+} // namespace tornel::cli

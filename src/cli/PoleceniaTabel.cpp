@@ -4,6 +4,8 @@
 #include "store/TabelaCsv.h"
 #include <QFileInfo>
 
+namespace tornel::cli {
+
 namespace {
 
 void wymagajOtwartegoMiesiaca(Sesja& sesja, const TabelaPliku& tabela) {
@@ -74,3 +76,5 @@ QList<Polecenie> poleceniaTabel() {
          eksportuj},
     };
 }
+
+} // namespace tornel::cli

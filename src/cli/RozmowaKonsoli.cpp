@@ -2,6 +2,8 @@
 #include "cli/Pliki.h"
 #include "common/Blad.h"
 
+namespace tornel::cli {
+
 namespace {
 
 /// The system's messages break their lines in each of the three ways.
@@ -94,3 +96,5 @@ std::optional<QString> RozmowaKonsoli::wprowadz(const QString& tekst, const QStr
 std::unique_ptr<Postep> RozmowaKonsoli::postep(const QString&, int ile) {
     return std::make_unique<PostepKonsoli>(terminal_ ? &bledy_ : nullptr, ile);
 }
+
+} // namespace tornel::cli

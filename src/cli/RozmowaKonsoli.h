@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+namespace tornel::cli {
+
 /// How the questions of one command are answered.
 class OdpowiedziKonsoli {
 public:
@@ -47,3 +49,5 @@ private:
     QIODevice& bledy_;
     bool terminal_;
 };
+
+} // namespace tornel::cli

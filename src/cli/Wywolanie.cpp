@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QRegularExpression>
 
+namespace tornel::cli {
+
 QString Argumenty::wartosc(const QString& opcja) const {
     const QStringList wartosci = opcje.value(opcja);
     return wartosci.isEmpty() ? QString() : wartosci.last();
@@ -83,3 +85,5 @@ QList<qint64> podaniPracownicy(const Wywolanie& w) {
 QString tekstMiesiaca(RokMies miesiac) {
     return FormatRoku(miesiac.rok) + QLatin1Char('-') + FormatMiesiaca(miesiac.mies);
 }
+
+} // namespace tornel::cli

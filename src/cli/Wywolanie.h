@@ -1,8 +1,8 @@
 // One command at work: what was typed, where its output goes, and the database once it is needed.
 #pragma once
-#include "app/Rozruch.h"
 #include "common/Blad.h"
-#include "payroll/Miesiace.h"
+#include "payroll/miesiace/Miesiace.h"
+#include "start/Rozruch.h"
 #include <memory>
 #include <QHash>
 #include <QJsonObject>
@@ -10,6 +10,8 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+namespace tornel::cli {
 
 /// Wrong usage: what was wrong with the command line.
 class ZleUzycie : public std::exception {
@@ -80,3 +82,5 @@ private:
 [[nodiscard]] QList<qint64> podaniPracownicy(const Wywolanie& w);
 /// "2001-03", the way months are typed.
 [[nodiscard]] QString tekstMiesiaca(RokMies miesiac);
+
+} // namespace tornel::cli

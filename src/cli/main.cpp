@@ -11,6 +11,6 @@ int main(int argc, char** argv) {
     if (!wyjscie.open(stdout, QIODevice::WriteOnly) ||
         !bledy.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
         return 1;
-    return Konsola(QCoreApplication::arguments().mid(1), QCoreApplication::applicationDirPath(), wyjscie,
-                   bledy);
+    return tornel::cli::Konsola(QCoreApplication::arguments().mid(1), QCoreApplication::applicationDirPath(),
+                                wyjscie, bledy);
 }

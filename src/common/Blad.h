@@ -1,7 +1,10 @@
 // The one family of failures that nobody expected: what was being done, to what, and why it failed.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <exception>
 #include <QString>
+
+namespace tornel::common {
 
 /// A failure of one action. The outermost handler rolls the action back and shows `komunikat()`.
 class Blad : public std::exception {
@@ -45,3 +48,5 @@ private:
     QString powod_;
     QByteArray utf8_;
 };
+
+} // namespace tornel::common

@@ -2,6 +2,8 @@
 #include "common/Blad.h"
 #include <QStringConverter>
 
+namespace tornel::common {
+
 namespace {
 
 constexpr QChar kCudzyslow(u'"');
@@ -106,3 +108,5 @@ QString PoleCsv(const QString& tekst) {
         return tekst;
     return kCudzyslow + QString(tekst).replace(kCudzyslow, QStringLiteral("\"\"")) + kCudzyslow;
 }
+
+} // namespace tornel::common

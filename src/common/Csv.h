@@ -1,9 +1,12 @@
 // CSV text: semicolons between fields, quotes around those that need them, UTF-8.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+namespace tornel::common {
 
 /// One row, with the number of the line on which it begins, from 1.
 struct WierszCsv {
@@ -19,3 +22,5 @@ struct WierszCsv {
 /// A field as it stands in CSV: in quotes if it holds a semicolon, a quote or a line break, or begins or ends
 /// with a blank.
 [[nodiscard]] QString PoleCsv(const QString& tekst);
+
+} // namespace tornel::common

@@ -3,6 +3,8 @@
 #include <array>
 #include <QStringView>
 
+namespace tornel::common {
+
 namespace {
 
 /// Years below this were never dates here: a year typed with two digits is a slip.
@@ -95,3 +97,5 @@ QString MaskaDaty(const QString& tekst) {
 QString SprawdzDate(const QString& tekst) {
     return tekst.size() >= 10 && zPozycji(tekst) ? tekst.left(10) : QString();
 }
+
+} // namespace tornel::common

@@ -1,8 +1,11 @@
 // Months, weekdays and dates typed or shown as text, free of the machine's locale.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <optional>
 #include <QDate>
 #include <QString>
+
+namespace tornel::common {
 
 /// Days of the month, 28 to 31; 0 for a month outside 1 to 12.
 [[nodiscard]] int DniWMiesiacu(int rok, int mies);
@@ -36,3 +39,5 @@
 /// The text of a date field on leaving: its first ten characters if characters 1-2, 4-5 and 7-10 are day,
 /// month and year of a date, otherwise empty.
 [[nodiscard]] QString SprawdzDate(const QString& tekst);
+
+} // namespace tornel::common

@@ -1,6 +1,8 @@
 #include "common/Godziny.h"
 #include "common/Liczby.h"
 
+namespace tornel::common {
+
 QString FormatGodzin(Waluta godziny) {
     const bool ujemne = godziny < Waluta{};
     const auto bezwzgledne = (ujemne ? -godziny : godziny).surowa();
@@ -16,3 +18,5 @@ std::optional<Waluta> CzytajGodziny(const QString& tekst, Waluta najwiecej) {
     if (!godziny || *godziny < Waluta{} || *godziny > najwiecej || godziny->surowa() % 100 != 0) return {};
     return godziny;
 }
+
+} // namespace tornel::common

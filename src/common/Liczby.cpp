@@ -4,9 +4,11 @@
 #include <limits>
 #include <QStringView>
 
+namespace tornel::common {
+
 namespace {
 
-bool cyfra(QChar znak) { return znak >= QLatin1Char('0') && znak <= QLatin1Char('9'); }
+bool jestCyfra(QChar znak) { return znak >= QLatin1Char('0') && znak <= QLatin1Char('9'); }
 
 /// Takes an optional sign off the front; true for a minus.
 bool zdejmijZnak(QStringView& t) {
@@ -18,7 +20,7 @@ bool zdejmijZnak(QStringView& t) {
 
 /// Takes the leading digits off the front.
 QByteArray zdejmijCyfry(QStringView& t) {
-    const auto koniec = std::find_if_not(t.begin(), t.end(), cyfra);
+    const auto koniec = std::find_if_not(t.begin(), t.end(), jestCyfra);
     const QByteArray cyfry = t.left(koniec - t.begin()).toLatin1();
     t = t.mid(koniec - t.begin());
     return cyfry;
@@ -43,7 +45,7 @@ bool zaokraglaWGore(const QByteArray& cyfry, qsizetype od, bool nieparzysta) {
     return std::any_of(cyfry.begin() + od + 1, cyfry.end(), [](char c) { return c != '0'; });
 }
 
-[[noreturn]] void pozaZakresem() {
+[[noreturn]] void liczbaPozaZakresem() {
     throw Przepelnienie(QStringLiteral("Liczba przekracza zakres kwot programu."));
 }
 
@@ -56,7 +58,7 @@ Waluta LiczbaDziesietna::naKwote() const {
     const qint64 zostaje = znaczace.size() + wykladnik + 4;
     if (znaczace.isEmpty() || zostaje < 0) return {};
     constexpr qint64 najwiecejCyfr = std::numeric_limits<qint64>::digits10 + 1;
-    if (zostaje > najwiecejCyfr) pozaZakresem();
+    if (zostaje > najwiecejCyfr) liczbaPozaZakresem();
 
     quint64 surowa = 0;
     for (qsizetype i = 0; i < zostaje; ++i)
@@ -64,7 +66,7 @@ Waluta LiczbaDziesietna::naKwote() const {
     if (zaokraglaWGore(znaczace, static_cast<qsizetype>(zostaje), surowa % 2 != 0)) ++surowa;
 
     constexpr quint64 najwieksza = std::numeric_limits<qint64>::max();
-    if (surowa > najwieksza + (ujemna ? 1 : 0)) pozaZakresem();
+    if (surowa > najwieksza + (ujemna ? 1 : 0)) liczbaPozaZakresem();
     return Waluta::zSurowej(static_cast<qint64>(ujemna ? quint64{0} - surowa : surowa));
 }
 
@@ -119,3 +121,5 @@ qint64 LiczbaAlboZero(const QString& tekst, qint64 min, qint64 max) {
 }
 
 QString FormatNumeru(qint64 numer) { return QStringLiteral("%1").arg(numer, 3, 10, QLatin1Char('0')); }
+
+} // namespace tornel::common

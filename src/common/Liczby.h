@@ -5,6 +5,8 @@
 #include <optional>
 #include <QString>
 
+namespace tornel::common {
+
 /// How a decimal number may be written.
 enum class Zapis {
     Pole, ///< a field: a comma or a dot as the decimal mark
@@ -39,3 +41,5 @@ struct LiczbaDziesietna {
 
 /// "000".
 [[nodiscard]] QString FormatNumeru(qint64 numer);
+
+} // namespace tornel::common

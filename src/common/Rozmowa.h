@@ -1,9 +1,12 @@
 // The user's side as a port: what logic tells and asks, without knowing whether a window, a console or a test
 // script answers.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <memory>
 #include <optional>
 #include <QString>
+
+namespace tornel::common {
 
 enum class Styl { Informacja, Wykrzyknik, Krytyczny };
 
@@ -51,3 +54,5 @@ public:
 private:
     std::optional<bool> odpowiedz_;
 };
+
+} // namespace tornel::common

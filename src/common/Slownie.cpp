@@ -2,6 +2,8 @@
 #include <array>
 #include <QStringList>
 
+namespace tornel::common {
+
 namespace {
 
 using Cyfry = std::array<QString, 9>;
@@ -119,3 +121,5 @@ QString SlownieKwota(Waluta kwota) {
     slowa += slowoGroszy(grosze / 10, grosze % 10);
     return slowa.join(QLatin1Char(' '));
 }
+
+} // namespace tornel::common

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <limits>
 
+namespace tornel::common {
+
 namespace {
 
 __extension__ using Szeroka = __int128;
@@ -119,3 +121,5 @@ QString TekstKwoty(Waluta kwota) {
     }
     return ujemna ? QLatin1Char('-') + tekst : tekst;
 }
+
+} // namespace tornel::common

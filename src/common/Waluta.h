@@ -1,11 +1,14 @@
 // Money: a whole number of 1/10000 zł, and every rounding that the payroll knows.
 #pragma once
+#include "common/Przestrzenie.h"
 // First, since moc cannot read the concepts that <compare> brings where Qt's own headers have not been
 // before.
 #include <QString>
 
 #include <compare>
 #include <cstdint>
+
+namespace tornel::common {
 
 /// An amount in zł (or a percentage) with exactly four decimal places. Addition, subtraction and comparison
 /// are exact; an overflow throws `Przepelnienie`. There is no conversion from double without a named
@@ -63,3 +66,5 @@ private:
 [[nodiscard]] QString FormatKwoty(Waluta kwota);
 /// The shortest exact form with a decimal comma: "1505,2", "-3", "0,0001".
 [[nodiscard]] QString TekstKwoty(Waluta kwota);
+
+} // namespace tornel::common

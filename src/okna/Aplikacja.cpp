@@ -2,6 +2,8 @@
 #include "common/Blad.h"
 #include <new>
 
+namespace tornel::okna {
+
 Aplikacja::Aplikacja(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Tornel"));
     setApplicationVersion(QStringLiteral(TORNEL_WERSJA));
@@ -39,3 +41,5 @@ void Aplikacja::napraw(const QString& komunikat) {
     wNaprawie_ = false;
     emit danePrzeczytane();
 }
+
+} // namespace tornel::okna

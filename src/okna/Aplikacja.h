@@ -1,8 +1,11 @@
 // The outermost handler of the window program: a failure in any action is shown and undone, and the clerk
 // goes on.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <functional>
 #include <QApplication>
+
+namespace tornel::okna {
 
 class Aplikacja : public QApplication {
     Q_OBJECT
@@ -27,3 +30,5 @@ private:
     Naprawa naprawa_;
     bool wNaprawie_ = false;
 };
+
+} // namespace tornel::okna

@@ -1,6 +1,9 @@
 // The hourglass pointer for as long as a piece of work lasts.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QApplication>
+
+namespace tornel::okna {
 
 class Klepsydra {
 public:
@@ -9,3 +12,5 @@ public:
     Klepsydra(const Klepsydra&) = delete;
     Klepsydra& operator=(const Klepsydra&) = delete;
 };
+
+} // namespace tornel::okna

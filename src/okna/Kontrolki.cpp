@@ -7,6 +7,8 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
+namespace tornel::okna {
+
 namespace {
 
 /// Texts up to this length have a field of their own width; longer ones share the room that is left.
@@ -137,3 +139,5 @@ void wypelnijWybor(QWidget& kontrolka, const Pole& pole) {
     for (const Pozycja& p : pole.pozycje) lista->addItem(p.opis, tekstWartosci(pole, p.wartosc));
     wpiszDoKontrolki(kontrolka, bylo);
 }
+
+} // namespace tornel::okna

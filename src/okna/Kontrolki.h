@@ -4,6 +4,8 @@
 
 class QWidget;
 
+namespace tornel::okna {
+
 /// The control of the field's kind, with name, length, width and look set. The caller owns it.
 [[nodiscard]] QWidget* zbudujKontrolke(const Pole& pole);
 /// What stands in the control; null for a widget that no `zbudujKontrolke` made or that is being destroyed.
@@ -13,3 +15,5 @@ class QWidget;
 void wpiszDoKontrolki(QWidget& kontrolka, const QString& tekst);
 /// Fills a choice anew; what it holds stays, if only as a text.
 void wypelnijWybor(QWidget& kontrolka, const Pole& pole);
+
+} // namespace tornel::okna

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+namespace tornel::okna {
+
 namespace {
 
 constexpr int kSzerokosc = 30 * Wyglad::kSiatka;
@@ -47,3 +49,5 @@ bool LinieDialogu::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
     }
     return QWidget::eventFilter(obiekt, zdarzenie);
 }
+
+} // namespace tornel::okna

@@ -1,7 +1,10 @@
 // Captioned lines of text one below the other, as short dialogs have them.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QList>
 #include <QWidget>
+
+namespace tornel::okna {
 
 class PoleTekstu;
 class SiatkaPol;
@@ -23,3 +26,5 @@ private:
     SiatkaPol* siatka_;
     QList<PoleTekstu*> linie_;
 };
+
+} // namespace tornel::okna

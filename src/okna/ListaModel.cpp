@@ -3,6 +3,8 @@
 #include <QFont>
 #include <QPalette>
 
+namespace tornel::okna {
+
 namespace {
 
 /// How a row with a note differs from the others.
@@ -78,3 +80,5 @@ QVariant ListaModel::headerData(int sekcja, Qt::Orientation kierunek, int rola) 
         return QVariant::fromValue(kolumny_.at(sekcja).wyrownanie | Qt::AlignVCenter);
     return {};
 }
+
+} // namespace tornel::okna

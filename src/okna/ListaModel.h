@@ -1,9 +1,12 @@
 // Plain rows of text for the lists of all screens.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QAbstractTableModel>
 #include <QHash>
 #include <QList>
 #include <QStringList>
+
+namespace tornel::okna {
 
 struct KolumnaListy {
     QString naglowek;
@@ -42,3 +45,5 @@ private:
     QList<WierszListy> wiersze_;
     QHash<qint64, int> poId_;
 };
+
+} // namespace tornel::okna

@@ -5,6 +5,8 @@
 #include <limits>
 #include <utility>
 
+namespace tornel::okna {
+
 namespace {
 
 /// Enough for every amount in the range of money, sign and decimals included.
@@ -132,3 +134,5 @@ QString nazwaDostepna(const QString& podpis) {
     if (nazwa.endsWith(QLatin1Char(':'))) nazwa.chop(1);
     return nazwa.trimmed();
 }
+
+} // namespace tornel::okna

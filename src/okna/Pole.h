@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+namespace tornel::okna {
+
 enum class Rodzaj {
     Tekst,   ///< one line, as long as the column at most
     Notatka, ///< several lines
@@ -55,3 +57,5 @@ struct Pole {
 [[nodiscard]] Wartosc wartoscTekstu(const Pole& pole, const QString& tekst);
 /// Caption without mnemonic and colon, as a screen reader says it.
 [[nodiscard]] QString nazwaDostepna(const QString& podpis);
+
+} // namespace tornel::okna

@@ -4,6 +4,8 @@
 #include <QFormLayout>
 #include <QSpinBox>
 
+namespace tornel::okna {
+
 PoleMiesiaca::PoleMiesiaca(QDate wstepna, QWidget* rodzic)
     : QWidget(rodzic), cboMies_(new QComboBox), spnRok_(new QSpinBox) {
     auto* formularz = new QFormLayout(this);
@@ -25,3 +27,5 @@ PoleMiesiaca::PoleMiesiaca(QDate wstepna, QWidget* rodzic)
 QDate PoleMiesiaca::pierwszyDzien() const {
     return PierwszyDzien(spnRok_->value(), cboMies_->currentIndex() + 1);
 }
+
+} // namespace tornel::okna

@@ -1,10 +1,13 @@
 // The two fields that choose a month: its name and its year.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QDate>
 #include <QWidget>
 
 class QComboBox;
 class QSpinBox;
+
+namespace tornel::okna {
 
 class PoleMiesiaca : public QWidget {
     Q_OBJECT
@@ -21,3 +24,5 @@ private:
     QComboBox* cboMies_;
     QSpinBox* spnRok_;
 };
+
+} // namespace tornel::okna

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+namespace tornel::okna {
+
 namespace {
 
 QString bezZer(const QString& numer) {
@@ -85,3 +87,5 @@ void PoleSzukania::szukaj(const QString& tekst) {
     setFont(pismo);
     if (wiersz >= 0) lista_.wybierz(lista_.lista().id(wiersz));
 }
+
+} // namespace tornel::okna

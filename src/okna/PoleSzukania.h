@@ -1,6 +1,9 @@
 // Quick find over a list of people: typing goes to the first row whose number or surname fits.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QLineEdit>
+
+namespace tornel::okna {
 
 class WidokListy;
 
@@ -27,3 +30,5 @@ private:
     int kolumnaNumeru_;
     int kolumnaNazwiska_;
 };
+
+} // namespace tornel::okna

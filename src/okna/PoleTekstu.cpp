@@ -4,6 +4,8 @@
 #include <QFocusEvent>
 #include <utility>
 
+namespace tornel::okna {
+
 namespace {
 
 constexpr int kDlugoscDaty = 10;
@@ -80,3 +82,5 @@ void PoleDaty::maskuj(const QString& wpisany) {
     setText(nowy);
     setCursorPosition(dopisano ? static_cast<int>(nowy.size()) : kursor);
 }
+
+} // namespace tornel::okna

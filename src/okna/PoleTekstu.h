@@ -1,6 +1,9 @@
 // The text and date fields of every screen: entering one selects its text, a date puts its own dashes.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QLineEdit>
+
+namespace tornel::okna {
 
 /// Puts the caret at 0 and selects the whole text.
 void ZaznaczTekst(QLineEdit& pole);
@@ -38,3 +41,5 @@ private:
     void maskuj(const QString& wpisany);
     qsizetype poprzednia_ = 0;
 };
+
+} // namespace tornel::okna

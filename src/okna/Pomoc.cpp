@@ -10,6 +10,8 @@
 #include <QStringDecoder>
 #include <QTabWidget>
 
+namespace tornel::okna {
+
 namespace {
 
 const QString kSpis = QStringLiteral("spis");
@@ -152,3 +154,5 @@ bool Pomoc::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
         return false;
     }
 }
+
+} // namespace tornel::okna

@@ -1,12 +1,19 @@
 // F1: the page of the handbook that tells of the screen in work.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QObject>
 #include <QPointer>
 #include <QSize>
 
-class frmPomoc;
 class QWidget;
+
+namespace tornel::common {
 class Rozmowa;
+} // namespace tornel::common
+
+namespace tornel::okna {
+
+class frmPomoc;
 
 /// Answers F1 and the "Pomoc" buttons (`QEvent::WhatsThis`) of every window. A page bears the objectName of
 /// its screen; a section for one of the screen's tabs has the tab's caption behind it, in small letters
@@ -39,3 +46,5 @@ private:
     QSize rozmiar_;           ///< what the clerk last made of it; empty before that
     bool wKomunikacie_ = false;
 };
+
+} // namespace tornel::okna

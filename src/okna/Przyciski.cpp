@@ -6,6 +6,8 @@
 #include <QHelpEvent>
 #include <QPushButton>
 
+namespace tornel::okna {
+
 QPushButton* przycisk(const QString& nazwa, const QString& napis, QStringView ikona) {
     auto* nowy = new QPushButton(Wyglad::ikona(ikona), napis);
     nowy->setObjectName(nazwa);
@@ -43,3 +45,5 @@ QWidget* przyciskiOkAnuluj(QDialog& okno, const QString& ok) {
     cmdOK->setDefault(true);
     return rzad;
 }
+
+} // namespace tornel::okna

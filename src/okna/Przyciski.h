@@ -1,5 +1,6 @@
 // Rows of buttons at the bottom right of screens and dialogs.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QList>
 #include <QString>
 #include <QStringView>
@@ -7,6 +8,8 @@
 class QDialog;
 class QPushButton;
 class QWidget;
+
+namespace tornel::okna {
 
 /// A button with its name and caption (mnemonic included), and a picture if `ikona` names one.
 [[nodiscard]] QPushButton* przycisk(const QString& nazwa, const QString& napis, QStringView ikona = {});
@@ -21,3 +24,5 @@ class QWidget;
 /// `cmdOK` with the caption `ok`, the default button, which accepts the dialog, and `cmdAnuluj` "&Anuluj",
 /// which rejects it as Escape does.
 [[nodiscard]] QWidget* przyciskiOkAnuluj(QDialog& okno, const QString& ok);
+
+} // namespace tornel::okna

@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+namespace tornel::okna {
+
 namespace {
 
 constexpr int kPoIluPokazac = 400;  // ms
@@ -152,3 +154,5 @@ std::optional<QString> RozmowaOkien::wprowadz(const QString& tekst, const QStrin
 std::unique_ptr<Postep> RozmowaOkien::postep(const QString& tytul, int ile) {
     return std::make_unique<PostepOkna>(nadCzym(), tytul, ile);
 }
+
+} // namespace tornel::okna

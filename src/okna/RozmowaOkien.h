@@ -6,6 +6,8 @@
 
 class QWidget;
 
+namespace tornel::okna {
+
 class RozmowaOkien : public Rozmowa {
 public:
     /// `rodzic`: the window over which boxes open while no other box or screen is modal; may give null.
@@ -24,3 +26,5 @@ private:
     [[nodiscard]] QWidget* nadCzym() const;
     std::function<QWidget*()> rodzic_;
 };
+
+} // namespace tornel::okna

@@ -5,6 +5,8 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 
+namespace tornel::okna {
+
 namespace {
 
 /// Grid columns of one column of fields: caption, field, gap.
@@ -105,3 +107,5 @@ void wyrownajPodpisy(const QList<QGroupBox*>& ramki, int najszersze) {
         for (SiatkaPol* siatka : std::as_const(zPodpisami)) siatka->ustawSzerokoscPodpisow(k, szerokosc);
     }
 }
+
+} // namespace tornel::okna

@@ -1,5 +1,6 @@
 // Captioned fields in aligned columns, filled downwards; hidden ones leave no gap.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QLabel>
 #include <QList>
 #include <QWidget>
@@ -8,6 +9,8 @@
 class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
+
+namespace tornel::okna {
 
 /// Where a field without a caption of its own begins: below the other fields, or below their captions.
 enum class BezPodpisu { PodPolami, PodPodpisami };
@@ -52,3 +55,5 @@ private:
 /// Gives the captions of the grids in the frames one width, column by column, so that the fields of all the
 /// frames stand below each other. Captions wider than `najszersze` are broken into lines.
 void wyrownajPodpisy(const QList<QGroupBox*>& ramki, int najszersze = QWIDGETSIZE_MAX);
+
+} // namespace tornel::okna

@@ -14,6 +14,8 @@
 #include <QVBoxLayout>
 #include <stdexcept>
 
+namespace tornel::okna {
+
 namespace {
 
 /// The value in the form that the column's type stores.
@@ -279,3 +281,5 @@ void Wiazanie::pokaz(const QHash<QString, bool>& widoczne) {
     }
     for (SiatkaPol* siatka : naruszone) siatka->uloz();
 }
+
+} // namespace tornel::okna

@@ -12,7 +12,12 @@
 class QGroupBox;
 class QLabel;
 class QWidget;
+
+namespace tornel::store {
 class Recordset;
+} // namespace tornel::store
+
+namespace tornel::okna {
 
 /// Where the values of the fields come from and go to.
 class ZrodloPol {
@@ -123,3 +128,5 @@ private:
     QHash<QObject*, Kontrolka*> poWidzecie_;
     Kontrolka* wPracy_ = nullptr; ///< has the focus and may hold a text that is not yet in order
 };
+
+} // namespace tornel::okna

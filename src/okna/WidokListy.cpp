@@ -6,6 +6,8 @@
 #include <QMetaMethod>
 #include <QPainter>
 
+namespace tornel::okna {
+
 WidokListy::WidokListy(QList<KolumnaListy> kolumny, QList<int> udzialy, QWidget* rodzic)
     : QTreeView(rodzic), model_(std::move(kolumny)), udzialy_(std::move(udzialy)) {
     setModel(&model_);
@@ -90,3 +92,5 @@ void WidokListy::paintEvent(QPaintEvent* zdarzenie) {
     malarz.drawText(viewport()->rect().adjusted(brzeg, brzeg, -brzeg, -brzeg),
                     static_cast<int>(Qt::AlignHCenter | Qt::AlignTop) | Qt::TextWordWrap, podpowiedz_);
 }
+
+} // namespace tornel::okna

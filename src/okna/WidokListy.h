@@ -4,6 +4,8 @@
 #include "okna/ListaModel.h"
 #include <QTreeView>
 
+namespace tornel::okna {
+
 class WidokListy : public QTreeView {
     Q_OBJECT
 public:
@@ -40,3 +42,5 @@ private:
     QList<int> udzialy_;
     QString podpowiedz_;
 };
+
+} // namespace tornel::okna

@@ -19,6 +19,8 @@
 // in a namespace.
 static void zapewnijObrazy() { Q_INIT_RESOURCE(obrazy); }
 
+namespace tornel::okna {
+
 namespace {
 
 constexpr int kRozmiarPisma = 10;
@@ -285,3 +287,5 @@ void ustawBaner(QLabel& baner, const QString& tekst) {
 }
 
 } // namespace Wyglad
+
+} // namespace tornel::okna

@@ -1,5 +1,6 @@
 // The one look of the program: style, palette, style sheet, the 8 px grid and the pictures.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QColor>
 #include <QIcon>
 #include <QStringView>
@@ -9,6 +10,8 @@ class QApplication;
 class QLabel;
 class QString;
 class QWidget;
+
+namespace tornel::okna {
 
 namespace Wyglad {
 
@@ -50,3 +53,5 @@ void oznaczKoniecTygodnia(QWidget& nazwa, bool koniec);
 void ustawBaner(QLabel& baner, const QString& tekst);
 
 } // namespace Wyglad
+
+} // namespace tornel::okna

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace tornel::okna {
+
 frmInputData::frmInputData(Tryb tryb, const QString& tytul, QDate wstepna, QWidget* rodzic)
     : QDialog(rodzic), tryb_(tryb) {
     setObjectName(QStringLiteral("frmInputData"));
@@ -50,3 +52,5 @@ void frmInputData::accept() {
     }
     QDialog::accept();
 }
+
+} // namespace tornel::okna

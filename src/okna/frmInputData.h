@@ -1,7 +1,10 @@
 // Asks for a month or for a day.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QDate>
 #include <QDialog>
+
+namespace tornel::okna {
 
 class PoleDaty;
 class PoleMiesiaca;
@@ -28,3 +31,5 @@ private:
     PoleMiesiaca* miesiac_ = nullptr;
     PoleDaty* dtData_ = nullptr;
 };
+
+} // namespace tornel::okna

@@ -17,6 +17,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+namespace tornel::okna {
+
 namespace {
 
 constexpr int kSzerokoscListy = 38 * Wyglad::kSiatka;
@@ -25,9 +27,9 @@ constexpr int kNajmniejszaWysokosc = 50 * Wyglad::kSiatka;
 
 } // namespace
 
-frmListaPol::frmListaPol(Otoczenie& otoczenie, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
+frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
                          QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), zrodlo_(std::move(zrodlo)), wiazanie_(*zrodlo_),
+    : QDialog(rodzic), rozmowa_(rozmowa), zrodlo_(std::move(zrodlo)), wiazanie_(*zrodlo_),
       lvwLista_(new WidokListy(opis.kolumny, opis.udzialy)), labZmiana_(new QLabel),
       cmdNowy_(przycisk(QStringLiteral("cmdNowy"), opis.nowy, u"nowy")),
       cmdUsun_(przycisk(QStringLiteral("cmdUsun"), opis.usun, u"usun")),
@@ -253,8 +255,8 @@ void frmListaPol::done(int wynik) {
     try {
         if (!Wpisz()) return;
     } catch (const Blad& blad) {
-        if (!o_.rozmowa.pytanie(blad.komunikat() +
-                                QStringLiteral("\r\n\r\nCzy zamknąć okno bez zapisania zmian ?")))
+        if (!rozmowa_.pytanie(blad.komunikat() +
+                              QStringLiteral("\r\n\r\nCzy zamknąć okno bez zapisania zmian ?")))
             return;
     }
     QDialog::done(wynik);
@@ -275,3 +277,5 @@ void frmListaPol::keyPressEvent(QKeyEvent* zdarzenie) {
     else
         focusNextChild();
 }
+
+} // namespace tornel::okna

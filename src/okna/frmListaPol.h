@@ -1,16 +1,19 @@
 // A list at the left and the chosen row's fields at the right: what all such screens do alike.
 #pragma once
+#include "common/Rozmowa.h"
 #include "okna/ListaModel.h"
 #include "okna/Wiazanie.h"
-#include "rules/Otoczenie.h"
 #include <memory>
 #include <optional>
 #include <QDialog>
 
-class PoleSzukania;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
+
+namespace tornel::okna {
+
+class PoleSzukania;
 class WidokListy;
 
 /// Fields in one titled frame.
@@ -52,7 +55,7 @@ public:
     void done(int wynik) override;
 
 protected:
-    frmListaPol(Otoczenie& otoczenie, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
+    frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
                 QWidget* rodzic);
 
     /// The rows in the order shown.
@@ -79,7 +82,7 @@ protected:
     bool Wpisz();
     [[nodiscard]] qint64 biezacy() const { return biezacy_; }
     [[nodiscard]] Wiazanie& wiazanie() { return wiazanie_; }
-    [[nodiscard]] Otoczenie& otoczenie() { return o_; }
+    [[nodiscard]] Rozmowa& rozmowa() { return rozmowa_; }
     /// Puts a widget below the frames of the fields.
     void dodaj(QWidget* widzet);
 
@@ -100,7 +103,7 @@ private:
     void nowy();
     void usun();
 
-    Otoczenie& o_;
+    Rozmowa& rozmowa_;
     std::unique_ptr<ZrodloPol> zrodlo_;
     Wiazanie wiazanie_;
     QStringList pola_; ///< names of the fields that can be typed into
@@ -111,3 +114,5 @@ private:
     QLabel* labZmiana_;
     QPushButton *cmdNowy_, *cmdUsun_, *cmdAnuluj_;
 };
+
+} // namespace tornel::okna

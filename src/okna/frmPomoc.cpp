@@ -16,6 +16,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+namespace tornel::okna {
+
 namespace {
 
 constexpr QSize kRozmiar{128 * Wyglad::kSiatka, 88 * Wyglad::kSiatka};
@@ -226,3 +228,5 @@ void frmPomoc::szukaj(QTextDocument::FindFlags kierunek) {
     txtPomoc_->setTextCursor(przedtem);
     txtPomoc_->verticalScrollBar()->setValue(wysokosc);
 }
+
+} // namespace tornel::okna

@@ -1,5 +1,6 @@
 // The handbook: its contents at the left, its text with search at the right.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QDialog>
 #include <QHash>
 #include <QTextDocument>
@@ -10,6 +11,8 @@ class QPushButton;
 class QTextBrowser;
 class QTreeWidget;
 class QTreeWidgetItem;
+
+namespace tornel::okna {
 
 /// Never modal: the screen below it stays in work. Keys: Ctrl+F finds, Enter or F3 the next place, Shift+F3
 /// the one before, Alt+Left and Alt+Right go through the pages read, Escape closes.
@@ -46,3 +49,5 @@ private:
     QHash<QString, QTreeWidgetItem*> tematy_;
     QList<QTreeWidgetItem*> poKolei_; ///< in the order of the text
 };
+
+} // namespace tornel::okna

@@ -1,6 +1,8 @@
 #include "personnel/DniKalendarza.h"
 #include "store/Recordset.h"
 
+namespace tornel::personnel {
+
 using schemat::DzienKalendarza;
 using schemat::KALENDARZ;
 
@@ -37,3 +39,5 @@ int DniKalendarza::ile(Znak znak, int od, int dokad) const {
     for (int d = std::max(od, 1); d <= std::min(dokad, 31); ++d) wynik += (*this)[d] == znak;
     return wynik;
 }
+
+} // namespace tornel::personnel

@@ -4,7 +4,11 @@
 #include "store/Schemat.h"
 #include <array>
 
+namespace tornel::store {
 class Recordset;
+} // namespace tornel::store
+
+namespace tornel::personnel {
 
 class DniKalendarza {
 public:
@@ -28,3 +32,5 @@ public:
 private:
     std::array<Znak, 31> dni_{};
 };
+
+} // namespace tornel::personnel

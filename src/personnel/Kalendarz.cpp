@@ -6,6 +6,8 @@
 #include "store/Sesja.h"
 #include <algorithm>
 
+namespace tornel::personnel {
+
 using schemat::DzienKalendarza;
 using schemat::KALENDARZ;
 using schemat::OpisKalendarza;
@@ -240,3 +242,5 @@ std::optional<WynikTransportu> Kalendarz::Transp(int rok, int mies, const QList<
                          Styl::Informacja);
     return wynik;
 }
+
+} // namespace tornel::personnel

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+namespace tornel::personnel {
+
 /// Stands for the general calendar where an employee's number would stand.
 inline constexpr qint64 kKalendarzOgolny = 0;
 
@@ -91,3 +93,5 @@ private:
 
     Otoczenie& o_;
 };
+
+} // namespace tornel::personnel

@@ -6,6 +6,8 @@
 #include <span>
 #include <stdexcept>
 
+namespace tornel::personnel {
+
 using schemat::PRACDP;
 using schemat::PRACSK;
 
@@ -222,3 +224,5 @@ KartotekaPracownika::Slownik KartotekaPracownika::urzedy() const {
 KartotekaPracownika::Slownik KartotekaPracownika::miejscaPracy() const {
     return slownik(o_.sesja, o_.sesja.rsM_PRACY, schemat::M_PRACY("MP_ID"), schemat::M_PRACY("Nazwa"));
 }
+
+} // namespace tornel::personnel

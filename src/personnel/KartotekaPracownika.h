@@ -11,7 +11,11 @@
 #include <QString>
 #include <utility>
 
+namespace tornel::store {
 class Recordset;
+} // namespace tornel::store
+
+namespace tornel::personnel {
 
 /// The addresses into which that of registration may be copied.
 enum class AdresKopii { Zamieszkania, Korespondencji };
@@ -88,3 +92,5 @@ private:
     std::optional<qint64> prcId_;
     std::map<Klucz, Zmiana> dziennik_;
 };
+
+} // namespace tornel::personnel

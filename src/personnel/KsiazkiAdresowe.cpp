@@ -1,5 +1,7 @@
 #include "personnel/KsiazkiAdresowe.h"
 
+namespace tornel::personnel {
+
 namespace {
 
 constexpr UzycieNumeru kUzyciaUrzedu[] = {
@@ -38,3 +40,5 @@ const KartotekaDef& MiejscaPracy() {
     };
     return def;
 }
+
+} // namespace tornel::personnel

@@ -9,6 +9,8 @@
 #include <limits>
 #include <QCollator>
 
+namespace tornel::personnel {
+
 using schemat::PRACDP;
 using schemat::PRACINF;
 using schemat::PRACPR;
@@ -236,3 +238,5 @@ bool Pracownicy::UsunPracownika(qint64 prcId) {
     transakcja.zatwierdz();
     return true;
 }
+
+} // namespace tornel::personnel

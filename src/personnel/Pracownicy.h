@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+namespace tornel::personnel {
+
 /// The list's filter, by the menu that opened it.
 enum class FiltrPracownikow { Wszyscy, Pracujacy, Zwolnieni, UmowaZlecenie, UmowaODzielo, Honoraria };
 
@@ -77,3 +79,5 @@ private:
 
     Otoczenie& o_;
 };
+
+} // namespace tornel::personnel

@@ -5,6 +5,8 @@
 #include "personnel/Pracownicy.h"
 #include "store/Sesja.h"
 
+namespace tornel::personnel {
+
 using schemat::PRACDP;
 
 bool ZakresPrzyjety(Rozmowa& rozmowa, const ZakresDat& zakres) {
@@ -114,3 +116,5 @@ qint64 RejestrNieobecnosci::dopisz(qint64 prcId, const ZakresDat& zakres,
     }
     return o_.sesja.cnPlace.ostatniWiersz();
 }
+
+} // namespace tornel::personnel

@@ -8,7 +8,11 @@
 #include <QStringView>
 #include <utility>
 
+namespace tornel::common {
 class Rozmowa;
+} // namespace tornel::common
+
+namespace tornel::personnel {
 
 /// First and last day.
 struct ZakresDat {
@@ -80,3 +84,5 @@ private:
     Recordset& uchwyt_;
     Teksty teksty_;
 };
+
+} // namespace tornel::personnel

@@ -1,6 +1,8 @@
 #include "personnel/SwietaUstawowe.h"
 #include <algorithm>
 
+namespace tornel::personnel {
+
 namespace {
 
 struct SwietoStale {
@@ -55,3 +57,5 @@ QList<Swieto> SwietaUstawowe(int rok) {
     std::ranges::stable_sort(wynik, {}, &Swieto::data);
     return wynik;
 }
+
+} // namespace tornel::personnel

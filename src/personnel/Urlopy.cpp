@@ -5,6 +5,8 @@
 #include "store/Sesja.h"
 #include <algorithm>
 
+namespace tornel::personnel {
+
 using schemat::PRACPR;
 using schemat::URL;
 
@@ -111,3 +113,5 @@ void RejestrUrlopow::ostrzezOPrzekroczeniu(qint64 prcId, int rok) const {
         QStringLiteral("Uwaga: Ilość przysługujących dni urlopu wypoczynkowego przekroczona."),
         Styl::Wykrzyknik);
 }
+
+} // namespace tornel::personnel

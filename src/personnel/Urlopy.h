@@ -4,6 +4,8 @@
 #include "personnel/RejestrNieobecnosci.h"
 #include <span>
 
+namespace tornel::personnel {
+
 class DniKalendarza;
 
 /// `Rodzaj` as the table stores it: the position in the list of kinds.
@@ -50,3 +52,5 @@ private:
     [[nodiscard]] qint64 wyliczDlugosc(qint64 prcId, const ZakresDat& zakres) const;
     void ostrzezOPrzekroczeniu(qint64 prcId, int rok) const;
 };
+
+} // namespace tornel::personnel

@@ -2,6 +2,8 @@
 #include "rules/Stale.h"
 #include "store/Sesja.h"
 
+namespace tornel::personnel {
+
 using schemat::ZW;
 
 RejestrZwolnien::RejestrZwolnien(Otoczenie& otoczenie)
@@ -22,3 +24,5 @@ qint64 RejestrZwolnien::CzasTrwania() const {
     if (!rs.naWierszu()) return 0;
     return ZakresDat{rs.data(ZW("Data")), rs.data(ZW("data_do"))}.dni();
 }
+
+} // namespace tornel::personnel

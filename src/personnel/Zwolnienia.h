@@ -3,6 +3,8 @@
 #include "common/Waluta.h"
 #include "personnel/RejestrNieobecnosci.h"
 
+namespace tornel::personnel {
+
 struct NoweZwolnienie {
     qint64 prcId = 0;
     ZakresDat zakres;
@@ -19,3 +21,5 @@ public:
     /// Calendar days of the row taken up, 0 without dates.
     [[nodiscard]] qint64 CzasTrwania() const;
 };
+
+} // namespace tornel::personnel

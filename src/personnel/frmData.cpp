@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 frmData::frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStringView> rodzaje,
                  QWidget* rodzic)
     : QDialog(rodzic), o_(otoczenie), dtOd_(new PoleDaty), dtDo_(new PoleDaty), cboRodzaj_(new QComboBox) {
@@ -86,3 +88,5 @@ void frmData::accept() {
     dtDo_->setFocus();
     ZaznaczDate(*dtDo_);
 }
+
+} // namespace tornel::personnel

@@ -4,8 +4,13 @@
 #include <QDialog>
 #include <span>
 
-class PoleDaty;
 class QComboBox;
+
+namespace tornel::okna {
+class PoleDaty;
+} // namespace tornel::okna
+
+namespace tornel::personnel {
 
 class frmData : public QDialog {
     Q_OBJECT
@@ -31,3 +36,5 @@ private:
     QComboBox* cboRodzaj_;
     bool koniecWpisany_ = false;
 };
+
+} // namespace tornel::personnel

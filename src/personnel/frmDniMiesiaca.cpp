@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 
+namespace tornel::personnel {
+
 namespace {
 
 constexpr int kDniWKolumnie = 16;
@@ -180,3 +182,5 @@ bool DniMiesiaca::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
         return klawisz(static_cast<QWidget&>(*obiekt), static_cast<QKeyEvent&>(*zdarzenie));
     return QWidget::eventFilter(obiekt, zdarzenie);
 }
+
+} // namespace tornel::personnel

@@ -9,6 +9,8 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 
+namespace tornel::personnel {
+
 /// Keys: up and down go to the same control of the next day, left and right (in "Wolny") to the other column,
 /// the space bar marks a day, a letter begins its description, Enter goes on to the next control.
 class DniMiesiaca : public QWidget {
@@ -58,3 +60,5 @@ private:
     int iloscDni_ = 0;
     bool zmieniona_ = false;
 };
+
+} // namespace tornel::personnel

@@ -1,6 +1,8 @@
 #include "personnel/frmDniWolne.h"
 #include "okna/WidokListy.h"
 
+namespace tornel::personnel {
+
 frmDniWolne::frmDniWolne(Otoczenie& otoczenie, QWidget* rodzic)
     : frmKalendarz(otoczenie, QStringLiteral("frmDniWolne"), {}, rodzic) {
     WczytajMiesiace();
@@ -12,3 +14,5 @@ void frmDniWolne::pokazano(const std::optional<MiesiacKalendarza>& miesiac) {
     setWindowTitle((QStringLiteral("Dni Wolne (lista ogólna) ") + nazwa).trimmed());
     ustawTytulDni(nazwa);
 }
+
+} // namespace tornel::personnel

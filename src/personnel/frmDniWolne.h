@@ -2,6 +2,8 @@
 #pragma once
 #include "personnel/frmKalendarz.h"
 
+namespace tornel::personnel {
+
 class frmDniWolne : public frmKalendarz {
     Q_OBJECT
 public:
@@ -11,3 +13,5 @@ protected:
     [[nodiscard]] qint64 czyj() const override { return kKalendarzOgolny; }
     void pokazano(const std::optional<MiesiacKalendarza>& miesiac) override;
 };
+
+} // namespace tornel::personnel

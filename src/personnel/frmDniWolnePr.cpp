@@ -9,9 +9,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 namespace {
 
-enum KolumnaPrac { Numer, Nazwisko };
+enum KolumnaPrac { WolneNumer, WolneNazwisko };
 
 constexpr int kSzerokoscPracownikow = 26 * Wyglad::kSiatka;
 constexpr int kTrybPracujacy = 1;
@@ -40,7 +42,7 @@ frmDniWolnePr::frmDniWolnePr(Otoczenie& otoczenie, QWidget* rodzic, QPushButton*
     lewa->setFixedWidth(kSzerokoscPracownikow);
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
-    auto* txtSzukaj = new PoleSzukania(*lvwPrac_, Numer, Nazwisko);
+    auto* txtSzukaj = new PoleSzukania(*lvwPrac_, WolneNumer, WolneNazwisko);
     uklad->addWidget(txtSzukaj);
     uklad->addWidget(lvwPrac_, 1);
     dodajListe(lewa);
@@ -112,3 +114,5 @@ void frmDniWolnePr::usunPracownika() {
     const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
     if (kalendarz().UsunPracownika(prcId)) WczytajPracownikow(sasiad, std::optional(biezacy()));
 }
+
+} // namespace tornel::personnel

@@ -2,6 +2,8 @@
 #pragma once
 #include "personnel/frmKalendarz.h"
 
+namespace tornel::personnel {
+
 class frmDniWolnePr : public frmKalendarz {
     Q_OBJECT
 public:
@@ -27,3 +29,5 @@ private:
     QPushButton* cmdUsunPrac_;
     std::optional<MiesiacKalendarza> zaznacz_; ///< the month to show with the next employee
 };
+
+} // namespace tornel::personnel

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 frmFind::frmFind(std::function<bool(const QString& tekst)> szukaj, QWidget* rodzic)
     : QDialog(rodzic), szukaj_(std::move(szukaj)), txtSzukany_(new PoleTekstu) {
     setObjectName(QStringLiteral("frmFind"));
@@ -29,3 +31,5 @@ void frmFind::accept() {
     txtSzukany_->setFocus();
     ZaznaczTekst(*txtSzukany_);
 }
+
+} // namespace tornel::personnel

@@ -1,9 +1,14 @@
 // Asks for the number or the name of somebody on the list.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <functional>
 #include <QDialog>
 
+namespace tornel::okna {
 class PoleTekstu;
+} // namespace tornel::okna
+
+namespace tornel::personnel {
 
 class frmFind : public QDialog {
     Q_OBJECT
@@ -17,3 +22,5 @@ private:
     std::function<bool(const QString&)> szukaj_;
     PoleTekstu* txtSzukany_;
 };
+
+} // namespace tornel::personnel

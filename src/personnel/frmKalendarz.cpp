@@ -19,6 +19,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 namespace {
 
 constexpr int kSzerokoscMiesiecy = 18 * Wyglad::kSiatka;
@@ -255,3 +257,5 @@ void frmKalendarz::keyPressEvent(QKeyEvent* zdarzenie) {
     if (auto* cmd = qobject_cast<QPushButton*>(focusWidget()); enter && cmd) return cmd->click();
     QDialog::keyPressEvent(zdarzenie);
 }
+
+} // namespace tornel::personnel

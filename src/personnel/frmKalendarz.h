@@ -5,12 +5,18 @@
 #include <functional>
 #include <QDialog>
 
-class DniMiesiaca;
 class QGroupBox;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+
+namespace tornel::okna {
 class WidokListy;
+} // namespace tornel::okna
+
+namespace tornel::personnel {
+
+class DniMiesiaca;
 
 /// A screen gives the functions below and calls `WczytajMiesiace` at the end of its constructor.
 class frmKalendarz : public QDialog {
@@ -80,3 +86,5 @@ private:
     QLabel *labZmiana_, *labDni_, *labWolne_;
     QPushButton *cmdNowy_, *cmdSwieta_, *cmdUsun_, *cmdAnuluj_;
 };
+
+} // namespace tornel::personnel

@@ -1,6 +1,8 @@
 #include "personnel/frmMPRACY.h"
 #include "personnel/KsiazkiAdresowe.h"
 
+namespace tornel::personnel {
+
 using schemat::M_PRACY;
 
 namespace {
@@ -16,7 +18,7 @@ Pole poleZza() {
     return p;
 }
 
-OpisListyPol opis() {
+OpisListyPol opisMiejscPracy() {
     OpisListyPol o;
     o.nazwa = QStringLiteral("frmMPRACY");
     o.tytul = QStringLiteral("Adresy działalności");
@@ -48,6 +50,9 @@ OpisListyPol opis() {
 } // namespace
 
 frmMPRACY::frmMPRACY(Otoczenie& otoczenie, QWidget* rodzic)
-    : frmKartoteka(otoczenie, MiejscaPracy(), opis(), {M_PRACY("MP_ID"), M_PRACY("Nazwa")}, rodzic) {
+    : frmKartoteka(otoczenie, MiejscaPracy(), opisMiejscPracy(), {M_PRACY("MP_ID"), M_PRACY("Nazwa")},
+                   rodzic) {
     Wczytaj();
 }
+
+} // namespace tornel::personnel

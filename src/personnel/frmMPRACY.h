@@ -1,6 +1,8 @@
 // "Adresy działalności": the employer's workplaces, and which of them the insurer is told of.
 #pragma once
-#include "okna/frmKartoteka.h"
+#include "rules/frmKartoteka.h"
+
+namespace tornel::personnel {
 
 class frmMPRACY : public frmKartoteka {
     Q_OBJECT
@@ -8,3 +10,5 @@ public:
     /// Opens `M_PRACY` anew. Throws `BladBazy`.
     explicit frmMPRACY(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
 };
+
+} // namespace tornel::personnel

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 using schemat::PRACDP;
 
 frmNowyPrc::frmNowyPrc(Otoczenie& otoczenie, QWidget* rodzic) : QDialog(rodzic), o_(otoczenie) {
@@ -60,3 +62,5 @@ void frmNowyPrc::accept() {
                       *txtNR_);
     QDialog::accept();
 }
+
+} // namespace tornel::personnel

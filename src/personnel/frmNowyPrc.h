@@ -3,7 +3,11 @@
 #include "personnel/Pracownicy.h"
 #include <QDialog>
 
+namespace tornel::okna {
 class PoleTekstu;
+} // namespace tornel::okna
+
+namespace tornel::personnel {
 
 class frmNowyPrc : public QDialog {
     Q_OBJECT
@@ -22,3 +26,5 @@ private:
     Otoczenie& o_;
     PoleTekstu *txtNR_, *txtNazwisko_, *txtImie_;
 };
+
+} // namespace tornel::personnel

@@ -22,9 +22,11 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 namespace {
 
-enum KolumnaPrac { Numer, Nazwisko };
+enum KolumnaPrac { KolNumer, KolNazwisko };
 
 constexpr int kSzerokoscListy = 30 * Wyglad::kSiatka;
 
@@ -96,7 +98,7 @@ QWidget* frmPrac::lewaStrona() {
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(tytul);
-    uklad->addWidget(new PoleSzukania(*lvwPrac_, Numer, Nazwisko));
+    uklad->addWidget(new PoleSzukania(*lvwPrac_, KolNumer, KolNazwisko));
     uklad->addWidget(lvwPrac_, 1);
     uklad->addWidget(labIlu_);
     auto* sort = new QHBoxLayout;
@@ -310,3 +312,5 @@ void frmPrac::keyPressEvent(QKeyEvent* zdarzenie) {
     else if (zakladki_->isAncestorOf(tu))
         zakladki_->nastepnePole();
 }
+
+} // namespace tornel::personnel

@@ -9,7 +9,13 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
+
+namespace tornel::okna {
 class WidokListy;
+} // namespace tornel::okna
+
+namespace tornel::personnel {
+
 class ZakladkiPracownika;
 
 class frmPrac : public QDialog {
@@ -57,3 +63,5 @@ private:
     ZakladkiPracownika* zakladki_;
     QPushButton *cmdWyszukaj_, *cmdNowy_, *cmdUsun_, *cmdAnuluj_, *cmdZapisz_, *cmdPowrot_;
 };
+
+} // namespace tornel::personnel

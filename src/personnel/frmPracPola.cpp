@@ -2,6 +2,8 @@
 #include "personnel/frmPracTabele.h"
 #include "rules/SkladnikiPlac.h"
 
+namespace tornel::personnel {
+
 namespace {
 
 using namespace tabeleKartoteki;
@@ -130,3 +132,5 @@ QString kwotaDodatnia(int n) { return element(u"txt_6_di", n); }
 QString kwotaUjemna(int n) { return element(u"txt_6_pi", n); }
 
 } // namespace ekranKartoteki
+
+} // namespace tornel::personnel

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+namespace tornel::personnel {
+
 struct GrupaKartoteki {
     QString tytul;
     QList<Pole> pola;
@@ -52,3 +54,5 @@ inline constexpr QStringView kAdresZamieszkania = u"ADRES ZAMIESZKANIA";
 inline constexpr QStringView kAdresKorespondencji = u"ADRES DO KORESPONDENCJI";
 
 } // namespace ekranKartoteki
+
+} // namespace tornel::personnel

@@ -5,6 +5,8 @@
 #include <QStringView>
 #include <span>
 
+namespace tornel::personnel {
+
 namespace tabeleKartoteki {
 
 using schemat::PRACDP;
@@ -301,3 +303,5 @@ inline constexpr PoleTabeli kKontynuacja[] = {
 };
 
 } // namespace tabeleKartoteki
+
+} // namespace tornel::personnel

@@ -14,6 +14,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 using namespace ekranKartoteki;
 using schemat::PRACDP;
 
@@ -352,3 +354,5 @@ void ZakladkiPracownika::nastepnePole() {
     if (!strona->isAncestorOf(pole)) return wejdz();
     strona->ensureWidgetVisible(pole);
 }
+
+} // namespace tornel::personnel

@@ -13,6 +13,8 @@
 class QGroupBox;
 class QLabel;
 
+namespace tornel::personnel {
+
 /// Reads the employee taken up; keeps what is written until a whole tab is together.
 class ZrodloKartoteki final : public ZrodloPol {
 public:
@@ -85,3 +87,5 @@ private:
     QLabel* labMiejsca_ = nullptr;
     QList<QLabel*> naglowki_;
 };
+
+} // namespace tornel::personnel

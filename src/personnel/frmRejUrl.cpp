@@ -2,6 +2,8 @@
 #include "personnel/frmData.h"
 #include "store/Sesja.h"
 
+namespace tornel::personnel {
+
 using schemat::URL;
 
 namespace {
@@ -34,7 +36,7 @@ QList<Pole> polaUrlopu() {
     };
 }
 
-OpisListyPol opis() {
+OpisListyPol opisUrlopow() {
     OpisListyPol o = frmRejestr::opisListy();
     o.nazwa = QStringLiteral("frmRejUrl");
     o.tytul = QStringLiteral("Urlopy i inne przerwy");
@@ -68,9 +70,11 @@ frmRejUrl::frmRejUrl(Otoczenie& otoczenie, QWidget* rodzic, std::shared_ptr<Reje
               return klucz == Przysluguje ? urlopy->PrzyslugujeDni(prcId)
                                           : urlopy->WykorzystaneDni(prcId, rs.data(URL("Data")).year());
           },
-          opis(), rodzic),
+          opisUrlopow(), rodzic),
       urlopy_(std::move(urlopy)) {}
 
 std::optional<qint64> frmRejUrl::Zarejestruj(qint64 prcId, const frmData& dane) {
     return urlopy_->Zarejestruj({prcId, dane.zakres(), static_cast<RodzajUrlopu>(dane.rodzaj())});
 }
+
+} // namespace tornel::personnel

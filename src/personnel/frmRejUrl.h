@@ -3,6 +3,8 @@
 #include "personnel/frmRejestr.h"
 #include "personnel/Urlopy.h"
 
+namespace tornel::personnel {
+
 class frmRejUrl : public frmRejestr {
     Q_OBJECT
 public:
@@ -17,3 +19,5 @@ private:
 
     std::shared_ptr<RejestrUrlopow> urlopy_;
 };
+
+} // namespace tornel::personnel

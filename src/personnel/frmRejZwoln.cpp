@@ -2,6 +2,8 @@
 #include "personnel/frmData.h"
 #include "store/Sesja.h"
 
+namespace tornel::personnel {
+
 using schemat::ZW;
 
 namespace {
@@ -19,7 +21,7 @@ QList<Pole> polaZwolnienia() {
     };
 }
 
-OpisListyPol opis() {
+OpisListyPol opisZwolnien() {
     OpisListyPol o = frmRejestr::opisListy();
     o.nazwa = QStringLiteral("frmRejZwoln");
     o.tytul = QStringLiteral("Zwolnienia lekarskie");
@@ -48,10 +50,12 @@ frmRejZwoln::frmRejZwoln(Otoczenie& otoczenie, QWidget* rodzic)
 
 frmRejZwoln::frmRejZwoln(Otoczenie& otoczenie, QWidget* rodzic, std::shared_ptr<RejestrZwolnien> zwolnienia)
     : frmRejestr(
-          otoczenie, zwolnienia, [zwolnienia](int) -> Wartosc { return zwolnienia->CzasTrwania(); }, opis(),
-          rodzic),
+          otoczenie, zwolnienia, [zwolnienia](int) -> Wartosc { return zwolnienia->CzasTrwania(); },
+          opisZwolnien(), rodzic),
       zwolnienia_(std::move(zwolnienia)) {}
 
 std::optional<qint64> frmRejZwoln::Zarejestruj(qint64 prcId, const frmData& dane) {
     return zwolnienia_->Zarejestruj({prcId, dane.zakres()});
 }
+
+} // namespace tornel::personnel

@@ -3,6 +3,8 @@
 #include "personnel/frmRejestr.h"
 #include "personnel/Zwolnienia.h"
 
+namespace tornel::personnel {
+
 class frmRejZwoln : public frmRejestr {
     Q_OBJECT
 public:
@@ -16,3 +18,5 @@ private:
 
     std::shared_ptr<RejestrZwolnien> zwolnienia_;
 };
+
+} // namespace tornel::personnel

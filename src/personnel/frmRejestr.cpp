@@ -6,6 +6,8 @@
 #include "personnel/frmWybPr.h"
 #include "personnel/Pracownicy.h"
 
+namespace tornel::personnel {
+
 namespace {
 
 constexpr int kTrybPracujacy = 1;
@@ -35,9 +37,9 @@ QString dataListy(QDate data) { return FormatDaty(data).replace(QLatin1Char('-')
 
 frmRejestr::frmRejestr(Otoczenie& otoczenie, std::shared_ptr<RejestrNieobecnosci> rejestr,
                        WartosciObliczane obliczane, const OpisListyPol& opis, QWidget* rodzic)
-    : frmListaPol(otoczenie, std::make_unique<ZrodloRejestru>(rejestr->tabela(), std::move(obliczane)), opis,
-                  rodzic),
-      rejestr_(std::move(rejestr)) {}
+    : frmListaPol(otoczenie.rozmowa,
+                  std::make_unique<ZrodloRejestru>(rejestr->tabela(), std::move(obliczane)), opis, rodzic),
+      o_(otoczenie), rejestr_(std::move(rejestr)) {}
 
 OpisListyPol frmRejestr::opisListy() {
     OpisListyPol opis;
@@ -93,11 +95,10 @@ bool frmRejestr::zapisz(qint64 id) {
 
 std::optional<qint64> frmRejestr::utworz() {
     const qint64 obecny = biezacy() >= 0 ? wiersze_.value(biezacy()).prcId : -1;
-    frmWybPr wybor(otoczenie(), kTrybPracujacy, frmWybPr::Ilu::Jeden, this, obecny);
+    frmWybPr wybor(o_, kTrybPracujacy, frmWybPr::Ilu::Jeden, this, obecny);
     if (wybor.exec() != Accepted || wybor.wybrani().isEmpty()) return std::nullopt;
     const qint64 prcId = wybor.wybrani().first();
-    frmData dane(otoczenie(),
-                 FormatNumeru(prcId) + QLatin1Char(' ') + Pracownicy(otoczenie()).nazwisko(prcId), rodzaje(),
+    frmData dane(o_, FormatNumeru(prcId) + QLatin1Char(' ') + Pracownicy(o_).nazwisko(prcId), rodzaje(),
                  this);
     if (dane.exec() != Accepted) return std::nullopt;
     return Zarejestruj(prcId, dane);
@@ -107,3 +108,5 @@ bool frmRejestr::skasuj(qint64 id) {
     Q_UNUSED(id)
     return rejestr_->Usun();
 }
+
+} // namespace tornel::personnel

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <span>
 
+namespace tornel::personnel {
+
 /// Computed values of a register's screen, by `Pole::klucz`.
 using WartosciObliczane = std::function<Wartosc(int klucz)>;
 
@@ -41,6 +43,9 @@ protected:
     bool skasuj(qint64 id) override;
 
 private:
+    Otoczenie& o_;
     std::shared_ptr<RejestrNieobecnosci> rejestr_;
     QHash<qint64, WierszRejestru> wiersze_;
 };
+
+} // namespace tornel::personnel

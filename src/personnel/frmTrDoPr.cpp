@@ -15,9 +15,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 namespace {
 
-enum KolumnaTransportu { Numer, Nazwisko };
+enum KolumnaTransportu { TrNumer, TrNazwisko };
 
 QDate proponowany(Otoczenie& otoczenie) {
     const QList<MiesiacKalendarza> sa = Kalendarz(otoczenie).miesiace(kKalendarzOgolny);
@@ -56,7 +58,7 @@ void frmTrDoPr::buduj() {
     auto* ramka = new QGroupBox(QStringLiteral("MIESIĄC KALENDARZA OGÓLNEGO"));
     (new QVBoxLayout(ramka))->addWidget(miesiac_);
     auto* gora = new QHBoxLayout;
-    gora->addWidget(new PoleSzukania(*lvwPrac_, Numer, Nazwisko));
+    gora->addWidget(new PoleSzukania(*lvwPrac_, TrNumer, TrNazwisko));
     gora->addWidget(labZaznaczono_);
 
     auto* cmdWszyscy = przycisk(QStringLiteral("cmdWszyscy"), QStringLiteral("Do w&szystkich"));
@@ -96,3 +98,5 @@ void frmTrDoPr::pokazIlu() {
     labZaznaczono_->setText(
         QStringLiteral("Zaznaczono: %1 z %2").arg(lvwPrac_->zaznaczeni().size()).arg(osoby_.size()));
 }
+
+} // namespace tornel::personnel

@@ -3,10 +3,15 @@
 #include "personnel/Pracownicy.h"
 #include <QDialog>
 
-class PoleMiesiaca;
 class QLabel;
 class QPushButton;
+
+namespace tornel::okna {
+class PoleMiesiaca;
 class WidokListy;
+} // namespace tornel::okna
+
+namespace tornel::personnel {
 
 class frmTrDoPr : public QDialog {
     Q_OBJECT
@@ -28,3 +33,5 @@ private:
     PoleMiesiaca* miesiac_;
     QLabel* labZaznaczono_;
 };
+
+} // namespace tornel::personnel

@@ -1,13 +1,15 @@
 #include "personnel/frmUS.h"
 #include "personnel/KsiazkiAdresowe.h"
 
+namespace tornel::personnel {
+
 using schemat::US;
 
 namespace {
 
 Pole pole(const QString& nazwa, const QString& podpis, Kolumna kolumna) { return {nazwa, podpis, kolumna}; }
 
-OpisListyPol opis() {
+OpisListyPol opisUrzedow() {
     OpisListyPol o;
     o.nazwa = QStringLiteral("frmUS");
     o.tytul = QStringLiteral("Urzędy skarbowe");
@@ -41,6 +43,8 @@ OpisListyPol opis() {
 } // namespace
 
 frmUS::frmUS(Otoczenie& otoczenie, QWidget* rodzic)
-    : frmKartoteka(otoczenie, UrzedySkarbowe(), opis(), {US("US_ID"), US("Nazwa")}, rodzic) {
+    : frmKartoteka(otoczenie, UrzedySkarbowe(), opisUrzedow(), {US("US_ID"), US("Nazwa")}, rodzic) {
     Wczytaj();
 }
+
+} // namespace tornel::personnel

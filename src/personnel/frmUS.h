@@ -1,6 +1,8 @@
 // "Urzędy skarbowe": the tax offices with their addresses and accounts.
 #pragma once
-#include "okna/frmKartoteka.h"
+#include "rules/frmKartoteka.h"
+
+namespace tornel::personnel {
 
 class frmUS : public frmKartoteka {
     Q_OBJECT
@@ -8,3 +10,5 @@ public:
     /// Opens `US` anew. Throws `BladBazy`.
     explicit frmUS(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
 };
+
+} // namespace tornel::personnel

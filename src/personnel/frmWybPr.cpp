@@ -10,9 +10,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace tornel::personnel {
+
 namespace {
 
-enum KolumnaWyboru { Numer, Nazwisko, Imie, Dzial };
+enum KolumnaWyboru { WybNumer, WybNazwisko, WybImie, WybDzial };
 
 QList<WierszListy> wiersze(const QList<Osoba>& osoby) {
     QList<WierszListy> wynik;
@@ -61,7 +63,7 @@ void frmWybPr::buduj(Ilu ilu) {
 
     auto* uklad = new QVBoxLayout(this);
     auto* gora = new QHBoxLayout;
-    auto* txtSzukaj = new PoleSzukania(*lvwWybPr_, Numer, Nazwisko);
+    auto* txtSzukaj = new PoleSzukania(*lvwWybPr_, WybNumer, WybNazwisko);
     gora->addWidget(txtSzukaj);
     gora->addWidget(labZaznaczono_);
     uklad->addLayout(gora);
@@ -96,7 +98,8 @@ void frmWybPr::zaznaczDzial() {
         if (osoby_.at(od).dzial != dzial) continue;
         int dokad = od;
         while (dokad + 1 < ile && osoby_.at(dokad + 1).dzial == dzial) ++dokad;
-        zaznaczenie.append({lvwWybPr_->model()->index(od, Numer), lvwWybPr_->model()->index(dokad, Dzial)});
+        zaznaczenie.append(
+            {lvwWybPr_->model()->index(od, WybNumer), lvwWybPr_->model()->index(dokad, WybDzial)});
         od = dokad;
     }
     lvwWybPr_->selectionModel()->select(zaznaczenie, QItemSelectionModel::Select);
@@ -105,3 +108,5 @@ void frmWybPr::zaznaczDzial() {
 void frmWybPr::pokazIlu() {
     labZaznaczono_->setText(QStringLiteral("Zaznaczono: %1 z %2").arg(wybrani().size()).arg(osoby_.size()));
 }
+
+} // namespace tornel::personnel

@@ -5,7 +5,12 @@
 #include <QDialog>
 
 class QLabel;
+
+namespace tornel::okna {
 class WidokListy;
+} // namespace tornel::okna
+
+namespace tornel::personnel {
 
 class frmWybPr : public QDialog {
     Q_OBJECT
@@ -37,3 +42,5 @@ private:
     WidokListy* lvwWybPr_;
     QLabel* labZaznaczono_;
 };
+
+} // namespace tornel::personnel

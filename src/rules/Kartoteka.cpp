@@ -2,6 +2,8 @@
 #include "common/Blad.h"
 #include "common/Rozmowa.h"
 
+namespace tornel::rules {
+
 using schemat::PRACDP;
 
 namespace {
@@ -110,3 +112,5 @@ bool Kartoteka::Usun(qint64 numer) {
     }
     return true;
 }
+
+} // namespace tornel::rules

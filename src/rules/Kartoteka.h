@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+namespace tornel::rules {
+
 /// The smallest number from 1 that no row has as its key, filtered or not.
 [[nodiscard]] qint64 WolnyNumer(const Recordset& tabela);
 
@@ -60,3 +62,5 @@ private:
     Otoczenie& o_;
     const KartotekaDef& def_;
 };
+
+} // namespace tornel::rules

@@ -5,6 +5,8 @@
 #include "store/Sesja.h"
 #include <QVersionNumber>
 
+namespace tornel::rules {
+
 namespace {
 
 constexpr Kolumna kNum = schemat::KON("Num");
@@ -177,3 +179,5 @@ void UstawStala(Sesja& sesja, Stale& stale, int num, const QString& tekst) {
     WartoscZTekstu(stala, TekstWartosci(stala, nowe), nowe);
     stale = nowe;
 }
+
+} // namespace tornel::rules

@@ -4,7 +4,11 @@
 #include <QString>
 #include <span>
 
+namespace tornel::store {
 class Sesja;
+} // namespace tornel::store
+
+namespace tornel::rules {
 
 /// The longest text that KON holds; what is longer is cut without a word, deliberately.
 inline constexpr int kDlugoscStalej = 60;
@@ -54,3 +58,5 @@ void RozbijTablice(const QString& tekst, std::span<QString> tablica);
 /// those left out become empty. Throws `Blad` that says what the constant takes, and changes nothing, when
 /// the text is not of its kind or out of its range.
 void UstawStala(Sesja& sesja, Stale& stale, int num, const QString& tekst);
+
+} // namespace tornel::rules

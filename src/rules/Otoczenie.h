@@ -1,8 +1,17 @@
 // What every calculation needs, handed on by reference: session, constants, catalogue and the user's side.
 #pragma once
+#include "common/Przestrzenie.h"
 
+namespace tornel::store {
 class Sesja;
+} // namespace tornel::store
+
+namespace tornel::common {
 class Rozmowa;
+} // namespace tornel::common
+
+namespace tornel::rules {
+
 struct Stale;
 class SkladnikiPlac;
 
@@ -12,3 +21,5 @@ struct Otoczenie {
     SkladnikiPlac& skladniki;
     Rozmowa& rozmowa;
 };
+
+} // namespace tornel::rules

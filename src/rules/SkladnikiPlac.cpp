@@ -3,6 +3,8 @@
 #include "store/Sesja.h"
 #include <span>
 
+namespace tornel::rules {
+
 namespace {
 
 /// A flag of a component with the masks that hold it.
@@ -119,3 +121,5 @@ Maski MaskiListy(const SkladnikiPlac& katalog, const Recordset& rsPLACE, bool za
     maski.akt_sm &= katalogowe.akt_sm;
     return maski;
 }
+
+} // namespace tornel::rules

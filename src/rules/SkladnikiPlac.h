@@ -1,11 +1,16 @@
 // The payroll components in memory: what each of the thirty positive and fifteen negative ones is called and
 // counts towards, and the bit masks by which a month keeps these flags.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <array>
 #include <QString>
 
+namespace tornel::store {
 class Recordset;
 class Sesja;
+} // namespace tornel::store
+
+namespace tornel::rules {
 
 /// How many components there are.
 inline constexpr int kDodatnich = 30;
@@ -78,3 +83,5 @@ private:
 /// that the current `PLACE` row has kept, where a component is active only if the catalogue has it active
 /// too.
 [[nodiscard]] Maski MaskiListy(const SkladnikiPlac& katalog, const Recordset& rsPLACE, bool zablokowany);
+
+} // namespace tornel::rules

@@ -5,6 +5,8 @@
 #include <QDate>
 #include <QString>
 
+namespace tornel::rules {
+
 /// Filled by `WczytajKonfiguracje`. The defaults stand in the table of constants; here every member is empty.
 /// Percentages are amounts (9,76); component numbers are 1 to 30 with 0 for none.
 struct Stale {
@@ -112,3 +114,5 @@ struct Stale {
 
     bool operator==(const Stale&) const = default;
 };
+
+} // namespace tornel::rules

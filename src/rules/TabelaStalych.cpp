@@ -3,6 +3,8 @@
 #include <array>
 #include <vector>
 
+namespace tornel::rules {
+
 std::span<const StalaDef> tabelaStalych() {
     static const auto tabela = [] {
         std::vector<StalaDef> wiersze;
@@ -44,3 +46,5 @@ std::span<const QStringView> kartyStalych() {
     static_assert(karty.size() == static_cast<std::size_t>(KartaStalych::Brak));
     return karty;
 }
+
+} // namespace tornel::rules

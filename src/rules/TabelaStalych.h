@@ -7,6 +7,8 @@
 #include <type_traits>
 #include <variant>
 
+namespace tornel::rules {
+
 /// The tabs of the screen in order; `Brak` for constants that another screen keeps.
 enum class KartaStalych {
     GrupyPodatkowe,
@@ -110,3 +112,5 @@ namespace stale_czesci {
 [[nodiscard]] std::span<const StalaDef> firma();
 [[nodiscard]] std::span<const StalaDef> deklaracje();
 } // namespace stale_czesci
+
+} // namespace tornel::rules

@@ -1,6 +1,8 @@
 // Constants of the tabs "PIT (1)" to "PIT (4)" and "MCS", and those that the PIT-40 screen keeps.
 #include "rules/TabelaStalych.h"
 
+namespace tornel::rules {
+
 namespace {
 
 using S = Stale;
@@ -14,7 +16,7 @@ constexpr QStringView kArchiwum = u"ARCHIWUM DANYCH";
 
 constexpr QStringView kRodzajePlatnika[] = {u"1 - płatnik nie będący osobą fizyczną", u"2 - osoba fizyczna"};
 
-constexpr StalaDef kTabela[] = {
+constexpr StalaDef kStaleDeklaracje[] = {
     {500, u"NazwaPelna", &S::NazwaPelna, u"", u"Nazwa pełna * / Nazwisko, pierwsze imię **", PIT1, Tekst},
     {501, u"NazwaSkroc", &S::NazwaSkroc, u"", u"Nazwa skrócona * / Imię ojca, imię matki **", PIT1, Tekst},
     {502, u"NIPPlatnika", &S::NIPPlatnika, u"", u"Numer Identyfikacji Podatkowej płatnika:", PIT1, Tekst},
@@ -74,4 +76,6 @@ constexpr StalaDef kTabela[] = {
 
 } // namespace
 
-std::span<const StalaDef> stale_czesci::deklaracje() { return kTabela; }
+std::span<const StalaDef> stale_czesci::deklaracje() { return kStaleDeklaracje; }
+
+} // namespace tornel::rules

@@ -1,6 +1,8 @@
 // Constants of the tabs "Użytkownik (1)" to "Użytkownik (3)", "ZUS (1)" and "ZUS (2)".
 #include "rules/TabelaStalych.h"
 
+namespace tornel::rules {
+
 namespace {
 
 using S = Stale;
@@ -17,7 +19,7 @@ constexpr QStringView kSwiadczenia = u"(ZUS DRA) USTALENIE NUMERÓW SKŁADNIKÓW
 constexpr QStringView kNumerySwiadczen[] = {u"Świadczenie nr 1:", u"Świadczenie nr 2:", u"Świadczenie nr 3:",
                                             u"Świadczenie nr 4:", u"Świadczenie nr 5:"};
 
-constexpr StalaDef kTabela[] = {
+constexpr StalaDef kStaleFirma[] = {
     {300, u"NazwaUzCz1", &S::NazwaUzCz1, u"", u"Nazwa użytkownika (1 część):", Uzytkownik1, Tekst},
     {301, u"NazwaUzCz2", &S::NazwaUzCz2, u"", u"Nazwa użytkownika (2 część):", Uzytkownik1, Tekst},
     {302, u"NazwaSkrocona", &S::NazwaSkrocona, u"", u"Nazwa skrócona:", Uzytkownik1, Tekst},
@@ -122,4 +124,6 @@ constexpr StalaDef kTabela[] = {
 
 } // namespace
 
-std::span<const StalaDef> stale_czesci::firma() { return kTabela; }
+std::span<const StalaDef> stale_czesci::firma() { return kStaleFirma; }
+
+} // namespace tornel::rules

@@ -1,6 +1,8 @@
 // Constants of the tabs "Urlopy", "L-4" and "Nadgodziny", and the symbols of the tab "Karta ewidencji".
 #include "rules/TabelaStalych.h"
 
+namespace tornel::rules {
+
 namespace {
 
 using S = Stale;
@@ -29,7 +31,7 @@ constexpr QStringView kGrupyNadgodzin[] = {u"Grupy 1-3:", u"Grupy 4-6:", u"Grupa
 
 constexpr ElementStalej symbol(std::size_t nr) { return {&S::Symbol, nr}; }
 
-constexpr StalaDef kTabela[] = {
+constexpr StalaDef kStaleNieobecnosci[] = {
     {200, u"WliczSobDoUrl", &S::WliczSobDoUrl, u"False", u"Wliczaj do urlopu soboty pracujące", Urlopy,
      Przelacznik},
     {201, u"OsobHarPrac", &S::OsobHarPrac, u"False",
@@ -86,4 +88,6 @@ constexpr StalaDef kTabela[] = {
 
 } // namespace
 
-std::span<const StalaDef> stale_czesci::nieobecnosci() { return kTabela; }
+std::span<const StalaDef> stale_czesci::nieobecnosci() { return kStaleNieobecnosci; }
+
+} // namespace tornel::rules

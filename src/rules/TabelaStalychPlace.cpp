@@ -1,6 +1,8 @@
 // Constants of the tabs "Grupy podatkowe", "Stałe systemu", "Inne (1)" and "Inne (2)".
 #include "rules/TabelaStalych.h"
 
+namespace tornel::rules {
+
 namespace {
 
 using S = Stale;
@@ -21,7 +23,7 @@ constexpr QStringView kSposobySredniej[] = {
     u"Wzór:",
 };
 
-constexpr StalaDef kTabela[] = {
+constexpr StalaDef kStalePlace[] = {
     {40, u"GranicaG12", &S::GranicaG12, u"29624", u"Granica grup 1 i 2:", GrupyPodatkowe, Kwota},
     {41, u"GranicaG23", &S::GranicaG23, u"59248", u"Granica grup 2 i 3:", GrupyPodatkowe, Kwota},
     {42, u"PodatekG1", &S::PodatekG1, u"19", u"Stawka podatku w grupie 1:", GrupyPodatkowe, Kwota},
@@ -97,4 +99,6 @@ constexpr StalaDef kTabela[] = {
 
 } // namespace
 
-std::span<const StalaDef> stale_czesci::place() { return kTabela; }
+std::span<const StalaDef> stale_czesci::place() { return kStalePlace; }
+
+} // namespace tornel::rules

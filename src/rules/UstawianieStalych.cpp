@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace tornel::rules {
+
 namespace {
 
 struct Zakres {
@@ -146,3 +148,5 @@ void przyjmijTekst(const StalaDef& stala, const QString& tekst, Stale& stale) {
                  });
     if (stala.sprawdzenie == SprawdzenieStalej::NumerJedyny) sprawdzJedynosc(stala, stale);
 }
+
+} // namespace tornel::rules

@@ -3,6 +3,8 @@
 #pragma once
 #include "rules/TabelaStalych.h"
 
+namespace tornel::rules {
+
 /// The range of a short number.
 inline constexpr int kNajmniejszaKrotka = -32768;
 inline constexpr int kNajwiekszaKrotka = 32767;
@@ -19,3 +21,5 @@ inline constexpr int kNajwyzszySkladnik = 30;
 /// Sets the value in `stale`; formulas are taken in upper case, elements left out of an array become empty.
 /// Throws `Blad` that says what the constant takes; `stale` is then undefined.
 void przyjmijTekst(const StalaDef& stala, const QString& tekst, Stale& stale);
+
+} // namespace tornel::rules

@@ -7,6 +7,8 @@
 #include <QStringView>
 #include <utility>
 
+namespace tornel::rules {
+
 namespace {
 
 using Pojedyncza = std::pair<QStringView, Waluta ZmienneWzoru::*>;
@@ -336,3 +338,5 @@ void ErrorWzor(int flags, Rozmowa& rozmowa) {
                            "wytępować tylko ściśle ogreślone nazy zmiennych."),
             Styl::Wykrzyknik);
 }
+
+} // namespace tornel::rules

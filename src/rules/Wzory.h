@@ -7,8 +7,15 @@
 #include <QString>
 #include <vector>
 
+namespace tornel::common {
 class Rozmowa;
+} // namespace tornel::common
+
+namespace tornel::store {
 class Sesja;
+} // namespace tornel::store
+
+namespace tornel::rules {
 
 /// Bits of the result word.
 namespace bityWzoru {
@@ -98,3 +105,5 @@ private:
 /// What a screen shows after it has checked a formula field (mode 1): "BŁĄD SKŁADNI" for bit 2, "BŁĄD
 /// ZMIENNEJ" for bit 16. Other bits are not reported.
 void ErrorWzor(int flags, Rozmowa& rozmowa);
+
+} // namespace tornel::rules

@@ -2,6 +2,8 @@
 #include "common/Blad.h"
 #include "store/Sesja.h"
 
+namespace tornel::rules {
+
 using schemat::SZ_PL;
 
 namespace {
@@ -45,3 +47,5 @@ void Zapisz_zmiany(Otoczenie& otoczenie, const KatalogSkladnikow& katalog) {
     }
     otoczenie.skladniki.WczytajSkladnikiPlac(otoczenie.sesja);
 }
+
+} // namespace tornel::rules

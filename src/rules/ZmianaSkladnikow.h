@@ -3,6 +3,8 @@
 #include "rules/Otoczenie.h"
 #include "rules/SkladnikiPlac.h"
 
+namespace tornel::rules {
+
 /// Number n stands at n - 1: 1 to 30 the positive components, 31 to 45 the negative ones.
 using KatalogSkladnikow = std::array<Skladnik, kDodatnich + kUjemnych>;
 
@@ -13,3 +15,5 @@ using KatalogSkladnikow = std::array<Skladnik, kDodatnich + kUjemnych>;
 /// Stores names and flags of all components, and the codes of the positive ones, as one action, then reads
 /// the catalogue in memory anew. Writes `SZ_PL`. Throws as above and `BladBazy`; then nothing is stored.
 void Zapisz_zmiany(Otoczenie& otoczenie, const KatalogSkladnikow& katalog);
+
+} // namespace tornel::rules

@@ -16,6 +16,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+namespace tornel::rules {
+
 using schemat::SZ_PL;
 
 namespace {
@@ -213,3 +215,5 @@ bool frmSkladnikiPlac::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
     }
     return QDialog::eventFilter(obiekt, zdarzenie);
 }
+
+} // namespace tornel::rules

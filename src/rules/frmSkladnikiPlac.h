@@ -6,6 +6,8 @@
 
 class QTabWidget;
 
+namespace tornel::rules {
+
 class frmSkladnikiPlac : public QDialog {
     Q_OBJECT
 public:
@@ -38,3 +40,5 @@ private:
     std::array<std::array<QWidget*, kKolumn>, kWszystkich> kontrolki_{};
     bool zmieniono_ = false;
 };
+
+} // namespace tornel::rules

@@ -12,6 +12,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+namespace tornel::rules {
+
 using namespace ekranStalych;
 
 namespace {
@@ -287,3 +289,5 @@ void NadgSzczeg(Wiazanie& wiazanie, bool szczegolowa) {
         ++rzad;
     }
 }
+
+} // namespace tornel::rules

@@ -1,9 +1,16 @@
 // One tab of the constants: its frames in rows and columns, the help on formulas beside them.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <QLabel>
 
 class QScrollArea;
+
+namespace tornel::okna {
 class Wiazanie;
+} // namespace tornel::okna
+
+namespace tornel::rules {
+
 enum class KartaStalych;
 
 /// A note that is cut with an ellipsis to the room it has: the name of a component.
@@ -25,3 +32,5 @@ protected:
 /// The captions of the three rows of overtime boxes: by days, or by groups where the last two boxes of the
 /// third row are of no use and go.
 void NadgSzczeg(Wiazanie& wiazanie, bool szczegolowa);
+
+} // namespace tornel::rules

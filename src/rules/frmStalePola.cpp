@@ -5,6 +5,8 @@
 #include "store/Sesja.h"
 #include <algorithm>
 
+namespace tornel::rules {
+
 namespace ekranStalych {
 
 namespace {
@@ -248,3 +250,5 @@ void ZrodloStalych::zapisz(const Pole& pole, const Wartosc& wartosc) {
     };
     zPolemStalej(m.stala, stale_, zWartosci);
 }
+
+} // namespace tornel::rules

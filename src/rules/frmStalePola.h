@@ -5,7 +5,11 @@
 #include "rules/TabelaStalych.h"
 #include <array>
 
+namespace tornel::store {
 class Sesja;
+} // namespace tornel::store
+
+namespace tornel::rules {
 
 namespace ekranStalych {
 
@@ -65,3 +69,5 @@ private:
     /// The nine boxes, row by row: by days of constants 254 to 256, or by groups of constant 257.
     std::array<QString, 9> okienkaNG_;
 };
+
+} // namespace tornel::rules

@@ -15,6 +15,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+namespace tornel::rules {
+
 using namespace ekranStalych;
 
 namespace {
@@ -209,3 +211,5 @@ void frmStaleProgramu::accept() {
     if (porty_.UstawDostepnoscMenu) porty_.UstawDostepnoscMenu();
     QDialog::accept();
 }
+
+} // namespace tornel::rules

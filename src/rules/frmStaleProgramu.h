@@ -8,10 +8,13 @@
 #include <QDialog>
 #include <QHash>
 
-class OpisPola;
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
+
+namespace tornel::rules {
+
+class OpisPola;
 
 /// What the screen asks of those above it; each may be left out.
 struct PortyStalych {
@@ -59,3 +62,5 @@ private:
     QStackedWidget* karty_;
     QHash<QString, OpisPola*> opisy_; ///< the names of components, by the name of their label
 };
+
+} // namespace tornel::rules

@@ -4,6 +4,8 @@
 #include "rules/SkladnikiPlac.h"
 #include "rules/UstawianieStalych.h"
 
+namespace tornel::rules {
+
 namespace {
 
 std::optional<int> numerSkladnika(const QString& tekst) {
@@ -75,3 +77,5 @@ QString nazwaSkladnika(const SkladnikiPlac& skladniki, const QString& tekst) {
     const int numer = numerSkladnika(tekst).value_or(0);
     return numer == 0 ? QString() : skladniki.SkNazwa(numer);
 }
+
+} // namespace tornel::rules

@@ -5,6 +5,8 @@
 #include "rules/Otoczenie.h"
 #include "rules/Wzory.h"
 
+namespace tornel::rules {
+
 class SprawdzeniaStalych {
 public:
     /// `zrodlo` holds the values of the fields that were left before.
@@ -28,3 +30,5 @@ private:
 
 /// The name of component `tekst`, empty for 0 and for a text that is no component number.
 [[nodiscard]] QString nazwaSkladnika(const SkladnikiPlac& skladniki, const QString& tekst);
+
+} // namespace tornel::rules

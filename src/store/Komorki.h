@@ -4,6 +4,8 @@
 #include "store/Tabela.h"
 #include <QByteArray>
 
+namespace tornel::store {
+
 inline bool jestTekstem(Typ typ) { return typ == Typ::Text || typ == Typ::Char || typ == Typ::Memo; }
 inline bool jestRzeczywista(Typ typ) { return typ == Typ::Double || typ == Typ::Single; }
 
@@ -13,3 +15,5 @@ inline QByteArray listaKolumn(const TabelaDef& t) {
     for (const KolumnaDef& k : t.kolumny) wynik += (wynik.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa);
     return wynik;
 }
+
+} // namespace tornel::store

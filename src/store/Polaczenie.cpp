@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <sqlite3.h>
 
+namespace tornel::store {
+
 QByteArray nazwaSql(std::string_view nazwa) {
     QByteArray wynik("\"");
     for (const char znak : nazwa) {
@@ -199,3 +201,5 @@ void Transakcja::zatwierdz() {
     if (zewnetrzna_) polaczenie_.wykonaj("COMMIT");
     zatwierdzona_ = true;
 }
+
+} // namespace tornel::store

@@ -1,5 +1,6 @@
 // The connection to the one database file, with statements and transactions as objects.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <memory>
 #include <QByteArray>
 #include <QString>
@@ -7,6 +8,8 @@
 
 struct sqlite3;
 struct sqlite3_stmt;
+
+namespace tornel::store {
 
 class Polaczenie;
 
@@ -94,3 +97,5 @@ void UsunPlikBazy(const QString& sciezka);
 
 /// An SQL name in double quotes; the one place where names are quoted.
 [[nodiscard]] QByteArray nazwaSql(std::string_view nazwa);
+
+} // namespace tornel::store

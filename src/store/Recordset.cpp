@@ -8,6 +8,8 @@
 #include <sqlite3.h>
 #include <tuple>
 
+namespace tornel::store {
+
 namespace {
 
 QString nazwaKolumny(const KolumnaDef& k) {
@@ -496,3 +498,5 @@ void Recordset::Delete() {
     if (stan == Stan::Nowy) std::erase(oczekujace_, wiersz);
     stan = Stan::Usuniety;
 }
+
+} // namespace tornel::store

@@ -11,6 +11,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace tornel::store {
+
 /// One typed comparison of a column; several stand for "and". A quote in a text is just a letter.
 struct Kryterium {
     enum class Operator { Rowne, Rozne, NieMniejsze, NieWieksze, Wieksze, Mniejsze };
@@ -189,3 +191,5 @@ private:
     std::vector<int> oczekujace_; // rows with pending changes, in order of the first change
     std::unique_ptr<Instrukcja> wstaw_, zmien_, czytaj_, usun_;
 };
+
+} // namespace tornel::store

@@ -5,6 +5,8 @@
 #include <bit>
 #include <QScopeGuard>
 
+namespace tornel::store {
+
 namespace {
 
 /// The day number as YYYY-MM-DD.
@@ -144,3 +146,5 @@ void Recordset::CancelBatch() {
     oryginaly_.clear();
     Bookmark(tu);
 }
+
+} // namespace tornel::store

@@ -4,6 +4,8 @@
 #include "store/SchematKadr.h"
 #include "store/SchematPlac.h"
 
+namespace tornel::store {
+
 namespace schemat {
 
 namespace kolumny {
@@ -44,3 +46,5 @@ inline constexpr auto Tabele = std::to_array<const TabelaDef*>({
 inline constexpr auto TabeleMiesiaca = std::to_array<const TabelaDef*>({&PLA, &PLB, &PLS, &PLD});
 
 } // namespace schemat
+
+} // namespace tornel::store

@@ -2,6 +2,8 @@
 #pragma once
 #include "store/SeriaKolumn.h"
 
+namespace tornel::store {
+
 namespace schemat {
 
 namespace kolumny {
@@ -374,3 +376,5 @@ inline constexpr TabelaDef KONTA{"KONTA", kolumny::KONTA, klucze::KontoBankowe};
 inline constexpr TabelaDef PRZELEW{"PRZELEW", kolumny::PRZELEW, {}};
 
 } // namespace schemat
+
+} // namespace tornel::store

@@ -2,6 +2,8 @@
 #pragma once
 #include "store/SeriaKolumn.h"
 
+namespace tornel::store {
+
 namespace schemat {
 
 namespace kolumny {
@@ -392,3 +394,5 @@ constexpr Kolumna DzienKalendarza(int d) { return elementSerii(KALENDARZ, 3, 31,
 constexpr Kolumna OpisKalendarza(int d) { return elementSerii(KALENDARZ, 34, 31, d); }
 
 } // namespace schemat
+
+} // namespace tornel::store

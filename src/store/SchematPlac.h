@@ -2,6 +2,8 @@
 #pragma once
 #include "store/SeriaKolumn.h"
 
+namespace tornel::store {
+
 namespace schemat {
 
 namespace kolumny {
@@ -285,3 +287,5 @@ constexpr Kolumna NazwaSkladnikaMiesiaca(int nr) { return elementSerii(PLACEN, 2
 constexpr Kolumna KodZUSMiesiaca(int nr) { return elementSerii(PLACEK, 2, 30, nr); }
 
 } // namespace schemat
+
+} // namespace tornel::store

@@ -3,6 +3,8 @@
 #include "store/Tabela.h"
 #include <array>
 
+namespace tornel::store {
+
 namespace schemat {
 
 /// The names PREFIX<od> to PREFIX<od + N - 1>, at most 15 characters each. Columns only view their names, so
@@ -106,3 +108,5 @@ inline constexpr std::string_view Miesiac[] = {"ROK", "MIES"};
 } // namespace klucze
 
 } // namespace schemat
+
+} // namespace tornel::store

@@ -1,6 +1,8 @@
 #include "store/Sesja.h"
 #include "common/Blad.h"
 
+namespace tornel::store {
+
 namespace {
 
 QByteArray typSql(const KolumnaDef& k) {
@@ -167,3 +169,5 @@ void Sesja::OdswiezUchwyty() {
     }
     if (!rsPLA.otwarty() || !rsPLB.otwarty() || !rsPLS.otwarty() || !rsPLD.otwarty()) ZamknijMiesiac();
 }
+
+} // namespace tornel::store

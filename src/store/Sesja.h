@@ -5,6 +5,8 @@
 #include <memory>
 #include <QString>
 
+namespace tornel::store {
+
 /// The user at work.
 struct Uzytkownik {
     QString nazwa;
@@ -76,3 +78,5 @@ private:
     int rok_ = 0;
     int mies_ = 0;
 };
+
+} // namespace tornel::store

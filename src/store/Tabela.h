@@ -1,11 +1,14 @@
 // What a table and a column are: the types behind the one declarative schema.
 #pragma once
+#include "common/Przestrzenie.h"
 #include <cstdint>
 #include <limits>
 #include <span>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
+
+namespace tornel::store {
 
 /// The column types by their words in the schema. Stored as: `Currency` a whole number of 1/10000, `Date`
 /// text YYYY-MM-DD, the other numbers as numbers, text as UTF-8.
@@ -77,3 +80,5 @@ struct TabelaDef {
 };
 
 constexpr const KolumnaDef& Kolumna::def() const { return tabela->kolumny[static_cast<std::size_t>(nr)]; }
+
+} // namespace tornel::store

@@ -3,6 +3,7 @@
 #include "common/Csv.h"
 #include "common/Daty.h"
 #include "common/Liczby.h"
+#include "store/Komorki.h"
 #include "store/Recordset.h"
 #include "store/Schemat.h"
 #include <algorithm>
@@ -11,13 +12,13 @@
 #include <QRegularExpression>
 #include <QSet>
 
+namespace tornel::store {
+
 namespace {
 
 QString tekstNazwy(std::string_view nazwa) {
     return QString::fromLatin1(nazwa.data(), static_cast<qsizetype>(nazwa.size()));
 }
-
-bool jestTekstem(Typ typ) { return typ == Typ::Text || typ == Typ::Char || typ == Typ::Memo; }
 
 /// Columns that name a row: those of the index and the required ones, since a few keys have three columns.
 QList<Kolumna> kolumnyKlucza(const TabelaDef& tabela) {
@@ -303,3 +304,5 @@ WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, c
     transakcja.zatwierdz();
     return wynik;
 }
+
+} // namespace tornel::store

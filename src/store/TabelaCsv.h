@@ -8,6 +8,8 @@
 #include <QByteArray>
 #include <QString>
 
+namespace tornel::store {
+
 /// A table of the open file.
 struct TabelaPliku {
     const TabelaDef* def = nullptr;
@@ -34,3 +36,5 @@ struct WynikImportu {
 /// each new row. Throws `Blad` that names line, column and value: unknown column, missing key, key given
 /// twice, a value that the column cannot hold as it stands.
 WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, const QByteArray& csv);
+
+} // namespace tornel::store

@@ -5,7 +5,11 @@
 #include <QString>
 #include <variant>
 
+namespace tornel::store {
+
 using Wartosc = std::variant<std::monostate, qint64, double, Waluta, QString, QDate>;
 
 /// Null, written where a value could stand.
 inline constexpr std::monostate Null{};
+
+} // namespace tornel::store

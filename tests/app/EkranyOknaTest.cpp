@@ -4,21 +4,23 @@
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
 #include "app/ListaUzytkownikow.h"
-#include "app/Przyklad.h"
-#include "app/Rozruch.h"
 #include "okna/frmInputData.h"
 #include "okna/WidokListy.h"
-#include "payroll/frmPlace.h"
-#include "payroll/frmPlaceLista.h"
-#include "payroll/frmWykazy.h"
+#include "payroll/lista/frmPlaceLista.h"
+#include "payroll/miesiace/frmPlace.h"
+#include "payroll/nieobecnosci/frmWykazy.h"
 #include "personnel/frmData.h"
 #include "personnel/frmFind.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
 #include "personnel/frmWybPr.h"
 #include "personnel/Urlopy.h"
+#include "start/Przyklad.h"
+#include "start/Rozruch.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include "wsparcie/RozmowaZgoda.h"
+#include "wsparcie/Widzet.h"
 #include <functional>
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -39,6 +41,8 @@
 #include <QTimer>
 #include <QToolButton>
 #include <set>
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -309,12 +313,6 @@ TEST_F(EkranyTest, KlawiaturaNaKazdymEkranie) {
     EXPECT_GE(otwarte_.size(), 33) << otwarte_.join(u' ').toStdString();
 }
 
-template <typename T = QWidget>
-T& widzet(const QWidget& ekran, const QString& nazwaWidzetu) {
-    if (auto* znaleziony = ekran.findChild<T*>(nazwaWidzetu)) return *znaleziony;
-    throw std::runtime_error("no control " + nazwaWidzetu.toStdString());
-}
-
 void klik(const QWidget& ekran, const QString& przycisk) {
     QTest::mouseClick(&widzet(ekran, przycisk), Qt::LeftButton);
 }
@@ -417,3 +415,5 @@ TEST_F(EkranyTest, KadryNieDochodzaDoPlac) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -5,6 +5,7 @@
 #include "okna/frmInputData.h"
 #include "okna/RozmowaOkien.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -22,6 +23,8 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -354,3 +357,5 @@ TEST(RozmowaOkienTest, PostepPokazujeSieDopieroPrzyDlugiejPracy) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

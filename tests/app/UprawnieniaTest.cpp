@@ -1,10 +1,13 @@
 #include "app/Uprawnienia.h"
-#include "app/Uzytkownicy.h"
 #include "rules/Stale.h"
+#include "start/Uzytkownicy.h"
 #include "store/Sesja.h"
+#include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
 #include <set>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -146,3 +149,5 @@ TEST_F(LogowanieTest, NazwaIHasloDecyduja) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -7,6 +7,7 @@
 #include "personnel/frmMPRACY.h"
 #include "personnel/frmUS.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -16,6 +17,8 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -348,3 +351,5 @@ TEST_F(EkranTest, ZmianaHasla) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

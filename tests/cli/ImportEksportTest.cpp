@@ -1,6 +1,9 @@
 // CSV both ways: every table of the schema comes back as it was, and a bad file changes nothing.
 #include "store/Sesja.h"
 #include "wsparcie/KonsolaTestowa.h"
+#include "wsparcie/Przestrzen.h"
+
+namespace tornel::testy {
 
 namespace {
 
@@ -198,3 +201,5 @@ TEST_F(ImportEksportTest, AnExportReplacesAFileButNeverTheDatabase) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

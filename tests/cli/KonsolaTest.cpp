@@ -1,15 +1,18 @@
 // The commands: what they print where, their status, and how questions are answered.
 #include "store/Sesja.h"
 #include "wsparcie/KonsolaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+namespace tornel::testy {
 
 namespace {
 
 using KonsolaTest = KonsolaTestowa;
 
-struct Przypadek {
+struct PrzypadekKonsoli {
     const char* wiersz;
     int status;
     const char* wyjscie; ///< fragment, or empty for no output at all
@@ -25,7 +28,7 @@ void sprawdz(const char* fragment, const QString& tekst) {
 
 // Each case starts where the one before it left the database.
 TEST_F(KonsolaTest, Commands) {
-    const Przypadek przypadki[] = {
+    const PrzypadekKonsoli przypadki[] = {
         {"pomoc", 0, "lista dodaj RRRR-MM [--lista X] (--wszyscy | --pracownik N ...)", ""},
         {"lista --help", 0, "Status: 0 wykonane", ""},
         {"wzor DOCH*0,19-394,8 --zmienna DOCH=10000", 0, "wynik: 1505,2\nbity: 0\n", ""},
@@ -76,7 +79,7 @@ TEST_F(KonsolaTest, Commands) {
         {"--tak miesiac blokada 2001-03", 0, "", "do listy płac za wybrany miesiąc? [Tak]\n"},
         {"--baza brak.mdb stale 1", 1, "", "Procedura 'PStart': błąd w lini: 1"},
     };
-    for (const Przypadek& p : przypadki) {
+    for (const PrzypadekKonsoli& p : przypadki) {
         SCOPED_TRACE(p.wiersz);
         const Wynik wynik = uruchom(p.wiersz);
         EXPECT_EQ(wynik.status, p.status);
@@ -212,3 +215,5 @@ TEST_F(KonsolaTest, TheDatabaseIsLookedUpAsTheWindowsDo) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

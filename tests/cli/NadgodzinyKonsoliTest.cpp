@@ -1,8 +1,11 @@
 // The commands of the overtime lists.
 #include "wsparcie/KonsolaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -79,3 +82,5 @@ TEST_F(NadgodzinyKonsoliTest, Commands) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,9 +1,12 @@
 // The commands of calendars and absences: output, status, questions.
 #include "store/Polaczenie.h"
 #include "wsparcie/KonsolaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -133,3 +136,5 @@ TEST_F(NieobecnosciTest, Json) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

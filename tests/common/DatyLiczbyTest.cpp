@@ -1,8 +1,11 @@
 #include "common/Blad.h"
 #include "common/Daty.h"
 #include "common/Liczby.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <gtest/gtest.h>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -153,3 +156,5 @@ TEST(Liczby, TheFormulaFormTakesACommaAndAnExponent) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

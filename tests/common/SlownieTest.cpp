@@ -1,6 +1,9 @@
 #include "common/Slownie.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <gtest/gtest.h>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -54,3 +57,5 @@ TEST(Slownie, PiecesOutsideTheirRangesAreEmpty) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,9 +1,12 @@
 #include "common/Waluta.h"
 #include "common/Blad.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -136,3 +139,5 @@ TEST(Waluta, Texts) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

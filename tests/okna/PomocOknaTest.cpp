@@ -5,13 +5,12 @@
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
 #include "app/ListaUzytkownikow.h"
-#include "app/Przyklad.h"
 #include "okna/frmInputData.h"
 #include "okna/frmPomoc.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
-#include "payroll/frmPlaceLista.h"
-#include "payroll/frmWykazy.h"
+#include "payroll/lista/frmPlaceLista.h"
+#include "payroll/nieobecnosci/frmWykazy.h"
 #include "personnel/frmData.h"
 #include "personnel/frmFind.h"
 #include "personnel/frmNowyPrc.h"
@@ -20,7 +19,9 @@
 #include "personnel/Urlopy.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
+#include "start/Przyklad.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
@@ -37,6 +38,8 @@
 #include <QTextTable>
 #include <QTimer>
 #include <QTreeWidget>
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -433,3 +436,5 @@ TEST(BrakPomocyOknaTest, KomunikatNazywaPlik) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

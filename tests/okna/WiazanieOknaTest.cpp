@@ -2,6 +2,7 @@
 #include "okna/Wiazanie.h"
 #include "okna/WidokListy.h"
 #include "store/Sesja.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
@@ -16,6 +17,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -312,3 +315,5 @@ TEST(ListaModelOknaTest, PrzechodziSprawdzianModeliIOtwieraDziesiecTysiecyWiersz
 }
 
 } // namespace
+
+} // namespace tornel::testy

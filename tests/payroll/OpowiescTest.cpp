@@ -1,5 +1,8 @@
 // Two months of a small firm, from an empty database to their sums.
 #include "wsparcie/PlaceTestowe.h"
+#include "wsparcie/Przestrzen.h"
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -71,3 +74,5 @@ TEST_F(OpowiescTest, TwoMonthsWithTwoLists) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,10 +1,11 @@
 // The clerk's actions in a process that is killed at random moments: whatever the moment, each action is in
 // the file whole or not at all.
-#include "app/Rozruch.h"
-#include "payroll/ListaPlac.h"
-#include "payroll/Miesiace.h"
+#include "payroll/lista/ListaPlac.h"
+#include "payroll/miesiace/Miesiace.h"
 #include "personnel/Pracownicy.h"
+#include "start/Rozruch.h"
 #include "wsparcie/Proces.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaZgoda.h"
 #include <chrono>
 #include <QFile>
@@ -13,6 +14,8 @@
 #include <random>
 #include <sys/stat.h>
 #include <thread>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -166,3 +169,5 @@ TEST(ZabicieProcesuTest, EveryActionIsInTheFileWholeOrNotAtAll) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -9,6 +9,7 @@
 #include "personnel/frmTrDoPr.h"
 #include "personnel/frmWybPr.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -19,11 +20,13 @@
 #include <QTest>
 #include <QTimer>
 
+namespace tornel::testy {
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kUsunac = u"Czy na pewno chcesz usunąć miesiąc z listy dni wolnych ?"_s;
+const QString kUsunacMiesiacWolny = u"Czy na pewno chcesz usunąć miesiąc z listy dni wolnych ?"_s;
 
 class KalendarzOknaTest : public BazaTestowa {
 protected:
@@ -184,10 +187,10 @@ TEST_F(KalendarzOknaTest, NowyMiesiacSwietaIUsuniecie) {
     for (const int d : {24, 25, 26}) EXPECT_TRUE(k<QCheckBox>(u"chkWolny%1"_s.arg(d)).isChecked()) << d;
     EXPECT_EQ(k<QLabel>(u"labWolne"_s).text(), u"13"_s);
     k<QCheckBox>(u"chkWolny27"_s).click();
-    rozmowa_.spodziewaj(kUsunac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(kUsunacMiesiacWolny, Odpowiedz::Tak);
     kliknij(u"cmdUsun"_s);
     EXPECT_EQ(naLiscie(), QStringList{u"Styczeń 2002"_s});
-    rozmowa_.spodziewaj(kUsunac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(kUsunacMiesiacWolny, Odpowiedz::Tak);
     kliknij(u"cmdUsun"_s);
     EXPECT_EQ(naLiscie(), QStringList());
     EXPECT_FALSE(k<QWidget>(u"chkWolny1"_s).isVisible());
@@ -298,3 +301,5 @@ TEST_F(KalendarzOknaTest, TransportBezPracownikowNieOtwieraEkranu) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

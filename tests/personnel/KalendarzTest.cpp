@@ -3,6 +3,9 @@
 #include "common/Blad.h"
 #include "personnel/SwietaUstawowe.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 using schemat::KALENDARZ;
@@ -219,3 +222,5 @@ TEST_F(KalendarzTest, UsuwaPoPytaniu) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -2,6 +2,9 @@
 #include "personnel/KartotekaPracownika.h"
 #include "rules/SkladnikiPlac.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
+
+namespace tornel::testy {
 
 using schemat::PRACDP;
 using schemat::PRACINF;
@@ -288,3 +291,5 @@ TEST_F(KartotekaTest, SzukanieIFlagaZwolnionego) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

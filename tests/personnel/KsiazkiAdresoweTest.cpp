@@ -2,6 +2,9 @@
 #include "bank/Konta.h"
 #include "common/Blad.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -113,3 +116,5 @@ TEST_F(KsiazkiAdresoweTest, MiejscePracyZWielomaPracownikami) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

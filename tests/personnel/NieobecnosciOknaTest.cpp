@@ -8,12 +8,15 @@
 #include "personnel/frmWybPr.h"
 #include "personnel/Kalendarz.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 using schemat::URL;
@@ -251,3 +254,5 @@ TEST_F(RejestryOknaTest, DziesiecTysiecyUrlopowOtwieraSieOdRazu) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,10 +1,13 @@
 #include "personnel/frmFind.h"
 #include "rules/SkladnikiPlac.h"
 #include "wsparcie/EkranPracownikow.h"
+#include "wsparcie/Przestrzen.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <set>
+
+namespace tornel::testy {
 
 using namespace ekranKartoteki;
 using schemat::PRACDP;
@@ -315,3 +318,5 @@ TEST_F(PracTest, UsuwaPoDwochPytaniachAzPoOstatniego) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,8 +1,11 @@
 // Every field of the personnel file from the keyboard to the row and back.
 #include "rules/SkladnikiPlac.h"
 #include "wsparcie/EkranPracownikow.h"
+#include "wsparcie/Przestrzen.h"
 #include <QCheckBox>
 #include <QComboBox>
+
+namespace tornel::testy {
 
 using namespace ekranKartoteki;
 using schemat::PRACSK;
@@ -214,3 +217,5 @@ TEST_F(PracPola, KopiaAdresuJestProponowanaPrzyKazdymWejsciuDoPustego) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,6 +1,9 @@
 #include "personnel/Pracownicy.h"
 #include "wsparcie/PlaceTestowe.h"
+#include "wsparcie/Przestrzen.h"
 #include <set>
+
+namespace tornel::testy {
 
 using schemat::PRACDP;
 using schemat::RODZINA;
@@ -202,3 +205,5 @@ TEST_F(PracownicyTest, DeletionAsksTwiceAndTakesTheFamily) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -4,6 +4,9 @@
 #include "personnel/Urlopy.h"
 #include "personnel/Zwolnienia.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 using schemat::PRACPR;
@@ -266,3 +269,5 @@ TEST_F(RejestryTest, NieudanyZapisNieZostawiaNiczego) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,18 +1,21 @@
 #include "common/Blad.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
+namespace tornel::testy {
+
 using namespace Qt::StringLiterals;
 using schemat::SZ_PL;
 
 namespace {
 
-const QString kZapisac = u"Czy zapisać wprowadzone zmiany?"_s;
+const QString kZapisacSkladniki = u"Czy zapisać wprowadzone zmiany?"_s;
 
 class SkladnikiEkranTest : public BazaTestowa {
 protected:
@@ -67,7 +70,7 @@ TEST_F(SkladnikiEkranTest, ZmienioneZapisujeSieRazemIWchodziDoPamieci) {
     pole<QCheckBox>(u"chkZus", 30).click();
     pole<QCheckBox>(u"chkBrutto", 45).click();
     EXPECT_EQ(wPliku(), oczekiwane) << "nothing is stored before the question";
-    rozmowa_.spodziewaj(kZapisac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Tak);
     kliknij(u"Command1");
     EXPECT_FALSE(okno->isVisible());
 
@@ -91,7 +94,7 @@ TEST_F(SkladnikiEkranTest, BezZmianNieMaPytaniaAOdmowaJePorzuca) {
     for (const bool zamkniecie : {false, true}) {
         pokaz();
         wpisz(u"txtNazwa", 2, u"inna"_s);
-        rozmowa_.spodziewaj(kZapisac, Odpowiedz::Nie);
+        rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Nie);
         if (zamkniecie)
             EXPECT_TRUE(okno->close());
         else
@@ -112,7 +115,7 @@ TEST_F(SkladnikiEkranTest, UaktywnijDzialaNaPokazanejZakladce) {
         EXPECT_EQ(aktywnych(16), ile);
         EXPECT_EQ(aktywnych(1) + aktywnych(31), innych);
     }
-    rozmowa_.spodziewaj(kZapisac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Tak);
     okno->reject();
     EXPECT_TRUE(otoczenie().skladniki.SkAkt(25));
 }
@@ -143,13 +146,13 @@ TEST_F(SkladnikiEkranTest, NieudanyZapisZostawiaEkranZTekstem) {
     ASSERT_TRUE(obcy.Znajdz(2));
     obcy.ustaw(SZ_PL("naz_sk"), u"cudza"_s);
     obcy.UpdateBatch();
-    rozmowa_.spodziewaj(kZapisac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Tak);
     EXPECT_THROW(okno->reject(), Konflikt);
     EXPECT_TRUE(okno->isVisible());
     EXPECT_EQ(pole<QLineEdit>(u"txtNazwa", 2).text(), u"inna"_s);
     EXPECT_EQ(otoczenie().skladniki.SkNazwa(2), u"Premia %"_s);
     sesja().OdswiezUchwyty();
-    rozmowa_.spodziewaj(kZapisac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Tak);
     okno->reject();
     EXPECT_EQ(otoczenie().skladniki.SkNazwa(2), u"inna"_s);
 }
@@ -162,3 +165,5 @@ TEST_F(SkladnikiEkranTest, BezJednegoZRekordowEkranSieNieOtwiera) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

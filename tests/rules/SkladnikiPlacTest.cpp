@@ -1,8 +1,11 @@
 #include "rules/SkladnikiPlac.h"
 #include "common/Blad.h"
 #include "store/Sesja.h"
+#include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -118,3 +121,5 @@ TEST_F(SkladnikiPlacTest, BrakujacySkladnikJestNazwany) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

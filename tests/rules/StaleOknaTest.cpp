@@ -1,6 +1,7 @@
 #include "rules/frmStaleProgramu.h"
 #include "rules/Konfiguracja.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -10,6 +11,8 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
+
+namespace tornel::testy {
 
 using namespace Qt::StringLiterals;
 
@@ -448,3 +451,5 @@ TEST_F(StaleOkna, KartyPrzechodziSieKlawiatura) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -2,10 +2,13 @@
 #include "rules/Konfiguracja.h"
 #include "rules/UstawianieStalych.h"
 #include "store/Sesja.h"
+#include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <set>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -246,3 +249,5 @@ TEST_F(StaleTest, NumerSkladnikaMozeStacWSwoimPolu) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

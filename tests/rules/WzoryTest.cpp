@@ -1,8 +1,11 @@
 #include "rules/Wzory.h"
 #include "store/Sesja.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -21,17 +24,17 @@ void ustawZmienne(Wzory& wzory) {
     for (const auto& w : wartosci) EXPECT_TRUE(z.ustaw(u(w.nazwa), Waluta::zlotych(w.zlotych))) << w.nazwa;
 }
 
-struct Przypadek {
+struct PrzypadekWzoru {
     const char* wzor;
     const char* wynik;
     int bity;
 };
 
-void sprawdz(std::initializer_list<Przypadek> przypadki) {
+void sprawdz(std::initializer_list<PrzypadekWzoru> przypadki) {
     RozmowaSkrypt rozmowa;
     Wzory wzory(rozmowa);
     ustawZmienne(wzory);
-    for (const Przypadek& p : przypadki) {
+    for (const PrzypadekWzoru& p : przypadki) {
         int flags = 0;
         EXPECT_EQ(TekstKwoty(wzory.ObliczWzor(u(p.wzor), flags)), u(p.wynik)) << p.wzor;
         EXPECT_EQ(flags, p.bity) << p.wzor;
@@ -266,12 +269,12 @@ TEST(Wzory, VariablesComeFromTheRowsOfTheSession) {
     sesja.rsPLS.AddNew();
     for (int i = 1; i <= 30; ++i) sesja.rsPLS.ustaw(schemat::SP(i), Waluta::zlotych(300 + i));
     for (int i = 1; i <= 15; ++i) sesja.rsPLS.ustaw(schemat::SM(i), Waluta::zlotych(400 + i));
-    const Przypadek przypadki[] = {
+    const PrzypadekWzoru przypadki[] = {
         {"DD1", "101", 0},  {"DD15", "115", 0}, {"DD16", "116", 0}, {"DD30", "130", 0},
         {"DU1", "201", 0},  {"DU15", "215", 0}, {"LD1", "301", 0},  {"LD15", "315", 0},
         {"LD16", "316", 0}, {"LD30", "330", 0}, {"LU1", "201", 0},  {"WS1*WS2", "12", 0},
     };
-    for (const Przypadek& p : przypadki) EXPECT_EQ(licz(p.wzor, 7, p.bity), u(p.wynik)) << p.wzor;
+    for (const PrzypadekWzoru& p : przypadki) EXPECT_EQ(licz(p.wzor, 7, p.bity), u(p.wynik)) << p.wzor;
 }
 
 TEST(Wzory, ErrorWzorReportsSyntaxAndVariablesOnly) {
@@ -290,3 +293,5 @@ TEST(Wzory, ErrorWzorReportsSyntaxAndVariablesOnly) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

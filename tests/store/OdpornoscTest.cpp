@@ -1,10 +1,11 @@
 // What happens to the clerk's data when the disk is full, may not be written, is damaged or is held by
 // somebody else: an action that fails leaves the file as it was and says why.
-#include "app/Rozruch.h"
-#include "payroll/ListaPlac.h"
-#include "payroll/Miesiace.h"
+#include "payroll/lista/ListaPlac.h"
+#include "payroll/miesiace/Miesiace.h"
 #include "personnel/Pracownicy.h"
+#include "start/Rozruch.h"
 #include "wsparcie/Proces.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include "wsparcie/RozmowaZgoda.h"
 #include <QDir>
@@ -14,6 +15,8 @@
 #include <sqlite3.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+
+namespace tornel::testy {
 
 using schemat::KONTA;
 using schemat::PLA;
@@ -381,3 +384,5 @@ TEST_F(OdpornoscTest, ADamagedFileIsReadOrRefusedAndNeverMadeWorse) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

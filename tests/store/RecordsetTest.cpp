@@ -1,8 +1,11 @@
 #include "common/Blad.h"
 #include "store/Sesja.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <QFile>
 #include <QTemporaryDir>
+
+namespace tornel::testy {
 
 using schemat::KONTA;
 using schemat::PLA;
@@ -276,3 +279,5 @@ TEST_F(RecordsetTest, FilesThatCannotServeAreRefusedByName) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

@@ -1,11 +1,14 @@
 // The schema: column order that code relies on by ordinal, names that are found without regard to case, sound
 // keys.
 #include "store/Schemat.h"
+#include "wsparcie/Przestrzen.h"
 #include <cctype>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
 #include <vector>
+
+namespace tornel::testy {
 
 namespace {
 
@@ -116,3 +119,5 @@ TEST(Schemat, NumberOutsideASeriesIsAFault) {
 }
 
 } // namespace
+
+} // namespace tornel::testy

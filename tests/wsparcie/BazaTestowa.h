@@ -1,10 +1,13 @@
 // A database of its own for each test: made from the template in a folder that ends with the test.
 #pragma once
-#include "app/Rozruch.h"
 #include "personnel/Pracownicy.h"
+#include "start/Rozruch.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <memory>
 #include <QTemporaryDir>
+
+namespace tornel::testy {
 
 class BazaTestowa : public testing::Test {
 protected:
@@ -42,3 +45,5 @@ protected:
 
 /// "1650,00" as money.
 inline Waluta zl(double kwota) { return Waluta::zLiczby(kwota); }
+
+} // namespace tornel::testy

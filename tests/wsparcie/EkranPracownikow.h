@@ -5,6 +5,7 @@
 #include "personnel/frmPrac.h"
 #include "personnel/frmPracPola.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <functional>
 #include <QApplication>
 #include <QLineEdit>
@@ -14,6 +15,8 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+
+namespace tornel::testy {
 
 class EkranPracownikow : public BazaTestowa {
 protected:
@@ -105,3 +108,5 @@ inline QList<std::pair<int, Pole>> wszystkiePola() {
     wynik.append({Ogolne, notatka()});
     return wynik;
 }
+
+} // namespace tornel::testy

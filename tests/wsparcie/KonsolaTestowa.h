@@ -1,11 +1,14 @@
 // The console run inside the test, each test on its own copy of the example firm.
 #pragma once
-#include "app/Przyklad.h"
 #include "cli/Konsola.h"
+#include "start/Przyklad.h"
+#include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
+
+namespace tornel::testy {
 
 class KonsolaTestowa : public testing::Test {
 protected:
@@ -59,3 +62,5 @@ protected:
 private:
     inline static std::unique_ptr<QTemporaryDir> wzorzec_;
 };
+
+} // namespace tornel::testy

@@ -1,8 +1,11 @@
 // A payroll with registers of absence, calendars and earlier months, and the questions that they bring.
 #pragma once
-#include "payroll/WykazyPodstaw.h"
+#include "payroll/nieobecnosci/WykazyPodstaw.h"
 #include "wsparcie/PlaceTestowe.h"
+#include "wsparcie/Przestrzen.h"
 #include <deque>
+
+namespace tornel::testy {
 
 namespace pytania {
 inline const QString dni = QStringLiteral("Czy wyliczyć ilość przepracowanych dni dla pracownika ?");
@@ -122,3 +125,5 @@ private:
         rs.UpdateBatch();
     }
 };
+
+} // namespace tornel::testy

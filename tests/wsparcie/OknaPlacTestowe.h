@@ -3,10 +3,12 @@
 #include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
 #include "okna/WidokListy.h"
-#include "payroll/frmPlace.h"
-#include "payroll/frmPlaceLista.h"
+#include "payroll/lista/frmPlaceLista.h"
+#include "payroll/miesiace/frmPlace.h"
 #include "personnel/frmWybPr.h"
 #include "wsparcie/NieobecnosciTestowe.h"
+#include "wsparcie/Przestrzen.h"
+#include "wsparcie/Widzet.h"
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,18 +20,14 @@
 #include <QTest>
 #include <QTimer>
 
+namespace tornel::testy {
+
 using namespace Qt::StringLiterals;
 
 /// A clerk's row: the ZUS rates, costs, the tax credit and a base salary, with the first tax group.
 inline const std::string kPracownik =
     "placa_zas=1650 gr_pod=1 Kup=101,82 czy_kuz=T czy_ulga=T etat=1 etat2=1 wsk_fe=9,76 wsk_fr=6,5 "
     "wsk_fc=2,45 wsk_ubzdr=7,75 Fp=2,45 gsp=0,08";
-
-template <typename T = QWidget>
-T& widzet(const QWidget& okno, const QString& nazwa) {
-    if (auto* znaleziony = okno.findChild<T*>(nazwa)) return *znaleziony;
-    throw std::runtime_error("no control " + nazwa.toStdString());
-}
 
 class OknaPlacTestowe : public NieobecnosciTestowe {
 protected:
@@ -135,3 +133,5 @@ protected:
     int otwarte_ = 0;
     QStringList bledy_;
 };
+
+} // namespace tornel::testy

@@ -3,12 +3,15 @@
 #pragma once
 #include "common/Blad.h"
 #include "common/Liczby.h"
-#include "payroll/ListaPlac.h"
-#include "payroll/Miesiace.h"
+#include "payroll/lista/ListaPlac.h"
+#include "payroll/miesiace/Miesiace.h"
 #include "rules/SkladnikiPlac.h"
 #include "rules/Stale.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <span>
+
+namespace tornel::testy {
 
 using Tabele = std::span<const TabelaDef* const>;
 inline constexpr const TabelaDef* kTabeleKadr[] = {&schemat::PRACDP, &schemat::PRACPR, &schemat::PRACSK,
@@ -208,3 +211,5 @@ private:
         zapiszKatalog();
     }
 };
+
+} // namespace tornel::testy

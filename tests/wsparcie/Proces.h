@@ -1,5 +1,6 @@
 // A forked child of the test: a second program, or one that is killed in the middle of its work.
 #pragma once
+#include "wsparcie/Przestrzen.h"
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -8,6 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
+
+namespace tornel::testy {
 
 /// By which a child says once that it has come so far. Made before the child.
 class Sygnal {
@@ -70,3 +73,5 @@ public:
 private:
     pid_t pid_;
 };
+
+} // namespace tornel::testy

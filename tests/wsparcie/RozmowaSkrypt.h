@@ -1,6 +1,7 @@
 // The user's side played from a script: a queue of expected texts with their answers.
 #pragma once
 #include "common/Rozmowa.h"
+#include "wsparcie/Przestrzen.h"
 #include <deque>
 #include <gtest/gtest.h>
 #include <limits>
@@ -8,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 #include <variant>
+
+namespace tornel::testy {
 
 QT_BEGIN_NAMESPACE
 /// How GoogleTest prints a text that differs.
@@ -108,3 +111,5 @@ private:
     QStringList kroki_;
     int przerwij_ = std::numeric_limits<int>::max();
 };
+
+} // namespace tornel::testy

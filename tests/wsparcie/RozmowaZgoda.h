@@ -1,6 +1,9 @@
 // The user's side of a clerk who says yes to everything and reads nothing.
 #pragma once
 #include "common/Rozmowa.h"
+#include "wsparcie/Przestrzen.h"
+
+namespace tornel::testy {
 
 class RozmowaZgoda : public Rozmowa {
 public:
@@ -19,3 +22,5 @@ private:
         [[nodiscard]] bool krok(int, const QString&) override { return true; }
     };
 };
+
+} // namespace tornel::testy

@@ -1,0 +1,359 @@
+#include "payroll/lista/frmPlaceLista.h"
+#include "common/Blad.h"
+#include "common/Liczby.h"
+#include "common/Rozmowa.h"
+#include "okna/Aplikacja.h"
+#include "okna/Klepsydra.h"
+#include "okna/PoleSzukania.h"
+#include "okna/WidokListy.h"
+#include "okna/Wyglad.h"
+#include "payroll/lista/frmPlaceListaPasek.h"
+#include "payroll/lista/frmPlaceListaZakladki.h"
+#include "personnel/frmWybPr.h"
+#include "store/Sesja.h"
+#include <algorithm>
+#include <QCloseEvent>
+#include <QHash>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace tornel::payroll {
+
+using schemat::PLA;
+
+namespace {
+
+constexpr int kTrybPracujacy = 1;
+
+enum KolumnaPlac { LpNazwisko, LpNumer, LpSymbol };
+
+QLabel* napis(const QString& nazwa) {
+    auto* etykieta = new QLabel;
+    etykieta->setObjectName(nazwa);
+    etykieta->setTextFormat(Qt::PlainText);
+    return etykieta;
+}
+
+} // namespace
+
+frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic)
+    : QDialog(rodzic), o_(otoczenie), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
+      lvwPlace_(new WidokListy(
+          {{QStringLiteral("NAZWISKO")}, {QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("LISTA")}},
+          {60, 18, 22})),
+      zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy),
+      labPracownik_(napis(QStringLiteral("labPracownik"))), labKwoty_(napis(QStringLiteral("labKwoty"))),
+      labIleWierszy_(napis(QStringLiteral("labIleWierszy"))) {
+    const Klepsydra klepsydra;
+    setObjectName(QStringLiteral("frmPlaceLista"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* uklad = new QVBoxLayout(this);
+    uklad->addWidget(Wyglad::baner(
+        lista_.zablokowany()
+            ? QStringLiteral("Miesiąc jest zablokowany: dane można oglądać, nie można ich zmieniać.")
+            : QString(),
+        this));
+    auto* srodek = new QHBoxLayout;
+    srodek->addWidget(lewaStrona());
+    srodek->addWidget(prawaStrona(), 1);
+    uklad->addLayout(srodek, 1);
+    uklad->addWidget(pasek_);
+    budujSkroty();
+    resize(156 * Wyglad::kSiatka, 92 * Wyglad::kSiatka);
+
+    polacz();
+    linie_ = lista_.Wczytaj_listep();
+    pokazListe({});
+    lvwPlace_->setFocus();
+    if (linie_.isEmpty()) pasek_->przejdzDoNowy();
+}
+
+frmPlaceLista::~frmPlaceLista() = default;
+
+void frmPlaceLista::polacz() {
+    connect(lvwPlace_, &WidokListy::wybrano, this, &frmPlaceLista::wybierzWiersz);
+    connect(pasek_, &PasekListy::nowy, this, &frmPlaceLista::nowy);
+    connect(pasek_, &PasekListy::usun, this, &frmPlaceLista::usun);
+    connect(pasek_, &PasekListy::przepisz, this, &frmPlaceLista::przepisz);
+    connect(pasek_, &PasekListy::przeliczDni, this, &frmPlaceLista::przeliczDni);
+    connect(pasek_, &PasekListy::przelicz, this, &frmPlaceLista::przelicz);
+    connect(pasek_, &PasekListy::seria, this, &frmPlaceLista::seria);
+    connect(pasek_, &PasekListy::powrot, this, &QDialog::reject);
+    connect(zakladki_, &ZakladkiListy::kwotyZmienione, this, &frmPlaceLista::pokazNaglowek);
+    connect(zakladki_, &ZakladkiListy::skladnikiZmienione, this, [this] {
+        if (const auto klucz = biezacy()) oznacz(*klucz, true);
+    });
+    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
+        connect(program, &Aplikacja::danePrzeczytane, this, &frmPlaceLista::pokazPonownie);
+}
+
+void frmPlaceLista::budujSkroty() {
+    const auto skrot = [this](const QKeySequence& klawisze, auto czynnosc) {
+        connect(new QShortcut(klawisze, this), &QShortcut::activated, this, czynnosc);
+    };
+    skrot(QKeySequence::Find, [this] { findChild<PoleSzukania*>()->setFocus(Qt::ShortcutFocusReason); });
+    for (int i = 0; i < zakladki_->count(); ++i)
+        skrot(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i)),
+              [this, i] { zakladki_->setCurrentIndex(i); });
+}
+
+QWidget* frmPlaceLista::lewaStrona() {
+    lvwPlace_->setObjectName(QStringLiteral("lvwPlace"));
+    auto* lewa = new QWidget;
+    lewa->setFixedWidth(43 * Wyglad::kSiatka);
+    auto* uklad = new QVBoxLayout(lewa);
+    uklad->setContentsMargins(0, 0, 0, 0);
+    uklad->addWidget(new PoleSzukania(*lvwPlace_, LpNumer, LpNazwisko));
+    uklad->addWidget(lvwPlace_, 1);
+    uklad->addWidget(labIleWierszy_);
+    return lewa;
+}
+
+QWidget* frmPlaceLista::prawaStrona() {
+    QFont pismo = labPracownik_->font();
+    pismo.setPointSize(pismo.pointSize() + 2);
+    pismo.setBold(true);
+    labPracownik_->setFont(pismo);
+    auto* prawa = new QWidget;
+    auto* uklad = new QVBoxLayout(prawa);
+    uklad->setContentsMargins(0, 0, 0, 0);
+    auto* naglowek = new QHBoxLayout;
+    naglowek->addWidget(labPracownik_, 1);
+    naglowek->addWidget(labKwoty_);
+    uklad->addLayout(naglowek);
+    uklad->addWidget(zakladki_, 1);
+    return prawa;
+}
+
+std::optional<KluczListy> frmPlaceLista::biezacy() const {
+    const qint64 id = lvwPlace_->wybrany();
+    if (id < 0) return std::nullopt;
+    return linie_.at(id).klucz;
+}
+
+void frmPlaceLista::pokazListe(const std::optional<KluczListy>& zaznacz) {
+    QList<WierszListy> wiersze;
+    wiersze.reserve(linie_.size());
+    qint64 wybrany = -1;
+    for (const LiniaListy& l : linie_) {
+        const qint64 id = wiersze.size();
+        if (l.klucz == zaznacz) wybrany = id;
+        wiersze.append({id,
+                        {QString(l.nazwisko + QLatin1Char(' ') + l.imie).trimmed(),
+                         FormatNumeru(l.klucz.prcId), l.klucz.lista.toUpper()}});
+    }
+    setWindowTitle(lista_.tytul());
+    labIleWierszy_->setText(QStringLiteral("Pracowników na liście: %1").arg(linie_.size()));
+    lvwPlace_->ustawPodpowiedz(
+        lista_.zablokowany()
+            ? QStringLiteral("Lista jest pusta.")
+            : QStringLiteral(
+                  "Lista jest pusta.\nPrzycisk „Nowy prac.” dopisuje do niej pracowników z kadr."));
+    pasek_->ustawDostepnosc(lista_.zablokowany(), linie_.isEmpty());
+    lvwPlace_->ustaw(std::move(wiersze), wybrany);
+    if (!linie_.isEmpty()) return;
+    zakladki_->Wyczysc_daneP();
+    zakladki_->Blokada(true);
+    pokazNaglowek();
+    pokazOznaczenie();
+}
+
+void frmPlaceLista::wybierzWiersz(qint64 id) {
+    zakladki_->zakoncz();
+    wypiszWiersz(linie_.at(id).klucz);
+}
+
+void frmPlaceLista::wypiszWiersz(const KluczListy& klucz) {
+    const bool jest = lista_.Wypisz_daneP(klucz);
+    zakladki_->Wypisz_daneP();
+    zakladki_->Blokada(!jest || lista_.zablokowany());
+    pokazNaglowek();
+    pokazOznaczenie();
+}
+
+void frmPlaceLista::wypiszBiezacy() {
+    if (const auto klucz = biezacy()) wypiszWiersz(*klucz);
+}
+
+void frmPlaceLista::pokazPonownie() {
+    zakladki_->porzucSumy();
+    if (o_.sesja.rsPLA.otwarty())
+        wypiszBiezacy();
+    else
+        QDialog::done(Rejected); // the month itself is gone
+}
+
+void frmPlaceLista::pokazNaglowek() {
+    const Recordset& a = o_.sesja.rsPLA;
+    const bool jest = lista_.wiersz() && a.naWierszu();
+    labPracownik_->setText(jest ? FormatNumeru(a.liczba(PLA("PRC_ID"))) + QStringLiteral("  ") +
+                                      a.tekst(PLA("NAZ")) + QLatin1Char(' ') + a.tekst(PLA("IMIE"))
+                                : QString());
+    labKwoty_->setText(
+        jest ? QStringLiteral("Brutto: %1     Do wypłaty: %2")
+                   .arg(FormatKwoty(a.kwota(PLA("BRUTTO"))), FormatKwoty(a.kwota(PLA("DO_WYPLATY"))))
+             : QString());
+}
+
+void frmPlaceLista::oznacz(const KluczListy& klucz, bool doPrzeliczenia) {
+    if (doPrzeliczenia)
+        doPrzeliczenia_.emplace(klucz.prcId, klucz.lista);
+    else
+        doPrzeliczenia_.erase({klucz.prcId, klucz.lista});
+    pokazOznaczenie();
+}
+
+void frmPlaceLista::pokazOznaczenie() {
+    const auto klucz = biezacy();
+    const bool czeka = klucz && doPrzeliczenia_.contains({klucz->prcId, klucz->lista});
+    pasek_->oznaczDoPrzeliczenia(czeka);
+    zakladki_->wyroznij(ZakladkiListy::Placa, czeka);
+    zakladki_->wyroznij(ZakladkiListy::Dodatnie, false);
+}
+
+void frmPlaceLista::nowy() {
+    zakladki_->zakoncz();
+    const QList<qint64> osoby = frmWybPr::wybierz(o_, kTrybPracujacy, frmWybPr::Ilu::Wielu, this);
+    if (osoby.isEmpty()) return wypiszBiezacy(); // the picker has moved the personnel handles
+    const Klepsydra klepsydra;
+    zakladki_->porzucSumy();
+    if (osoby.size() == 1)
+        dodajJednego(osoby.first());
+    else
+        dodajWielu(osoby);
+}
+
+void frmPlaceLista::dodajJednego(qint64 prcId) {
+    const auto dodany = lista_.Nowy_prac(prcId);
+    if (!dodany) return wypiszBiezacy();
+    doPrzeliczenia_.emplace(dodany->prcId, dodany->lista);
+    linie_ = lista_.Wczytaj_listep();
+    pokazListe(dodany);
+    zakladki_->setCurrentIndex(ZakladkiListy::Dodatnie);
+    zakladki_->wyroznij(ZakladkiListy::Dodatnie, true);
+}
+
+void frmPlaceLista::dodajWielu(const QList<qint64>& osoby) {
+    auto zaznacz = biezacy();
+    std::set<Wiersz> przedtem;
+    for (const LiniaListy& l : linie_) przedtem.emplace(l.klucz.prcId, l.klucz.lista);
+    const RaportSerii raport = lista_.DodajPracownikow(osoby);
+    linie_ = lista_.Wczytaj_listep();
+    QHash<qint64, KluczListy> dodani;
+    for (const LiniaListy& l : linie_)
+        if (!przedtem.contains({l.klucz.prcId, l.klucz.lista})) dodani.insert(l.klucz.prcId, l.klucz);
+    const auto ostatni =
+        std::find_if(osoby.rbegin(), osoby.rend(), [&](qint64 nr) { return dodani.contains(nr); });
+    if (ostatni != osoby.rend()) zaznacz = dodani.value(*ostatni);
+    pokazListe(zaznacz);
+    raport.pokaz(o_.rozmowa);
+}
+
+void frmPlaceLista::usun() {
+    zakladki_->zakoncz();
+    const auto klucz = biezacy();
+    if (!klucz || !lista_.Usun_prac()) return;
+    oznacz(*klucz, false);
+    const qint64 id = lvwPlace_->wybrany();
+    const qint64 sasiad = id + 1 < linie_.size() ? id + 1 : id - 1;
+    const auto zaznacz = sasiad >= 0 ? std::optional(linie_.at(sasiad).klucz) : std::nullopt;
+    linie_ = lista_.Wczytaj_listep();
+    pokazListe(zaznacz);
+}
+
+void frmPlaceLista::przelicz() {
+    zakladki_->zakoncz();
+    const Klepsydra klepsydra;
+    lista_.Przelicz1();
+    zakladki_->przyjmijSumy();
+    zakladki_->Wypisz_daneP();
+    pokazNaglowek();
+    if (const auto klucz = biezacy()) oznacz(*klucz, false);
+}
+
+void frmPlaceLista::przepisz() {
+    zakladki_->zakoncz();
+    const Klepsydra klepsydra;
+    lista_.Przelicz2();
+    zakladki_->porzucSumy();
+    zakladki_->Wypisz_daneP();
+    if (const auto klucz = biezacy()) oznacz(*klucz, true);
+}
+
+void frmPlaceLista::przeliczDni() {
+    zakladki_->zakoncz();
+    lista_.Przelicz_Dni();
+    zakladki_->Wypisz_daneP();
+    zakladki_->setCurrentIndex(ZakladkiListy::CzasPracy);
+}
+
+void frmPlaceLista::seria(const QList<Obliczenie>& obliczenia) {
+    zakladki_->zakoncz();
+    const Klepsydra klepsydra;
+    QList<KluczListy> klucze;
+    for (const LiniaListy& l : linie_) klucze.append(l.klucz);
+    zakladki_->porzucSumy();
+    for (const Obliczenie obliczenie : obliczenia) {
+        const RaportSerii raport = lista_.PrzeliczSerie(obliczenie, klucze);
+        QSet<qint64> nieudane;
+        for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia) nieudane.insert(n.prcId);
+        const qsizetype ile = raport.wykonane + raport.pominiete + raport.niepowodzenia.size();
+        for (const KluczListy& k : klucze.first(ile)) {
+            if (nieudane.contains(k.prcId)) continue;
+            if (obliczenie == Obliczenie::Przepisanie)
+                doPrzeliczenia_.emplace(k.prcId, k.lista);
+            else if (obliczenie == Obliczenie::Przeliczenie)
+                doPrzeliczenia_.erase({k.prcId, k.lista});
+        }
+        raport.pokaz(o_.rozmowa);
+        if (raport.przerwana) break;
+    }
+    wypiszBiezacy();
+}
+
+void frmPlaceLista::done(int wynik) {
+    zakladki_->zakoncz();
+    const Klepsydra klepsydra;
+    try {
+        lista_.ZapiszSumy();
+    } catch (const Blad& blad) {
+        // Sums that cannot be formed or stored must not keep the clerk on the screen: they are made anew at
+        // the next closing.
+        o_.sesja.rsPLACE.CancelBatch();
+        o_.rozmowa.komunikat(blad.komunikat(), Styl::Krytyczny);
+    }
+    o_.sesja.ZamknijMiesiac();
+    QDialog::done(wynik);
+}
+
+void frmPlaceLista::closeEvent(QCloseEvent* zdarzenie) {
+    // Refused in advance: should the field in work fail to be stored, the screen has to stay.
+    zdarzenie->ignore();
+    reject();
+    zdarzenie->setAccepted(!isVisible());
+}
+
+void frmPlaceLista::nastepnePole() {
+    focusNextChild();
+    // Past the last field the row is ready to be computed.
+    if (!zakladki_->isAncestorOf(focusWidget())) pasek_->przejdzDoPrzelicz();
+}
+
+void frmPlaceLista::keyPressEvent(QKeyEvent* zdarzenie) {
+    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
+    if (enter) {
+        if (auto* naPrzycisku = qobject_cast<QPushButton*>(focusWidget()))
+            naPrzycisku->click();
+        else
+            nastepnePole();
+    } else if (zdarzenie->key() != Qt::Key_Escape || !zakladki_->cofnijWpisywane()) {
+        QDialog::keyPressEvent(zdarzenie);
+    }
+}
+
+} // namespace tornel::payroll

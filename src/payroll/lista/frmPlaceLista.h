@@ -1,0 +1,81 @@
+// The working place of a payroll month: its list, the tabs of the row chosen, and the calculations.
+#pragma once
+#include "payroll/lista/ListaPlac.h"
+#include "payroll/miesiace/Miesiace.h"
+#include "payroll/nieobecnosci/frmWykazy.h"
+#include "rules/Otoczenie.h"
+#include <optional>
+#include <QDialog>
+#include <QList>
+#include <set>
+#include <utility>
+
+class QLabel;
+
+namespace tornel::okna {
+class WidokListy;
+} // namespace tornel::okna
+
+namespace tornel::payroll {
+
+class PasekListy;
+class ZakladkiListy;
+
+class frmPlaceLista : public QDialog {
+    Q_OBJECT
+public:
+    /// Opens the month on the session's handles; closing the screen closes it. `symbol`: a blank for all
+    /// lists. Throws `Blad` for a month that is not there.
+    frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic = nullptr);
+    ~frmPlaceLista() override;
+
+    /// Stores what is pending and the month sums, then closes the month. It stays open when the field in work
+    /// cannot be stored.
+    void done(int wynik) override;
+
+protected:
+    void closeEvent(QCloseEvent* zdarzenie) override;
+    void keyPressEvent(QKeyEvent* zdarzenie) override;
+
+private:
+    void polacz();
+    void budujSkroty();
+    [[nodiscard]] QWidget* lewaStrona();
+    [[nodiscard]] QWidget* prawaStrona();
+
+    /// Fills the list with the rows read and chooses `zaznacz`, else the first.
+    void pokazListe(const std::optional<KluczListy>& zaznacz);
+    void wybierzWiersz(qint64 id);
+    void wypiszWiersz(const KluczListy& klucz);
+    void wypiszBiezacy();
+    void pokazPonownie();
+    void pokazNaglowek();
+    [[nodiscard]] std::optional<KluczListy> biezacy() const;
+
+    void nowy();
+    void dodajJednego(qint64 prcId);
+    void dodajWielu(const QList<qint64>& osoby);
+    void usun();
+    void przelicz();
+    void przepisz();
+    void przeliczDni();
+    void seria(const QList<Obliczenie>& obliczenia);
+    void oznacz(const KluczListy& klucz, bool doPrzeliczenia);
+    void pokazOznaczenie();
+    void nastepnePole();
+
+    using Wiersz = std::pair<qint64, QString>;
+
+    Otoczenie& o_;
+    WykazyOkien wykazy_{this};
+    ListaPlac lista_;
+    QList<LiniaListy> linie_;
+    /// Rows that wait for `Przelicz1`: their components were changed here since the last calculation.
+    std::set<Wiersz> doPrzeliczenia_;
+    WidokListy* lvwPlace_;
+    ZakladkiListy* zakladki_;
+    PasekListy* pasek_;
+    QLabel *labPracownik_, *labKwoty_, *labIleWierszy_;
+};
+
+} // namespace tornel::payroll

@@ -1,0 +1,41 @@
+// The row of buttons under a payroll list, with the menus of the whole list and of the prints.
+#pragma once
+#include "payroll/lista/ListaPlac.h"
+#include <QList>
+#include <QWidget>
+
+class QPushButton;
+
+namespace tornel::payroll {
+
+class PasekListy : public QWidget {
+    Q_OBJECT
+public:
+    explicit PasekListy(QWidget* rodzic = nullptr);
+
+    /// Opens and closes the buttons: nothing is changed in a blocked month, and a list without rows can only
+    /// be added to.
+    void ustawDostepnosc(bool zablokowany, bool pusta);
+    /// Whether the row chosen waits for `Przelicz1`.
+    void oznaczDoPrzeliczenia(bool tak);
+    /// Where the clerk goes on from the last field, and from an empty list.
+    void przejdzDoPrzelicz();
+    void przejdzDoNowy();
+
+signals:
+    void nowy();
+    void usun();
+    void przepisz();
+    void przeliczDni();
+    void przelicz();
+    void seria(const QList<Obliczenie>& obliczenia);
+    void powrot();
+
+private:
+    void budujMenu();
+
+    QPushButton *cmdNowy_, *cmdUsun_, *cmdPrzepisz_, *cmdDni_, *cmdPrzelicz_, *cmdCalaLista_, *cmdDrukuj_,
+        *cmdAnuluj_;
+};
+
+} // namespace tornel::payroll

@@ -1,0 +1,50 @@
+// The payroll months: making, deleting and blocking them, their summary, and the way to a month's list.
+#pragma once
+#include "okna/Wiazanie.h"
+#include "payroll/miesiace/Miesiace.h"
+#include "rules/Otoczenie.h"
+#include <optional>
+#include <QDialog>
+
+class QPushButton;
+
+namespace tornel::okna {
+class WidokListy;
+} // namespace tornel::okna
+
+namespace tornel::payroll {
+
+class frmPlace : public QDialog {
+    Q_OBJECT
+public:
+    /// Opens the month headers anew. Throws `BladBazy`.
+    explicit frmPlace(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
+
+    /// Stores the month's note first; it stays open when that fails.
+    void done(int wynik) override;
+
+protected:
+    void closeEvent(QCloseEvent* zdarzenie) override;
+
+private:
+    void budujPrzyciski();
+    [[nodiscard]] QWidget* ramki();
+    void Wczytaj_liste(std::optional<RokMies> zaznacz = {});
+    void Wypisz_dane(std::optional<RokMies> miesiac);
+    void zapiszOpis();
+    void pokazPonownie();
+    void nowy();
+    void usun();
+    void blokuj();
+    void WejdzNaListe();
+
+    Otoczenie& o_;
+    Miesiace miesiace_;
+    ZrodloWierszy zrodlo_;
+    Wiazanie wiazanie_;
+    std::optional<RokMies> biezacy_;
+    WidokListy* lvwLista_;
+    QPushButton *cmdNowy_, *cmdUsun_, *cmdBlokada_, *cmdWejdz_, *cmdAnuluj_;
+};
+
+} // namespace tornel::payroll

@@ -1,0 +1,60 @@
+// The road from the command line to an open session, for the window program and the console alike.
+#pragma once
+#include "common/Blad.h"
+#include "rules/Otoczenie.h"
+#include "rules/SkladnikiPlac.h"
+#include "rules/Stale.h"
+#include "store/Sesja.h"
+#include <memory>
+#include <QString>
+
+namespace tornel::start {
+
+/// The switches of the command line. Only `aktua` has an effect; the two others are read and kept,
+/// deliberately.
+struct Przelaczniki {
+    bool admin = false;
+    bool clrpwd = false;
+    bool aktua = false;
+};
+
+/// Splits the command line at "/": the pieces from the second on, trimmed and in any case, are switches;
+/// unknown ones are ignored without a word.
+[[nodiscard]] Przelaczniki CzytajPrzelaczniki(const QString& wierszPolecen);
+
+/// The path of the database: the first line of `Baza.ini` in `folderProgramu` if that file names an existing
+/// one (otherwise a critical message), else `Tornel.mdb` in that folder.
+[[nodiscard]] QString ZnajdzBaze(const QString& folderProgramu, Rozmowa& rozmowa);
+
+/// `StylDaty`: 2 if the short date in which the program writes "13-01-2000" reads just so, otherwise 1.
+[[nodiscard]] int StylDaty();
+
+/// Everything that lives from start to end: the session, the constants, the catalogue, and the user's side.
+class Program {
+public:
+    /// `PStart`, the constants and the users: opens the database with its standing handles, loads the
+    /// catalogue and the constants, and makes sure that one user exists. `folderProgramu` is the default of
+    /// the folder constants. Throws `BladStartu`.
+    Program(const QString& sciezka, const QString& folderProgramu, Rozmowa& rozmowa);
+
+    Sesja& sesja() { return *sesja_; }
+    Otoczenie& otoczenie() { return *otoczenie_; }
+
+private:
+    std::unique_ptr<Sesja> sesja_;
+    Stale stale_;
+    SkladnikiPlac skladniki_;
+    std::unique_ptr<Otoczenie> otoczenie_;
+};
+
+/// The program cannot start: "Procedura 'PStart': błąd w lini: " with the number of the step, and the cause.
+class BladStartu : public Blad {
+public:
+    BladStartu(int krok, const QString& przyczyna);
+};
+
+/// Makes a new database from the template: all tables, the 45 components, the constants' defaults and the
+/// user "Admin". An existing file is refused. Throws `Blad`; no file is left behind then.
+void UtworzBazeZSzablonu(const QString& sciezka, const QString& folderProgramu, Rozmowa& rozmowa);
+
+} // namespace tornel::start
