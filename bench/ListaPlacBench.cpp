@@ -80,7 +80,7 @@ enum class Absencje { Brak, Sa };
 
 void zapelnijRejestry(Program& program, Absencje absencje, int miesiac) {
     Polaczenie& baza = program.sesja().cnPlace;
-    Transakcja transakcja(baza);
+    Transakcja transakcja(baza, u"Dane pomiaru");
     baza.wykonaj("DELETE FROM URL; DELETE FROM ZW; DELETE FROM KALENDARZ");
     for (int m = 1; absencje == Absencje::Sa && m <= miesiac; ++m) {
         const std::string rm = "2001-" + FormatMiesiaca(m).toStdString() + "-";

@@ -1,4 +1,5 @@
 #include "bench/Surowe.h"
+#include "store/Struktura.h"
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>

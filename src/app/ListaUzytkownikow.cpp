@@ -67,7 +67,7 @@ bool ListaUzytkownikow::nazwaWolna(const QString& nazwa) const {
 
 void ListaUzytkownikow::zapisz() {
     try {
-        o_.sesja.rsUZYTKOWNICY.UpdateBatch();
+        o_.sesja.rsUZYTKOWNICY.UpdateBatch(u"Zmiana listy użytkowników");
     } catch (...) {
         o_.sesja.rsUZYTKOWNICY.CancelBatch();
         throw;

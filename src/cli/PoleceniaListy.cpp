@@ -39,7 +39,7 @@ QList<LiniaListy> wierszeListy(const Wywolanie& w, Sesja& sesja, ListaPlac& list
 
 /// Runs the batch and stores the month's sums with it, as one action; tells how it ended.
 int wykonajSerie(Wywolanie& w, ListaPlac& lista, const std::function<RaportSerii()>& seria) {
-    Transakcja transakcja(w.otoczenie().sesja.cnPlace);
+    Transakcja transakcja(w.otoczenie().sesja.cnPlace, u"Seria na liście płac");
     const RaportSerii raport = seria();
     lista.ZapiszSumy();
     transakcja.zatwierdz();

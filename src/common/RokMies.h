@@ -17,6 +17,9 @@ struct RokMies {
         return {static_cast<int>(id / 100), static_cast<int>(id % 100)};
     }
 
+    /// "200107", as it stands in the names of month tables and in columns `ROKMIES`.
+    [[nodiscard]] QString klucz() const { return FormatRoku(rok) + FormatMiesiaca(mies); }
+
     [[nodiscard]] QDate pierwszyDzien() const { return PierwszyDzien(rok, mies); }
     [[nodiscard]] QDate ostatniDzien() const { return OstatniDzien(rok, mies); }
     [[nodiscard]] int dni() const { return DniWMiesiacu(rok, mies); }

@@ -131,7 +131,7 @@ bool Kalendarz::Nowy_dniwolne(const MiesiacKalendarza& miesiac, Swieta swieta) {
     TrescMiesiaca tresc{DniKalendarza::nowyMiesiac(rok, mies), {}};
     if (swieta == Swieta::Zaznaczone) ZaznaczSwieta(tresc, rok, mies);
     dopisz(rs, miesiac, tresc);
-    rs.UpdateBatch();
+    rs.UpdateBatch(QStringLiteral("Nowy miesiąc dni wolnych %1").arg(NapisMiesiaca(rok, mies)));
     return true;
 }
 
@@ -139,7 +139,7 @@ void Kalendarz::ZapiszDni(const MiesiacKalendarza& miesiac, const TrescMiesiaca&
     Recordset rs = otworzMiesiac(o_, miesiac);
     if (!rs.naWierszu()) brakMiesiaca(miesiac);
     wpisz(rs, tresc);
-    rs.UpdateBatch();
+    rs.UpdateBatch(QStringLiteral("Dni wolne %1").arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
 }
 
 bool Kalendarz::Usun(const MiesiacKalendarza& miesiac) {
@@ -152,7 +152,7 @@ bool Kalendarz::Usun(const MiesiacKalendarza& miesiac) {
                   "Czy na pewno chcesz usunąć miesiąc z listy dni wolnych dla wybranego pracownika ?");
     if (!o_.rozmowa.pytanie(pytanie)) return false;
     rs.Delete();
-    rs.UpdateBatch();
+    rs.UpdateBatch(QStringLiteral("Usunięcie dni wolnych %1").arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
     return true;
 }
 
@@ -163,7 +163,7 @@ bool Kalendarz::UsunPracownika(qint64 prcId) {
         return false;
     Recordset rs = otworz(o_, {rowne(KALENDARZ("PrcId"), prcId)});
     for (rs.MoveFirst(); !rs.EOF_(); rs.MoveFirst()) rs.Delete();
-    rs.UpdateBatch();
+    rs.UpdateBatch(QStringLiteral("Usunięcie dni wolnych pracownika nr %1").arg(prcId));
     return true;
 }
 
@@ -184,7 +184,7 @@ bool Kalendarz::SwietaRoku(qint64 prcId, int rok) {
         ZaznaczSwieta(tresc, rok, static_cast<int>(rs.liczba(KALENDARZ("Mies"))));
         wpisz(rs, tresc);
     }
-    rs.UpdateBatch();
+    rs.UpdateBatch(QStringLiteral("Święta ustawowe %1 roku").arg(rok));
     return true;
 }
 
@@ -211,7 +211,7 @@ WynikTransportu Kalendarz::przenies(const MiesiacKalendarza& ogolny, const Tresc
         ++(jest && istniejace == Istniejace::Pomijac ? wynik.pominiete : wynik.zapisane);
         wynik.przerwany = !postep->krok(i + 1, QStringLiteral("Pracownik nr %1").arg(prcId)) && i + 1 < ile;
     }
-    rs.UpdateBatch();
+    rs.UpdateBatch(u"Transport dni wolnych do pracowników");
     return wynik;
 }
 

@@ -137,8 +137,10 @@ bool KartotekaPracownika::zmienionyPracownik() const {
 }
 
 void KartotekaPracownika::Zapisz() {
-    Transakcja transakcja(o_.sesja.cnPlace);
-    for (Recordset* rs : tabele_) rs->UpdateBatch();
+    Transakcja transakcja(o_.sesja.cnPlace,
+                          prcId_ ? QStringLiteral("Zmiana danych pracownika nr %1").arg(*prcId_)
+                                 : QStringLiteral("Zmiana danych pracowników"));
+    for (Recordset* rs : tabele_) rs->UpdateBatch(transakcja);
     transakcja.zatwierdz();
     dziennik_.clear();
 }

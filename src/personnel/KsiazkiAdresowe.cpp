@@ -21,6 +21,7 @@ constexpr UzycieNumeru kUzyciaMiejsca[] = {
 const KartotekaDef& UrzedySkarbowe() {
     static const KartotekaDef def{
         .uchwyt = &Sesja::rsUS,
+        .czynnosc = u"Urzędy skarbowe",
         .pytanie = u"Czy na pewno usunąć wybrany urząd skarbowy z listy urzędów ?",
         .odmowa = u"Nie można usunąć wybranego urzędu skarbowego, ponieważ jest używany.",
         .uzycia = kUzyciaUrzedu,
@@ -33,6 +34,7 @@ const KartotekaDef& UrzedySkarbowe() {
 const KartotekaDef& MiejscaPracy() {
     static const KartotekaDef def{
         .uchwyt = &Sesja::rsM_PRACY,
+        .czynnosc = u"Adresy działalności",
         .pytanie = u"Czy na pewno usunąć wybrany adres działalności z listy adresów ?",
         .odmowa = u"Nie można usunąć wybranego adresu działalności, ponieważ jest używany.",
         .nowy = {{schemat::M_PRACY("zza"), QStringLiteral("0")}},

@@ -199,9 +199,9 @@ void Pracownicy::dodajRekordy(const DaneNowegoPracownika& dane, int oiZua) {
     s.rsPRACSK.ustaw(PRACSK("dod"), static_cast<qint64>(maski.akt_sp));
     s.rsPRACSK.ustaw(PRACSK("pot"), static_cast<qint64>(maski.akt_sm));
 
-    Transakcja transakcja(s.cnPlace);
+    Transakcja transakcja(s.cnPlace, QStringLiteral("Nowy pracownik nr %1").arg(dane.prcId));
     for (Recordset* rs : {&s.rsPRACDP, &s.rsPRACPR, &s.rsPRACINF, &s.rsPRACSK, &s.rsPRACZUS})
-        rs->UpdateBatch();
+        rs->UpdateBatch(transakcja);
     transakcja.zatwierdz();
 }
 
@@ -225,15 +225,15 @@ bool Pracownicy::UsunPracownika(qint64 prcId) {
         QStringLiteral("Czy kontynuować ?");
     if (!o_.rozmowa.pytanie(ostrzezenie, QStringLiteral("Ostrzeżenie !"))) return false;
 
-    Transakcja transakcja(s.cnPlace);
+    Transakcja transakcja(s.cnPlace, QStringLiteral("Usunięcie pracownika nr %1").arg(prcId));
     while (rodzina.RecordCount() > 0) {
         rodzina.MoveFirst();
         rodzina.Delete();
     }
-    rodzina.UpdateBatch();
+    rodzina.UpdateBatch(transakcja);
     for (Recordset* rs : {&s.rsPRACDP, &s.rsPRACPR, &s.rsPRACINF, &s.rsPRACSK, &s.rsPRACZUS}) {
         if (rs->Znajdz(prcId)) rs->Delete();
-        rs->UpdateBatch();
+        rs->UpdateBatch(transakcja);
     }
     transakcja.zatwierdz();
     return true;

@@ -66,14 +66,14 @@ bool RejestrNieobecnosci::Wypisz(const WierszRejestru& wiersz) {
 
 void RejestrNieobecnosci::Wpisz() {
     uchwyt_.ustaw(kolumna("Kwota"), Round(uchwyt_.kwota(kolumna("Kwota")), 2));
-    uchwyt_.UpdateBatch();
+    uchwyt_.UpdateBatch(u"Zmiana w rejestrze nieobecności");
 }
 
 bool RejestrNieobecnosci::Usun() {
     if (!o_.rozmowa.pytanie(teksty_.usunac.toString())) return false;
     try {
         uchwyt_.Delete();
-        uchwyt_.UpdateBatch();
+        uchwyt_.UpdateBatch(u"Usunięcie z rejestru nieobecności");
     } catch (...) {
         uchwyt_.CancelBatch();
         throw;
@@ -109,7 +109,7 @@ qint64 RejestrNieobecnosci::dopisz(qint64 prcId, const ZakresDat& zakres,
         uchwyt_.ustaw(kolumna("Data"), zakres.od);
         uchwyt_.ustaw(kolumna("data_do"), zakres.dokad);
         for (const auto& [kolumnaRejestru, wartosc] : wartosci) uchwyt_.ustaw(kolumnaRejestru, wartosc);
-        uchwyt_.UpdateBatch();
+        uchwyt_.UpdateBatch(QStringLiteral("Nowa nieobecność pracownika nr %1").arg(prcId));
     } catch (...) {
         uchwyt_.CancelBatch();
         throw;

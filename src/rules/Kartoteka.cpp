@@ -70,7 +70,7 @@ qint64 Kartoteka::Nowy() {
     try {
         rs.AddNewZero(numer);
         for (const auto& [kolumna, wartosc] : def_.nowy) rs.ustaw(kolumna, wartosc);
-        rs.UpdateBatch();
+        rs.UpdateBatch(def_.czynnosc.toString() + QStringLiteral(": nowa pozycja nr %1").arg(numer));
     } catch (...) {
         rs.CancelBatch();
         throw;
@@ -105,7 +105,7 @@ bool Kartoteka::Usun(qint64 numer) {
     Recordset& rs = tabela();
     try {
         rs.Delete();
-        rs.UpdateBatch();
+        rs.UpdateBatch(def_.czynnosc.toString() + QStringLiteral(": usunięcie pozycji nr %1").arg(numer));
     } catch (...) {
         rs.CancelBatch();
         throw;

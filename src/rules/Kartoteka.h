@@ -22,8 +22,9 @@ struct UzycieNumeru {
 /// One such table.
 struct KartotekaDef {
     Recordset Sesja::*uchwyt = nullptr;
-    QStringView pytanie; ///< the question before deleting
-    QStringView odmowa;  ///< the message for a record in use; who uses it follows
+    QStringView czynnosc; ///< the list, by which the journal names its changes
+    QStringView pytanie;  ///< the question before deleting
+    QStringView odmowa;   ///< the message for a record in use; who uses it follows
     /// Values of a new record other than 0 and the empty text.
     std::vector<std::pair<Kolumna, Wartosc>> nowy = {};
     std::span<const UzycieNumeru> uzycia = {};
@@ -47,7 +48,7 @@ public:
     /// then nothing is added.
     qint64 Nowy();
     /// Writes what was changed in memory. Throws `BladBazy`; the changes then stay pending.
-    void Wpisz() { tabela().UpdateBatch(); }
+    void Wpisz() { tabela().UpdateBatch(def_.czynnosc.toString() + QStringLiteral(": zmiana pozycji")); }
     /// Asks and deletes. False on No, or after a message that names those who use the record: it is refused
     /// then, whatever the clerk would answer. Reads the tables of `uzycia` and `PRACDP` from the file. Throws
     /// `Blad` for an unknown number, `BladBazy`; then nothing is deleted.

@@ -65,7 +65,7 @@ void zapisz(Recordset& rs, const StalaDef& stala, const Stale& stale) {
 void utrwal(Recordset& rs) {
     if (!rs.zmieniony()) return;
     try {
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Stałe programu");
     } catch (...) {
         rs.CancelBatch();
         throw;

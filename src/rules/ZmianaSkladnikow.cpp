@@ -40,7 +40,7 @@ void Zapisz_zmiany(Otoczenie& otoczenie, const KatalogSkladnikow& katalog) {
     try {
         for (int n = 1; n <= kDodatnich + kUjemnych; ++n)
             wpisz(rs, n, katalog[static_cast<std::size_t>(n) - 1]);
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Zmiana składników płac");
     } catch (...) {
         rs.CancelBatch();
         throw;

@@ -57,9 +57,9 @@ void DodajNieobecnosciPrzykladu(Otoczenie& otoczenie, int od, int dokad) {
             zwolnienia.ustaw(ZW("kodswprz"), QStringLiteral("331"));
         }
     }
-    Transakcja transakcja(sesja.cnPlace);
-    urlopy.UpdateBatch();
-    zwolnienia.UpdateBatch();
+    Transakcja transakcja(sesja.cnPlace, u"Nieobecności firmy przykładowej");
+    urlopy.UpdateBatch(transakcja);
+    zwolnienia.UpdateBatch(transakcja);
     transakcja.zatwierdz();
 }
 

@@ -102,8 +102,8 @@ void DodajPracownikowPrzykladu(Sesja& sesja, int od, int dokad) {
         }
         wlasneDane(sesja, ciag);
     }
-    Transakcja transakcja(sesja.cnPlace);
-    for (Recordset* rs : tabele) rs->UpdateBatch();
+    Transakcja transakcja(sesja.cnPlace, u"Pracownicy firmy przykładowej");
+    for (Recordset* rs : tabele) rs->UpdateBatch(transakcja);
     transakcja.zatwierdz();
 }
 

@@ -128,7 +128,7 @@ void przeznaczNaPrzelewy(Sesja& sesja) {
     for (pla.MoveFirst(); !pla.EOF_(); pla.MoveNext())
         if (sesja.rsPRACPR.Znajdz(pla.liczba(PLA("PRC_ID"))) && sesja.rsPRACPR.flaga(PRACPR("czy_konto")))
             pla.ustaw(PLA("PRZELEWEM"), pla.kwota(PLA("DO_WYPLATY")));
-    pla.UpdateBatch();
+    pla.UpdateBatch(u"Przelewy firmy przykładowej");
 }
 
 /// The month's overtime, of those whom the firm has.
@@ -165,7 +165,7 @@ void utworzFirme(const QString& sciezka, int pracownikow, int miesiecy, const QS
     Program program(sciezka, folderProgramu, rozmowa);
     Otoczenie& o = program.otoczenie();
     {
-        Transakcja transakcja(o.sesja.cnPlace);
+        Transakcja transakcja(o.sesja.cnPlace, u"Firma przykładowa");
         ustawFirme(o);
         zatrudnij(o, pracownikow);
         wpiszNieobecnosci(o, pracownikow);

@@ -3,6 +3,7 @@
 #include "common/Rozmowa.h"
 #include "rules/Konfiguracja.h"
 #include "start/Uzytkownicy.h"
+#include "store/Struktura.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -63,6 +64,12 @@ Program::Program(const QString& sciezka, const QString& folderProgramu, Rozmowa&
     } catch (const Blad& blad) {
         throw BladStartu(krok, blad.komunikat());
     }
+    if (const auto& zmiana = sesja_->zmianaWersji())
+        rozmowa.komunikat(
+            QStringLiteral("Baza danych została przystosowana do tej wersji programu. Poprzednia "
+                           "baza danych jest w pliku „%1”.")
+                .arg(zmiana->kopia),
+            Styl::Informacja);
     otoczenie_ = std::make_unique<Otoczenie>(Otoczenie{*sesja_, stale_, skladniki_, rozmowa});
 }
 
@@ -82,7 +89,7 @@ void wypelnijSkladniki(Sesja& sesja) {
         for (qsizetype i = 1; i < nazwy.size(); ++i)
             szPl.ustaw(schemat::SZ_PL.nr(schemat::SZ_PL.numer(nazwy[i].toStdString())), pola.value(i));
     }
-    szPl.UpdateBatch();
+    szPl.UpdateBatch(u"Składniki płac nowej bazy");
 }
 
 } // namespace

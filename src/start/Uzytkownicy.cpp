@@ -20,7 +20,7 @@ void InitUzytkownicy(Sesja& sesja) {
     rs.ustaw(kNazwa, QStringLiteral("Admin"));
     rs.ustaw(kTyp, 0);
     rs.ustaw(kHaslo, QString());
-    rs.UpdateBatch();
+    rs.UpdateBatch(u"Pierwszy użytkownik");
 }
 
 bool SprawdzLogin(Sesja& sesja, const QString& nazwa, const QString& haslo) {
@@ -50,7 +50,7 @@ ZmianaHasla SprHaslo(Otoczenie& otoczenie, const QString& stare, const QString& 
                      ZmianaHasla::BrakUzytkownika);
     rs.ustaw(kHaslo, nowe.trimmed());
     try {
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Zmiana hasła");
     } catch (...) {
         rs.CancelBatch();
         throw;

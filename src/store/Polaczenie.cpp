@@ -2,6 +2,7 @@
 #include "common/Blad.h"
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <sqlite3.h>
 
 namespace tornel::store {
@@ -182,19 +183,26 @@ bool Polaczenie::jestTabela(const QString& nazwa) {
 qint64 Polaczenie::ostatniWiersz() const { return sqlite3_last_insert_rowid(baza_); }
 bool Polaczenie::wTransakcji() const { return sqlite3_get_autocommit(baza_) == 0; }
 
-void Polaczenie::zglosBlad(const QString& czynnosc) const {
-    throw BladBazy(QStringLiteral("%1 (plik „%2”): %3.").arg(czynnosc, sciezka_, przyczyna(baza_)));
+void Polaczenie::zglosBlad(const QString& krok) const {
+    const QString co =
+        czynnosc_.isEmpty() ? krok : QStringLiteral("Nie można wykonać czynności „%1”").arg(czynnosc_);
+    throw BladBazy(QStringLiteral("%1 (plik „%2”): %3.").arg(co, sciezka_, przyczyna(baza_)));
 }
 
-Transakcja::Transakcja(Polaczenie& polaczenie)
+Transakcja::Transakcja(Polaczenie& polaczenie, QStringView czynnosc)
     : polaczenie_(polaczenie), zewnetrzna_(!polaczenie.wTransakcji()) {
-    if (zewnetrzna_) polaczenie_.wykonaj("BEGIN IMMEDIATE");
+    if (!zewnetrzna_) return;
+    polaczenie_.czynnosc_ = czynnosc.toString();
+    auto bezNazwy = qScopeGuard([this] { polaczenie_.czynnosc_.clear(); });
+    polaczenie_.wykonaj("BEGIN IMMEDIATE");
+    bezNazwy.dismiss();
 }
 
 Transakcja::~Transakcja() {
     // An engine failure such as a full disk may have rolled back already.
     if (zewnetrzna_ && !zatwierdzona_ && polaczenie_.wTransakcji())
         sqlite3_exec(polaczenie_.uchwyt(), "ROLLBACK", nullptr, nullptr, nullptr);
+    if (zewnetrzna_) polaczenie_.czynnosc_.clear();
 }
 
 void Transakcja::zatwierdz() {

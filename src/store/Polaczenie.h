@@ -66,25 +66,33 @@ public:
     [[nodiscard]] const QString& sciezka() const { return sciezka_; }
     [[nodiscard]] qint64 ostatniWiersz() const; ///< rowid of the last insert
     [[nodiscard]] bool wTransakcji() const;
+    /// The name of the action that is open, empty outside one.
+    [[nodiscard]] const QString& czynnosc() const { return czynnosc_; }
     [[nodiscard]] sqlite3* uchwyt() const { return baza_; }
-    /// Throws `BladBazy` with the engine's cause.
-    [[noreturn]] void zglosBlad(const QString& czynnosc) const;
+    /// Throws `BladBazy` with the engine's cause, the file, and what could not be done: the action that is
+    /// open, or else `krok`.
+    [[noreturn]] void zglosBlad(const QString& krok) const;
 
 private:
+    friend class Transakcja;
     QString sciezka_;
+    QString czynnosc_;
     sqlite3* baza_ = nullptr;
 };
 
 /// One clerk's action. Rolls back unless `zatwierdz` ran. Inside an open transaction it joins that one: then
-/// only the outermost object begins, commits or rolls back.
+/// only the outermost object begins, commits or rolls back, and its name stands.
 class Transakcja {
 public:
-    explicit Transakcja(Polaczenie& polaczenie);
+    /// `czynnosc`: what the clerk does, in Polish words without a full stop, as "Nowy miesiąc 07.2001".
+    /// Failures name it.
+    Transakcja(Polaczenie& polaczenie, QStringView czynnosc);
     ~Transakcja();
     Transakcja(const Transakcja&) = delete;
     Transakcja& operator=(const Transakcja&) = delete;
     /// Commits. A failed commit throws `BladBazy`, and the whole action is undone in the file.
     void zatwierdz();
+    [[nodiscard]] bool dotyczy(const Polaczenie& polaczenie) const { return &polaczenie_ == &polaczenie; }
 
 private:
     Polaczenie& polaczenie_;

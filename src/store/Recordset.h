@@ -113,10 +113,13 @@ public:
 
     // Writing.
 
-    /// Writes the changed, new and deleted rows, in a transaction (its own, or the one that is open). Throws
-    /// `Konflikt` if a stored row is no longer the one that was read, `BladBazy` for any other failure; the
-    /// changes then stay pending in memory.
-    void UpdateBatch();
+    /// Writes the changed, new and deleted rows as a part of `akcja`. Throws `Konflikt` if a stored row is no
+    /// longer the one that was read, `BladBazy` for any other failure; the changes then stay pending in
+    /// memory.
+    void UpdateBatch(const Transakcja& akcja);
+    /// The same as an action of its own, named `czynnosc` in Polish; inside an open action, as a part of that
+    /// one.
+    void UpdateBatch(QStringView czynnosc);
     /// Drops all pending changes in memory.
     void CancelBatch();
     [[nodiscard]] bool zmieniony() const { return !oczekujace_.empty(); }
@@ -169,6 +172,8 @@ private:
     void wiazWiersz(Instrukcja& instrukcja, int wiersz) const;
     void sprawdzKonflikt(int wiersz);
     void zapiszWiersz(int wiersz);
+    void zapiszOczekujace(const Transakcja& akcja);
+    void uznajZapisane();
     int nowyWiersz();
     int nowyWierszZer();
     void przyjmijNowy(int wiersz);

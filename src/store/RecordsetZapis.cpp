@@ -110,16 +110,33 @@ void Recordset::zapiszWiersz(int wiersz) {
     zmien_->wiaz(szerokosc(), rowid_[w]).wykonaj();
 }
 
-void Recordset::UpdateBatch() {
-    if (oczekujace_.empty()) return;
-    Transakcja transakcja(*polaczenie_);
+void Recordset::zapiszOczekujace(const Transakcja& akcja) {
+    if (!akcja.dotyczy(*polaczenie_))
+        throw Blad(QStringLiteral("Tabela %1 należy do innego połączenia niż czynność „%2”.")
+                       .arg(nazwa_, polaczenie_->czynnosc()));
     for (const int wiersz : oczekujace_) zapiszWiersz(wiersz);
-    transakcja.zatwierdz();
+}
+
+void Recordset::uznajZapisane() {
     for (const int wiersz : oczekujace_)
         if (Stan& stan = stany_[static_cast<std::size_t>(wiersz)]; stan != Stan::Usuniety)
             stan = Stan::Czysty;
     oczekujace_.clear();
     oryginaly_.clear();
+}
+
+void Recordset::UpdateBatch(const Transakcja& akcja) {
+    if (oczekujace_.empty()) return;
+    zapiszOczekujace(akcja);
+    uznajZapisane();
+}
+
+void Recordset::UpdateBatch(QStringView czynnosc) {
+    if (oczekujace_.empty()) return;
+    Transakcja transakcja(*polaczenie_, czynnosc);
+    zapiszOczekujace(transakcja);
+    transakcja.zatwierdz();
+    uznajZapisane();
 }
 
 void Recordset::CancelBatch() {

@@ -182,6 +182,14 @@ inline constexpr auto PLD = polacz(
     }),
     przeplot(seria(NazwySOD, Date), seria(NazwySDO, Date)));
 
+/// Sick benefit of a list row, zł, by which the amount to pay is raised. A row without one has no record.
+inline constexpr KolumnaDef ZASILEK[] = {
+    {"ROKMIES", Text, 6, true}, // year and month, 200107
+    {"PRC_ID", Short, 0, true},
+    {"LISTA", Text, 1},
+    {"KWOTA", Currency},
+};
+
 inline constexpr SeriaNazw<7> NazwySmC{"sm_c"};
 inline constexpr SeriaNazw<7> NazwySmK{"sm_k"};
 inline constexpr SeriaNazw<3> NazwyRrc{"rrc"};
@@ -257,6 +265,7 @@ inline constexpr KolumnaDef TEMP[] = {
 
 namespace klucze {
 inline constexpr std::string_view Skladnik[] = {"NR"};
+inline constexpr std::string_view WierszMiesiaca[] = {"ROKMIES", "PRC_ID", "LISTA"};
 } // namespace klucze
 
 inline constexpr TabelaDef SZ_PL{"SZ_PL", kolumny::SZ_PL, klucze::Skladnik};
@@ -267,6 +276,8 @@ inline constexpr TabelaDef PLA{"PLA", kolumny::PLA, klucze::PracownikLista};
 inline constexpr TabelaDef PLB{"PLB", kolumny::PLB, klucze::PracownikLista};
 inline constexpr TabelaDef PLS{"PLS", kolumny::PLS, klucze::PracownikLista};
 inline constexpr TabelaDef PLD{"PLD", kolumny::PLD, klucze::PracownikLista};
+inline constexpr TabelaDef ZASILEK{"ZASILEK", kolumny::ZASILEK, klucze::PracownikLista, Klucz::Jednoznaczny,
+                                   klucze::WierszMiesiaca};
 inline constexpr TabelaDef NADG{"NADG", kolumny::NADG, klucze::Miesiac};
 inline constexpr TabelaDef NADGN{"NADGN", kolumny::NADGN, klucze::Pracownik};
 /// Named as the header: the month's tables are NADG<yyyymm>.

@@ -1,80 +1,11 @@
 #include "store/Sesja.h"
 #include "common/Blad.h"
+#include "common/RokMies.h"
 
 namespace tornel::store {
 
-namespace {
-
-QByteArray typSql(const KolumnaDef& k) {
-    const QByteArray rozmiar = "(" + QByteArray::number(k.rozmiar) + ")";
-    switch (k.typ) {
-    case Typ::Byte:
-        return "BYTE";
-    case Typ::Short:
-        return "SHORT";
-    case Typ::Integer:
-        return "INTEGER";
-    case Typ::Currency:
-        return "CURRENCY";
-    case Typ::Single:
-        return "SINGLE";
-    case Typ::Double:
-        return "DOUBLE";
-    case Typ::Text:
-        return "TEXT" + rozmiar;
-    case Typ::Char:
-        return "CHAR" + rozmiar;
-    // The second word gives the column text affinity; MEMO alone would turn a note of digits into a number.
-    case Typ::Memo:
-        return "MEMO TEXT";
-    case Typ::Date:
-        return "DATE";
-    }
-    return {};
-}
-
-} // namespace
-
-void UtworzTabele(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa) {
-    QByteArray kolumny;
-    for (const KolumnaDef& k : tabela.kolumny)
-        kolumny += (kolumny.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa) + " " + typSql(k) +
-                   (k.wymagana ? " NOT NULL" : "");
-    const std::string cudzyslow = nazwaSql(nazwa.toStdString()).toStdString();
-    polaczenie.wykonaj("CREATE TABLE " + cudzyslow + " (" + kolumny.toStdString() + ")");
-    if (tabela.klucz.empty()) return;
-    // Contracts and declarations have keys of their own and are searched by employee as well.
-    if (tabela.numer("PRC_ID") >= 0 && !teSameNazwy(tabela.klucz[0], "PRC_ID"))
-        polaczenie.wykonaj("CREATE INDEX " + nazwaSql("P_" + nazwa.toStdString()).toStdString() + " ON " +
-                           cudzyslow + " (\"PRC_ID\")");
-    QByteArray klucz;
-    for (const std::string_view k : tabela.klucz) klucz += (klucz.isEmpty() ? "" : ", ") + nazwaSql(k);
-    const char* unikalny = tabela.rodzajKlucza == Klucz::Jednoznaczny ? "UNIQUE " : "";
-    polaczenie.wykonaj(std::string("CREATE ") + unikalny + "INDEX " +
-                       nazwaSql("I_" + nazwa.toStdString()).toStdString() + " ON " + cudzyslow + " (" +
-                       klucz.toStdString() + ")");
-}
-
-void UsunTabele(Polaczenie& polaczenie, const QString& nazwa) {
-    polaczenie.wykonaj("DROP TABLE " + nazwaSql(nazwa.toStdString()).toStdString());
-}
-
-void UtworzBaze(const QString& sciezka) {
-    Polaczenie polaczenie(sciezka, Polaczenie::Sposob::Nowa);
-    try {
-        Transakcja transakcja(polaczenie);
-        for (const TabelaDef* tabela : schemat::Tabele)
-            UtworzTabele(
-                polaczenie, *tabela,
-                QString::fromLatin1(tabela->nazwa.data(), static_cast<qsizetype>(tabela->nazwa.size())));
-        transakcja.zatwierdz();
-    } catch (...) {
-        UsunPlikBazy(sciezka);
-        throw;
-    }
-}
-
-Sesja::Sesja(const QString& sciezka) : cnPlace(sciezka, Polaczenie::Sposob::Istniejaca) {
+Sesja::Sesja(const QString& sciezka)
+    : cnPlace(sciezka, Polaczenie::Sposob::Istniejaca), zmianaWersji_(DoprowadzDoWersji(cnPlace)) {
     for (Recordset* rs : {&rsPRACDP, &rsPRACSK, &rsPRACINF, &rsPRACPR, &rsPRACZUS, &rsSZ_PL}) {
         rs->Open(cnPlace);
         rs->Sort({rs->tabela().nr(rs->tabela().numer(rs->tabela().klucz[0]))});
@@ -114,13 +45,15 @@ void Sesja::OtworzMiesiac(int rok, int mies, int& wynik) {
         rs->Sort({rs->tabela().nr(0), rs->tabela().nr(1)});
         rs->MoveFirst();
     }
+    rsZASILEK.Open(cnPlace, {},
+                   {{schemat::ZASILEK("ROKMIES"), Kryterium::Operator::Rowne, RokMies{rok, mies}.klucz()}});
     rok_ = rok;
     mies_ = mies;
     wynik = 0;
 }
 
 void Sesja::ZamknijMiesiac() {
-    for (Recordset* rs : {&rsPLA, &rsPLB, &rsPLS, &rsPLD}) rs->Close();
+    for (Recordset* rs : {&rsPLA, &rsPLB, &rsPLS, &rsPLD, &rsZASILEK}) rs->Close();
     rok_ = mies_ = 0;
 }
 
@@ -153,10 +86,10 @@ bool Sesja::UstawPracownika(qint64 prcId) {
 }
 
 QList<Recordset*> Sesja::uchwyty() {
-    return {&rsPRACDP, &rsPRACSK, &rsPRACINF, &rsPRACPR,  &rsPRACZUS, &rsSZ_PL, &rsPLACE,      &rsPLACEN,
-            &rsPLACEK, &rsPLA,    &rsPLB,     &rsPLS,     &rsPLD,     &rsURL,   &rsZW,         &rsM_PRACY,
-            &rsUS,     &rsNADG,   &rsZUS,     &rsPIT4,    &rsPIT11,   &rsPIT40, &rsPIT8B,      &rsUZL,
-            &rsUOD,    &rsHON,    &rsKONTA,   &rsRODZINA, &rsUMOP,    &rsKON,   &rsUZYTKOWNICY};
+    return {&rsPRACDP,  &rsPRACSK, &rsPRACINF, &rsPRACPR, &rsPRACZUS, &rsSZ_PL,   &rsPLACE, &rsPLACEN,
+            &rsPLACEK,  &rsPLA,    &rsPLB,     &rsPLS,    &rsPLD,     &rsZASILEK, &rsURL,   &rsZW,
+            &rsM_PRACY, &rsUS,     &rsNADG,    &rsZUS,    &rsPIT4,    &rsPIT11,   &rsPIT40, &rsPIT8B,
+            &rsUZL,     &rsUOD,    &rsHON,     &rsKONTA,  &rsRODZINA, &rsUMOP,    &rsKON,   &rsUZYTKOWNICY};
 }
 
 void Sesja::OdswiezUchwyty() {

@@ -2,7 +2,9 @@
 #pragma once
 #include "store/Recordset.h"
 #include "store/Schemat.h"
+#include "store/WersjaPliku.h"
 #include <memory>
+#include <optional>
 #include <QString>
 
 namespace tornel::store {
@@ -14,28 +16,23 @@ struct Uzytkownik {
     int typ = 0;   ///< 0 administrator (or a failed login), otherwise bits: 1 "Kadry", 2 "Płace"
 };
 
-/// Makes a new database file with every table of the schema, empty. Throws `BladBazy`; an existing file is
-/// refused.
-void UtworzBaze(const QString& sciezka);
-
-/// Makes one table with its index in the file (DDL). Throws `BladBazy`.
-void UtworzTabele(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa);
-/// Drops one table. Throws `BladBazy`.
-void UsunTabele(Polaczenie& polaczenie, const QString& nazwa);
-
 class Sesja {
 public:
-    /// Opens the file and the six handles that stay open, sorted. Throws `BladBazy`.
+    /// Opens the file, brings an older one up to date, and opens the six handles that stay open, sorted.
+    /// Throws `BladBazy`, also for a file of a newer program.
     explicit Sesja(const QString& sciezka);
+    /// What was done with an older file; nothing for one of today's version.
+    [[nodiscard]] const std::optional<ZmianaWersji>& zmianaWersji() const { return zmianaWersji_; }
 
     /// The name of a month table: `Sesja::nazwaMiesiaca("PLA", 2001, 7)` is PLA200107.
     [[nodiscard]] static QString nazwaMiesiaca(std::string_view przedrostek, int rok, int mies);
 
-    /// Opens the month's four tables on `rsPLA`, `rsPLB`, `rsPLS`, `rsPLD`, sorted "PRC_ID, LISTA". `wynik`
+    /// Opens the month's four tables on `rsPLA`, `rsPLB`, `rsPLS`, `rsPLD`, sorted "PRC_ID, LISTA", and the
+    /// month's rows of `ZASILEK` on `rsZASILEK`, where `Znajdz(prcId, lista)` finds a row. `wynik`
     /// is 1, and nothing else happens, when the header has no such month or its tables are missing; otherwise
     /// 0. Reads `PLACE`.
     void OtworzMiesiac(int rok, int mies, int& wynik);
-    /// Closes the four month handles.
+    /// Closes the month's handles.
     void ZamknijMiesiac();
     /// Moves `PLA` to its next row (`przesun`) and `PLB`, `PLD`, `PLS` to the same `PRC_ID` and `LISTA`;
     /// opens the month first when another one is open. False past the last row.
@@ -63,6 +60,7 @@ public:
     Recordset rsPRACPR{schemat::PRACPR}, rsPRACZUS{schemat::PRACZUS}, rsSZ_PL{schemat::SZ_PL};
     Recordset rsPLACE{schemat::PLACE}, rsPLACEN{schemat::PLACEN}, rsPLACEK{schemat::PLACEK};
     Recordset rsPLA{schemat::PLA}, rsPLB{schemat::PLB}, rsPLS{schemat::PLS}, rsPLD{schemat::PLD};
+    Recordset rsZASILEK{schemat::ZASILEK};
     Recordset rsURL{schemat::URL}, rsZW{schemat::ZW}, rsM_PRACY{schemat::M_PRACY}, rsUS{schemat::US};
     Recordset rsNADG{schemat::NADG}, rsZUS{schemat::ZUS};
     Recordset rsPIT4{schemat::PIT4}, rsPIT11{schemat::PIT11}, rsPIT40{schemat::PIT40},
@@ -75,6 +73,7 @@ public:
 
 private:
     [[nodiscard]] QList<Recordset*> uchwyty();
+    std::optional<ZmianaWersji> zmianaWersji_;
     int rok_ = 0;
     int mies_ = 0;
 };

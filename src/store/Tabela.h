@@ -62,7 +62,13 @@ struct TabelaDef {
     std::span<const KolumnaDef> kolumny;
     std::span<const std::string_view> klucz; ///< one or two columns, indexed in the file and in memory
     Klucz rodzajKlucza = Klucz::Jednoznaczny;
+    /// The index in the file where it has more columns than `klucz`, which then finds a row among those that
+    /// were opened together.
+    std::span<const std::string_view> pelnyKlucz = {};
 
+    [[nodiscard]] constexpr std::span<const std::string_view> kluczPliku() const {
+        return pelnyKlucz.empty() ? klucz : pelnyKlucz;
+    }
     /// `PLA("BRUTTO")`: the column, checked when the program is compiled.
     consteval Kolumna operator()(std::string_view nazwaKolumny) const {
         const int nr = numer(nazwaKolumny);

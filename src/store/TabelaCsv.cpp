@@ -214,7 +214,7 @@ QList<TabelaPliku> tabeleWspolne(const TabelaPliku& tabela) {
 }
 
 void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const PlikCsv& plik,
-                    const QList<const Rekord*>& nowe) {
+                    const QList<const Rekord*>& nowe, const Transakcja& akcja) {
     if (nowe.isEmpty()) return;
     for (const TabelaPliku& wspolna : tabeleWspolne(tabela)) {
         if (wspolna.def == tabela.def) continue;
@@ -231,7 +231,7 @@ void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const Pli
                     if (teSameNazwy(plik.kolumny[i].def().nazwa, k.def().nazwa))
                         rs.ustaw(k, rekord->wartosci[i]);
         }
-        rs.UpdateBatch();
+        rs.UpdateBatch(akcja);
     }
 }
 
@@ -281,7 +281,7 @@ WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, c
         for (const Rekord& rekord : plik.rekordy) poKluczu.insert(rekord.klucz, &rekord);
 
     WynikImportu wynik;
-    Transakcja transakcja(polaczenie);
+    Transakcja transakcja(polaczenie, QStringLiteral("Import tabeli %1").arg(tabela.nazwa));
     Recordset rs(*tabela.def);
     rs.Open(polaczenie, tabela.nazwa);
     QSet<const Rekord*> obecne;
@@ -299,8 +299,8 @@ WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, c
         nowe.append(&rekord);
     }
     wynik.dodane = static_cast<int>(nowe.size());
-    rs.UpdateBatch();
-    dodajPartnerow(polaczenie, tabela, plik, nowe);
+    rs.UpdateBatch(transakcja);
+    dodajPartnerow(polaczenie, tabela, plik, nowe, transakcja);
     transakcja.zatwierdz();
     return wynik;
 }

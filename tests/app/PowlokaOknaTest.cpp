@@ -125,7 +125,7 @@ TEST_F(PowlokaTest, PrzyWczytaniuTytulStanIOstrzezenie) {
     sesja().rsKON.AddNew();
     sesja().rsKON.ustaw(schemat::KON("Num"), 998);
     sesja().rsKON.ustaw(schemat::KON("Wart"), u"Admin"_s);
-    sesja().rsKON.UpdateBatch();
+    sesja().rsKON.UpdateBatch(u"Dane testu");
     frmMain okno(otoczenie());
     rozmowa_.spodziewaj(u"UWAGA !\r\nAdmin zostało usunięte hasło !"_s, Styl::Wykrzyknik);
     okno.wczytaj();

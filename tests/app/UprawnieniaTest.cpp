@@ -2,6 +2,7 @@
 #include "rules/Stale.h"
 #include "start/Uzytkownicy.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 #include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
@@ -122,7 +123,7 @@ TEST_F(LogowanieTest, NazwaIHasloDecyduja) {
         rs.ustaw(schemat::UZYTKOWNICY("Nazwa"), nazwa);
         rs.ustaw(schemat::UZYTKOWNICY("haslo"), haslo);
         rs.ustaw(schemat::UZYTKOWNICY("Typ"), typ);
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     };
     dodaj(QStringLiteral("O'Hara"), QStringLiteral("Tajne"), 2);
     dodaj(QStringLiteral("Kadrowa"), QStringLiteral(" spacje "), 1);

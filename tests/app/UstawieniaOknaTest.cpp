@@ -198,7 +198,7 @@ TEST_P(EkranKartoteki, NieudanyZapisNieTraciTekstuIPozwalaWyjsc) {
         obcy.Open(sesja().cnPlace);
         ASSERT_TRUE(obcy.Znajdz(1));
         obcy.ustaw(e.tabela.nr(1), tekst);
-        obcy.UpdateBatch();
+        obcy.UpdateBatch(u"Dane testu");
     };
     wpisz(e.nazwa, u"mój"_s);
     zmienZaPlecami(u"cudzy"_s);

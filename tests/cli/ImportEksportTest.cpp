@@ -1,5 +1,6 @@
 // CSV both ways: every table of the schema comes back as it was, and a bad file changes nothing.
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 #include "wsparcie/KonsolaTestowa.h"
 #include "wsparcie/Przestrzen.h"
 
@@ -55,7 +56,7 @@ void wypelnij(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& na
             rs.ustaw(k, kluczowa ? kluczWiersza(k.def(), wiersz) : trudnaWartosc(k.def(), wiersz));
         }
     }
-    rs.UpdateBatch();
+    rs.UpdateBatch(u"Dane testu");
 }
 
 TEST_F(ImportEksportTest, EveryTableComesBackAsItWas) {

@@ -2,6 +2,7 @@
 #include "okna/Wiazanie.h"
 #include "okna/WidokListy.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <QAbstractItemModelTester>

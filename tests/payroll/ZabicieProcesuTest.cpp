@@ -56,7 +56,7 @@ private:
         Recordset& sk = o_.sesja.rsPRACSK;
         const Waluta nowa = Waluta::zlotych(losowa(100, 999));
         for (sk.MoveFirst(); !sk.EOF_(); sk.MoveNext()) sk.ustaw(schemat::DodatniPracownika(4), nowa);
-        sk.UpdateBatch();
+        sk.UpdateBatch(u"Dane testu");
         QList<KluczListy> wiersze;
         for (const LiniaListy& linia : lista.Wczytaj_listep()) wiersze += linia.klucz;
         lista.PrzeliczSerie(Obliczenie::Przepisanie, wiersze);
@@ -133,7 +133,7 @@ TEST(ZabicieProcesuTest, EveryActionIsInTheFileWholeOrNotAtAll) {
     UtworzBazeZSzablonu(plik, folder.path(), rozmowa);
     {
         Program program(plik, folder.path(), rozmowa);
-        Transakcja naraz(program.sesja().cnPlace);
+        Transakcja naraz(program.sesja().cnPlace, u"Dane testu");
         for (int i = 1; i <= kPracownikow; ++i)
             Pracownicy(program.otoczenie()).NowyPracownik({i, QStringLiteral("Nowak"), {}});
         naraz.zatwierdz();

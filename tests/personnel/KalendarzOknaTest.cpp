@@ -295,7 +295,7 @@ TEST_F(KalendarzOknaTest, TransportBezPracownikowNieOtwieraEkranu) {
         ASSERT_TRUE(sesja().rsPRACPR.Znajdz(prcId));
         sesja().rsPRACPR.ustawFlage(schemat::PRACPR("Zwoln"), true);
     }
-    sesja().rsPRACPR.UpdateBatch();
+    sesja().rsPRACPR.UpdateBatch(u"Dane testu");
     rozmowa_.spodziewaj(u"Brak pracowników na liście."_s, Styl::Informacja);
     EXPECT_EQ(frmTrDoPr(otoczenie()).exec(), QDialog::Rejected);
 }

@@ -162,7 +162,7 @@ TEST_F(KartotekaTest, NieudanyZapisNiczegoNieGubi) {
 TEST_F(KartotekaTest, BrakujacyRekordDopisuje) {
     ASSERT_TRUE(sesja().rsPRACINF.Znajdz(7));
     sesja().rsPRACINF.Delete();
-    sesja().rsPRACINF.UpdateBatch();
+    sesja().rsPRACINF.UpdateBatch(u"Dane testu");
     EXPECT_EQ(kartoteka->wartosc(PRACINF("inf_opis")), Wartosc(Null));
     wpisz(PRACINF("inf_opis"), QStringLiteral("notatka"));
     kartoteka->Zapisz();
@@ -250,7 +250,7 @@ TEST_F(KartotekaTest, SlownikiCzytaZUchwytowKtoreOtwiera) {
         us.AddNewZero(nr);
         us.ustaw(schemat::US("Nazwa"), QStringLiteral("US %1").arg(nr));
     }
-    us.UpdateBatch();
+    us.UpdateBatch(u"Dane testu");
     const KartotekaPracownika::Slownik oczekiwany{{3, QStringLiteral("3. US 3")},
                                                   {12, QStringLiteral("12. US 12")}};
     EXPECT_EQ(kartoteka->urzedy(), oczekiwany);

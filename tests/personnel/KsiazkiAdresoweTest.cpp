@@ -27,7 +27,7 @@ protected:
         dodajPracownika(prcId, nazwisko);
         ASSERT_TRUE(sesja().rsPRACPR.Znajdz(prcId));
         sesja().rsPRACPR.ustaw(kolumna, numer);
-        sesja().rsPRACPR.UpdateBatch();
+        sesja().rsPRACPR.UpdateBatch(u"Dane testu");
     }
     /// A contract or fee of the person with the number in `kolumna`.
     void umowa(qint64 id, Kolumna kolumna, qint64 numer, qint64 prcId) {
@@ -36,7 +36,7 @@ protected:
         rs.AddNewZero(id);
         rs.ustaw(kolumna.tabela->nr(kolumna.tabela->numer("PRC_ID")), prcId);
         rs.ustaw(kolumna, numer);
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
 };
 
@@ -96,7 +96,7 @@ TEST_F(KsiazkiAdresoweTest, UzywanyUrzadZostajeIMowiKtoGoUzywa) {
 
     ASSERT_TRUE(sesja().rsPRACPR.Znajdz(8));
     sesja().rsPRACPR.ustaw(schemat::PRACPR("us_id"), 0);
-    sesja().rsPRACPR.UpdateBatch();
+    sesja().rsPRACPR.UpdateBatch(u"Dane testu");
     rozmowa_.spodziewaj(kUsunacUrzad, Odpowiedz::Tak);
     EXPECT_TRUE(k.Usun(3));
 }

@@ -39,7 +39,7 @@ protected:
         ASSERT_TRUE(pr.Znajdz(7));
         pr.ustaw(schemat::PRACPR("il_url"), qint64{26});
         pr.ustaw(schemat::PRACPR("il_zal_url"), qint64{3});
-        pr.UpdateBatch();
+        pr.UpdateBatch(u"Dane testu");
     }
     /// What the clerk does in the windows that open one after the other, as soon as each is there.
     template <typename Okno>
@@ -237,7 +237,7 @@ TEST_F(RejestryOknaTest, DziesiecTysiecyUrlopowOtwieraSieOdRazu) {
             rs.ustaw(URL("Data"), QDate(1991 + i % 10, 7, 1));
             rs.ustaw(URL("data_do"), QDate(1991 + i % 10, 7, 14));
         }
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
     QElapsedTimer zegar;
     zegar.start();

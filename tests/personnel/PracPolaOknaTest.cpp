@@ -35,10 +35,10 @@ protected:
         ASSERT_TRUE(sk.Znajdz(7));
         sk.ustaw(PRACSK("dod"), 0);
         sk.ustaw(PRACSK("pot"), 0);
-        sk.UpdateBatch();
+        sk.UpdateBatch(u"Dane testu");
         Recordset& sz = sesja().rsSZ_PL;
         for (sz.MoveFirst(); !sz.EOF_(); sz.MoveNext()) sz.ustawFlage(schemat::SZ_PL("Akt"), true);
-        sz.UpdateBatch();
+        sz.UpdateBatch(u"Dane testu");
         otoczenie().skladniki.WczytajSkladnikiPlac(sesja());
     }
     void pokazZakladke(int zakladka) {

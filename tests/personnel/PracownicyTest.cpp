@@ -40,7 +40,7 @@ protected:
         rs.Open(sesja().cnPlace);
         rs.AddNewZero(prcId);
         rs.ustaw(RODZINA("ROD_ID"), rodId);
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
 };
 

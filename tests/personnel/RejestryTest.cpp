@@ -55,7 +55,7 @@ protected:
         ASSERT_TRUE(pr.Znajdz(prcId));
         pr.ustaw(PRACPR("il_url"), nowego);
         pr.ustaw(PRACPR("il_zal_url"), zaleglego);
-        pr.UpdateBatch();
+        pr.UpdateBatch(u"Dane testu");
     }
     QStringList wPliku(const TabelaDef& tabela) {
         QStringList wynik;

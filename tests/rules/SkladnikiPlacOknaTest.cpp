@@ -145,7 +145,7 @@ TEST_F(SkladnikiEkranTest, NieudanyZapisZostawiaEkranZTekstem) {
     obcy.Open(sesja().cnPlace);
     ASSERT_TRUE(obcy.Znajdz(2));
     obcy.ustaw(SZ_PL("naz_sk"), u"cudza"_s);
-    obcy.UpdateBatch();
+    obcy.UpdateBatch(u"Dane testu");
     rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Tak);
     EXPECT_THROW(okno->reject(), Konflikt);
     EXPECT_TRUE(okno->isVisible());
@@ -160,7 +160,7 @@ TEST_F(SkladnikiEkranTest, NieudanyZapisZostawiaEkranZTekstem) {
 TEST_F(SkladnikiEkranTest, BezJednegoZRekordowEkranSieNieOtwiera) {
     ASSERT_TRUE(sesja().rsSZ_PL.Znajdz(17));
     sesja().rsSZ_PL.Delete();
-    sesja().rsSZ_PL.UpdateBatch();
+    sesja().rsSZ_PL.UpdateBatch(u"Dane testu");
     EXPECT_THROW(frmSkladnikiPlac{otoczenie()}, Blad);
 }
 

@@ -1,6 +1,7 @@
 #include "rules/SkladnikiPlac.h"
 #include "common/Blad.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 #include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
@@ -31,7 +32,7 @@ protected:
         ustaw(45, schemat::SZ_PL("Akt"), QStringLiteral("T"));
         ustaw(7, schemat::SZ_PL("KodZUS"), QStringLiteral("11"));
         ustaw(7, schemat::SZ_PL("kodswprz"), QStringLiteral("331"));
-        sesja->rsSZ_PL.UpdateBatch();
+        sesja->rsSZ_PL.UpdateBatch(u"Dane testu");
         katalog.WczytajSkladnikiPlac(*sesja);
 
         sesja->OtworzNaglowki();
@@ -80,7 +81,7 @@ TEST_F(SkladnikiPlacTest, MaskiWracajaZMiesiaca) {
     EXPECT_EQ(maski.br_sm, 0U);
 
     maski.naMiesiac(sesja->rsPLACE);
-    sesja->rsPLACE.UpdateBatch();
+    sesja->rsPLACE.UpdateBatch(u"Dane testu");
     sesja->rsPLACE.Requery();
     EXPECT_EQ(Maski::zMiesiaca(sesja->rsPLACE), maski);
 }

@@ -88,7 +88,7 @@ protected:
         rs.Open(sesja().cnPlace);
         rs.AddNewZero(numer);
         rs.ustaw(schemat::US("Nazwa"), nazwa);
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
 
     std::unique_ptr<frmStaleProgramu> ekran;

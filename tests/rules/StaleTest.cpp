@@ -2,6 +2,7 @@
 #include "rules/Konfiguracja.h"
 #include "rules/UstawianieStalych.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 #include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
 #include <QRegularExpression>
@@ -36,7 +37,7 @@ protected:
     void wpisz(int num, const QString& tekst) {
         ASSERT_TRUE(sesja->rsKON.Znajdz(num));
         sesja->rsKON.ustaw(schemat::KON("Wart"), tekst);
-        sesja->rsKON.UpdateBatch();
+        sesja->rsKON.UpdateBatch(u"Dane testu");
     }
 
     QTemporaryDir folder;
@@ -103,7 +104,7 @@ TEST_F(StaleTest, UsunietyRekordWracaAWersjaNie) {
         ASSERT_TRUE(sesja->rsKON.Znajdz(num));
         sesja->rsKON.Delete();
     }
-    sesja->rsKON.UpdateBatch();
+    sesja->rsKON.UpdateBatch(u"Dane testu");
     uruchom();
     EXPECT_EQ(stale.PlZas, 1);
     EXPECT_EQ(utf8(wPliku(1)), "1");

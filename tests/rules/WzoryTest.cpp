@@ -1,5 +1,6 @@
 #include "rules/Wzory.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <gtest/gtest.h>

@@ -82,7 +82,7 @@ TEST_F(RozruchBazyTest, AFailedStartSaysWhereAndWhy) {
 
     ASSERT_TRUE(sesja().rsSZ_PL.Znajdz(45));
     sesja().rsSZ_PL.Delete();
-    sesja().rsSZ_PL.UpdateBatch();
+    sesja().rsSZ_PL.UpdateBatch(u"Dane testu");
     program_.reset();
     EXPECT_TRUE(komunikat(sciezka()).startsWith(u"Procedura 'PStart': błąd w lini: 2\n"_s));
 }
@@ -121,7 +121,7 @@ TEST_F(RozruchBazyTest, TheNextStartKeepsWhatIsThereAndMendsWhatIsMissing) {
         ASSERT_TRUE(s.rsKON.Znajdz(num));
         s.rsKON.Delete();
     }
-    s.rsKON.UpdateBatch();
+    s.rsKON.UpdateBatch(u"Dane testu");
     dodajPracownika(3);
     otworzPonownie();
     EXPECT_EQ(sesja().rsKON.RecordCount(), stalych);
@@ -132,7 +132,7 @@ TEST_F(RozruchBazyTest, TheNextStartKeepsWhatIsThereAndMendsWhatIsMissing) {
 
     sesja().rsUZYTKOWNICY.MoveFirst();
     sesja().rsUZYTKOWNICY.Delete();
-    sesja().rsUZYTKOWNICY.UpdateBatch();
+    sesja().rsUZYTKOWNICY.UpdateBatch(u"Dane testu");
     otworzPonownie();
     EXPECT_TRUE(SprawdzUzytkownika(sesja(), u"Admin"_s, {}));
 }

@@ -4,6 +4,7 @@
 #include "payroll/miesiace/Miesiace.h"
 #include "personnel/Pracownicy.h"
 #include "start/Rozruch.h"
+#include "store/Struktura.h"
 #include "wsparcie/Proces.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
@@ -150,7 +151,7 @@ protected:
     OdpornoscTest() {
         UtworzBazeZSzablonu(plik_, folder_.path(), rozmowa_);
         const auto program = otworz(plik_);
-        Transakcja naraz(program->sesja().cnPlace);
+        Transakcja naraz(program->sesja().cnPlace, u"Dane testu");
         for (const qint64 nr : numery())
             Pracownicy(program->otoczenie()).NowyPracownik({nr, QStringLiteral("Nowak"), {}});
         naraz.zatwierdz();
@@ -235,14 +236,14 @@ TEST_F(OdpornoscTest, WhatCannotBeStoredStaysPendingInTheRecordset) {
     Recordset rs(KONTA);
     rs.Open(baza);
     rs.AddNewZero(1);
-    rs.UpdateBatch();
+    rs.UpdateBatch(u"Dane testu");
     rs.ustaw(KONTA("skrot"), QStringLiteral("zmiana"));
     rs.AddNewZero(2);
     kOdmowaZatwierdzenia.wlacz(baza);
-    EXPECT_THROW(rs.UpdateBatch(), BladBazy);
+    EXPECT_THROW(rs.UpdateBatch(u"Dane testu"), BladBazy);
     EXPECT_TRUE(rs.zmieniony());
     kOdmowaZatwierdzenia.wylacz(baza);
-    rs.UpdateBatch();
+    rs.UpdateBatch(u"Dane testu");
     rs.Requery();
     EXPECT_EQ(rs.RecordCount(), 2);
     ASSERT_TRUE(rs.Znajdz(1));
@@ -251,7 +252,7 @@ TEST_F(OdpornoscTest, WhatCannotBeStoredStaysPendingInTheRecordset) {
     // A stored row that can no longer be read stops the check for conflicts and leaves nothing behind.
     rs.ustaw(KONTA("skrot"), QStringLiteral("druga"));
     baza.wykonaj("UPDATE KONTA SET NR='x' WHERE NR=1");
-    EXPECT_THROW(rs.UpdateBatch(), BladBazy);
+    EXPECT_THROW(rs.UpdateBatch(u"Dane testu"), BladBazy);
     rs.Filter({});
     EXPECT_EQ(rs.RecordCount(), 2) << "no row of the file among those of the clerk";
     baza.wykonaj("DROP TABLE KONTA"); // refused while a statement on it is open
@@ -316,10 +317,10 @@ TEST_F(OdpornoscTest, ASecondProgramIsRefusedAndAKilledOneLeavesNoTrace) {
         const auto program = otworz(plik_);
         Sesja& sesja = program->sesja();
         sesja.cnPlace.wykonaj("PRAGMA cache_size=5"); // so that the open transaction reaches the file
-        const Transakcja akcja(sesja.cnPlace);
+        const Transakcja akcja(sesja.cnPlace, u"Dane testu");
         sesja.rsKONTA.Open(sesja.cnPlace);
         for (int i = 1; i <= 3000; ++i) sesja.rsKONTA.AddNewZero(i);
-        sesja.rsKONTA.UpdateBatch();
+        sesja.rsKONTA.UpdateBatch(u"Dane testu");
         zapisane.daj();
         return pause();
     });

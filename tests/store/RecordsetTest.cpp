@@ -1,5 +1,6 @@
 #include "common/Blad.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include <QFile>
@@ -30,7 +31,7 @@ protected:
             rs.AddNewZero(nr);
             rs.ustaw(PRACDP("Naz"), QString::fromUtf16(nazwisko));
         }
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
         return rs;
     }
     static QStringList nazwiska(Recordset& rs) {
@@ -54,18 +55,18 @@ TEST_F(RecordsetTest, ValuesOfEveryKindComeBackFromTheFile) {
     pla.ustaw(PLA("LISTA"), QStringLiteral("AB"));
     pla.ustaw(PLA("BRUTTO"), Waluta::zSurowej(-12345));
     pla.ustaw(PLA("NAZ"), QStringLiteral("O'Zażółć; DROP TABLE PRACDP; 😀 i jeszcze"));
-    pla.UpdateBatch();
+    pla.UpdateBatch(u"Dane testu");
     Recordset nadgodziny(schemat::NADGN);
     nadgodziny.Open(baza(), QStringLiteral("NADGN200107"));
     nadgodziny.AddNewZero(7);
     nadgodziny.ustaw(schemat::NADGN("SP_C1"), 2.5);
-    nadgodziny.UpdateBatch();
+    nadgodziny.UpdateBatch(u"Dane testu");
     Recordset notatki(schemat::PRACINF);
     notatki.Open(baza());
     notatki.AddNewZero(7);
     // A note of digits must not become a number on its way through the file.
     notatki.ustaw(schemat::PRACINF("inf_opis"), QStringLiteral("007"));
-    notatki.UpdateBatch();
+    notatki.UpdateBatch(u"Dane testu");
 
     pla.Requery();
     EXPECT_EQ(pla.tekst(PLA("LISTA")), QStringLiteral("A")) << "cut to the column";
@@ -87,7 +88,7 @@ TEST_F(RecordsetTest, DatesKeepTheirDayAndRefuseDamage) {
     pld.AddNewZero(1, QStringLiteral(" "));
     pld.ustaw(schemat::SOD(1), QDate(2001, 2, 28));
     pld.ustaw(schemat::SDO(30), QDate(1999, 12, 31));
-    pld.UpdateBatch();
+    pld.UpdateBatch(u"Dane testu");
     pld.Requery();
     EXPECT_EQ(pld.data(schemat::SOD(1)), QDate(2001, 2, 28));
     EXPECT_EQ(pld.data(schemat::SDO(30)), QDate(1999, 12, 31));
@@ -157,7 +158,7 @@ TEST_F(RecordsetTest, EditsMoveRowsAndIndexes) {
     rs.Delete();
     rs.AddNewZero(5);
     rs.Delete();
-    rs.UpdateBatch();
+    rs.UpdateBatch(u"Dane testu");
     rs.Requery();
     EXPECT_EQ(rs.RecordCount(), 2);
 }
@@ -168,13 +169,13 @@ TEST_F(RecordsetTest, AStoredRowThatChangedMeanwhileIsAConflict) {
     drugi.Open(baza());
     ASSERT_TRUE(drugi.Znajdz(1));
     drugi.ustaw(PRACDP("miasto"), QStringLiteral("Radom"));
-    drugi.UpdateBatch();
+    drugi.UpdateBatch(u"Dane testu");
 
     ASSERT_TRUE(moj.Znajdz(2));
     moj.ustaw(PRACDP("Naz"), QStringLiteral("Zmieniona"));
     ASSERT_TRUE(moj.Znajdz(1));
     moj.ustaw(PRACDP("Naz"), QStringLiteral("Nowa"));
-    EXPECT_THROW(moj.UpdateBatch(), Konflikt);
+    EXPECT_THROW(moj.UpdateBatch(u"Dane testu"), Konflikt);
     EXPECT_EQ(moj.tekst(PRACDP("Naz")), QStringLiteral("Nowa")) << "the typed version is kept";
     drugi.Requery();
     ASSERT_TRUE(drugi.Znajdz(1));
@@ -185,18 +186,18 @@ TEST_F(RecordsetTest, AStoredRowThatChangedMeanwhileIsAConflict) {
 
     ASSERT_TRUE(drugi.Znajdz(1));
     drugi.Delete();
-    drugi.UpdateBatch();
-    EXPECT_THROW(moj.UpdateBatch(), Konflikt) << "a row that has gone is a conflict too";
+    drugi.UpdateBatch(u"Dane testu");
+    EXPECT_THROW(moj.UpdateBatch(u"Dane testu"), Konflikt) << "a row that has gone is a conflict too";
 }
 
 TEST_F(RecordsetTest, ARolledBackActionLeavesTheFileAsItWas) {
     Recordset rs = pracownicy({{1, u"Stara"}});
     ASSERT_TRUE(rs.Znajdz(1));
     {
-        Transakcja akcja(baza());
+        Transakcja akcja(baza(), u"Dane testu");
         rs.ustaw(PRACDP("Naz"), QStringLiteral("Nowa"));
-        rs.UpdateBatch();
-        Transakcja wewnetrzna(baza());
+        rs.UpdateBatch(u"Dane testu");
+        Transakcja wewnetrzna(baza(), u"Dane testu");
         wewnetrzna.zatwierdz();
     }
     rs.Requery();
@@ -206,7 +207,7 @@ TEST_F(RecordsetTest, ARolledBackActionLeavesTheFileAsItWas) {
 TEST_F(RecordsetTest, KeysAreUniqueWhereTheTableSaysSo) {
     Recordset rs = pracownicy({{1, u"A"}});
     rs.AddNewZero(1);
-    EXPECT_THROW(rs.UpdateBatch(), BladBazy);
+    EXPECT_THROW(rs.UpdateBatch(u"Dane testu"), BladBazy);
     EXPECT_TRUE(rs.zmieniony()) << "the row stays pending";
     Recordset uzytkownicy(UZYTKOWNICY);
     uzytkownicy.Open(baza());
@@ -235,7 +236,7 @@ TEST_F(RecordsetTest, OpeningWithAConditionReadsOnlyThoseRows) {
         konta.AddNewZero(i);
         konta.ustaw(KONTA("skrot"), i % 2 ? QStringLiteral("o'a") : QStringLiteral("b"));
     }
-    konta.UpdateBatch();
+    konta.UpdateBatch(u"Dane testu");
     konta.Open(baza(), {},
                {{KONTA("skrot"), Kryterium::Operator::Rowne, QStringLiteral("o'a")},
                 {KONTA("NR"), Kryterium::Operator::Wieksze, qint64{1}}});

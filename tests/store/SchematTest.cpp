@@ -104,7 +104,7 @@ TEST(Schemat, EveryTableIsSound) {
          {"KON",    "UZYTKOWNICY", "PRACDP",  "PRACSK", "PRACINF", "PRACPR",    "PRACZUS", "SZ_PL", "PLACE",
           "PLACEN", "PLACEK",      "NADG",    "URL",    "ZW",      "KALENDARZ", "UZL",     "UOD",   "HON",
           "UMOP",   "RODZINA",     "M_PRACY", "US",     "KONTA",   "PRZELEW",   "ZUS",     "PIT4",  "PIT11",
-          "PIT40",  "PIT8B",       "DRUKLP",  "TEMP",   "LSTOBEC", "LSTOBEC2"})
+          "PIT40",  "PIT8B",       "DRUKLP",  "TEMP",   "LSTOBEC", "LSTOBEC2",  "ZASILEK"})
         EXPECT_TRUE(nazwyTabel.contains(nazwa)) << nazwa;
 }
 

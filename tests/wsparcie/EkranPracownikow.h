@@ -31,7 +31,7 @@ protected:
         rs.Open(sesja().cnPlace);
         rs.AddNewZero(3);
         rs.ustaw(nazwa, QStringLiteral("trzeci & ostatni"));
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
     frmPrac& ekran(FiltrPracownikow filtr = FiltrPracownikow::Wszyscy, qint64 wybrany = -1) {
         okno = std::make_unique<frmPrac>(otoczenie(), filtr);

@@ -84,7 +84,7 @@ protected:
         rs.ustaw(schemat::KALENDARZ("Rok"), m.rok);
         rs.ustaw(schemat::KALENDARZ("Mies"), m.mies);
         for (int d = 1; d <= 31; ++d) rs.ustaw(schemat::DzienKalendarza(d), static_cast<qint64>(dni[d]));
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
     void urlop(qint64 prcId, QDate od, QDate dokad, int rodzaj = 0, double kwota = 0) {
         dopiszNieobecnosc(schemat::URL, prcId, od, dokad, [&](Recordset& rs) {
@@ -109,7 +109,7 @@ protected:
             rs.AddNewZero(prcId, lista);
             for (const auto& [k, wartosc] : polaTestu(schemat::TabeleMiesiaca, pola))
                 if (k.tabela == tabela) rs.ustaw(k, wartosc);
-            rs.UpdateBatch();
+            rs.UpdateBatch(u"Dane testu");
         }
     }
 
@@ -122,7 +122,7 @@ private:
         rs.ustaw(tabela.nr(tabela.numer("Data")), od);
         rs.ustaw(tabela.nr(tabela.numer("data_do")), dokad);
         reszta(rs);
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
 };
 

@@ -104,13 +104,13 @@ protected:
         Sesja& s = sesja();
         ASSERT_TRUE(s.UstawPracownika(prcId));
         for (const auto& [k, wartosc] : polaTestu(kTabeleKadr, pola)) uchwyt(*k.tabela).ustaw(k, wartosc);
-        for (const TabelaDef* tabela : kTabeleKadr) uchwyt(*tabela).UpdateBatch();
+        for (const TabelaDef* tabela : kTabeleKadr) uchwyt(*tabela).UpdateBatch(u"Dane testu");
     }
     void usunZKadr(qint64 prcId) {
         for (const TabelaDef* tabela : kTabeleKadr) {
             ASSERT_TRUE(uchwyt(*tabela).Znajdz(prcId));
             uchwyt(*tabela).Delete();
-            uchwyt(*tabela).UpdateBatch();
+            uchwyt(*tabela).UpdateBatch(u"Dane testu");
         }
     }
     /// One employee onto the list, where no days are counted.
@@ -125,7 +125,7 @@ protected:
     }
     void ustawIZapisz(const std::string& pola) {
         ustaw(pola);
-        for (const TabelaDef* tabela : schemat::TabeleMiesiaca) uchwyt(*tabela).UpdateBatch();
+        for (const TabelaDef* tabela : schemat::TabeleMiesiaca) uchwyt(*tabela).UpdateBatch(u"Dane testu");
     }
     void oczekuj(const std::string& pola) {
         for (const auto& [k, wartosc] : polaTestu(schemat::TabeleMiesiaca, pola))
@@ -196,7 +196,7 @@ private:
         rs.ustawFlage(schemat::SZ_PL("Akt"), aktywny);
     }
     void zapiszKatalog() {
-        sesja().rsSZ_PL.UpdateBatch();
+        sesja().rsSZ_PL.UpdateBatch(u"Dane testu");
         otoczenie().skladniki.WczytajSkladnikiPlac(sesja());
     }
     /// In use: 1, 2, 5, 30 full; 10 outside ZUS; 12 brutto only; 16, 24 outside brutto; deductions 1 and 15

@@ -119,8 +119,11 @@ void ListaPlac::wymagajWiersza() {
 }
 
 void ListaPlac::zapiszWiersz() {
-    Transakcja transakcja(o_.sesja.cnPlace);
-    for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch();
+    Transakcja transakcja(o_.sesja.cnPlace,
+                          QStringLiteral("Lista płac %1: pracownik nr %2")
+                              .arg(NapisMiesiaca(rok_, mies_))
+                              .arg(o_.sesja.rsPLA.naWierszu() ? o_.sesja.rsPLA.liczba(PLA("PRC_ID")) : 0));
+    for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch(transakcja);
     transakcja.zatwierdz();
 }
 
@@ -226,7 +229,7 @@ RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
     naliczanie_.przygotujSerie(ile);
     const auto postep = o_.rozmowa.postep(tytul, static_cast<int>(ile));
     QHash<QString, qsizetype> znaneUwagi;
-    Transakcja transakcja(o_.sesja.cnPlace);
+    Transakcja transakcja(o_.sesja.cnPlace, tytul);
     for (qsizetype i = 0; i < ile; ++i) {
         const qint64 prcId = numer(i);
         if (!postep->krok(static_cast<int>(i) + 1,
@@ -256,7 +259,7 @@ RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
             QList<qint64>& kto = raport.uwagi[znaneUwagi.value(uwaga)].pracownicy;
             if (kto.isEmpty() || kto.last() != prcId) kto.append(prcId);
         }
-        for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch();
+        for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch(transakcja);
     }
     transakcja.zatwierdz();
     wiersz_.reset();
@@ -422,12 +425,12 @@ bool ListaPlac::ZmienKwote(const PoleListy& pole, Waluta kwota) {
 
 void ListaPlac::WpiszSK() {
     wymagajWiersza();
-    o_.sesja.rsPLS.UpdateBatch();
+    o_.sesja.rsPLS.UpdateBatch(u"Składniki wiersza listy płac");
 }
 
 void ListaPlac::WpiszDatyGr() {
     wymagajWiersza();
-    o_.sesja.rsPLD.UpdateBatch();
+    o_.sesja.rsPLD.UpdateBatch(u"Okresy składników wiersza listy płac");
 }
 
 void ListaPlac::WpiszDni() {
@@ -478,7 +481,7 @@ void ListaPlac::ZapiszSumy() {
     for (std::size_t i = 0; i < b1.size(); ++i) s.rsPLACE.ustaw(sumyB[i].second, b1[i]);
     s.rsPLACE.ustaw(PLACE("sum_inne"), inne);
     s.rsPLACE.ustaw(PLACE("il_wyplat"), ile);
-    s.rsPLACE.UpdateBatch();
+    s.rsPLACE.UpdateBatch(QStringLiteral("Sumy listy płac %1").arg(NapisMiesiaca(rok_, mies_)));
     if (wiersz_) ustawNa(*wiersz_);
 }
 

@@ -4,6 +4,7 @@
 #include "common/Rozmowa.h"
 #include "rules/SkladnikiPlac.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 
 namespace tornel::payroll {
 
@@ -54,9 +55,9 @@ void Miesiace::wymagaj(RokMies miesiac) {
         throw Blad(QStringLiteral("Nie ma miesiąca %1.").arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
 }
 
-void Miesiace::zapiszNaglowki() {
-    Transakcja transakcja(o_.sesja.cnPlace);
-    for (Recordset* rs : naglowki(o_.sesja)) rs->UpdateBatch();
+void Miesiace::zapiszNaglowki(QStringView czynnosc) {
+    Transakcja transakcja(o_.sesja.cnPlace, czynnosc);
+    for (Recordset* rs : naglowki(o_.sesja)) rs->UpdateBatch(transakcja);
     transakcja.zatwierdz();
 }
 
@@ -97,10 +98,11 @@ std::optional<RokMies> Miesiace::Nowy_miesiac(const WyborMiesiaca& wybor) {
         return std::nullopt;
     }
     try {
-        Transakcja transakcja(s.cnPlace);
+        const QString czynnosc = QStringLiteral("Nowy miesiąc %1").arg(miesiac->napis());
+        Transakcja transakcja(s.cnPlace, czynnosc);
         dodajNaglowki(*miesiac);
         ZapiszAktualneDane();
-        zapiszNaglowki();
+        zapiszNaglowki(czynnosc);
         for (const TabelaDef* tabela : schemat::TabeleMiesiaca)
             UtworzTabele(s.cnPlace, *tabela,
                          Sesja::nazwaMiesiaca(tabela->nazwa, miesiac->rok, miesiac->mies));
@@ -126,15 +128,21 @@ bool Miesiace::Usun_miesiac(RokMies miesiac) {
         return false;
     s.ZamknijMiesiac();
     try {
-        Transakcja transakcja(s.cnPlace);
+        const QString czynnosc = QStringLiteral("Usunięcie miesiąca %1").arg(miesiac.napis());
+        Transakcja transakcja(s.cnPlace, czynnosc);
         for (const TabelaDef* tabela : schemat::TabeleMiesiaca)
             if (const QString nazwa = Sesja::nazwaMiesiaca(tabela->nazwa, miesiac.rok, miesiac.mies);
                 s.cnPlace.jestTabela(nazwa))
                 UsunTabele(s.cnPlace, nazwa);
+        Recordset zasilki(schemat::ZASILEK);
+        zasilki.Open(s.cnPlace, {},
+                     {{schemat::ZASILEK("ROKMIES"), Kryterium::Operator::Rowne, miesiac.klucz()}});
+        while (zasilki.naWierszu()) zasilki.Delete();
+        zasilki.UpdateBatch(transakcja);
         wymagaj(miesiac);
         for (Recordset* rs : naglowki(s))
             if (rs->naWierszu()) rs->Delete();
-        zapiszNaglowki();
+        zapiszNaglowki(czynnosc);
         transakcja.zatwierdz();
     } catch (...) {
         s.OtworzNaglowki();
@@ -158,14 +166,16 @@ bool Miesiace::BlokadaMies(RokMies miesiac) {
             ZapiszAktualneDane();
     }
     s.rsPLACE.ustawFlage(PLACE("akc"), !zablokowany);
-    zapiszNaglowki();
+    zapiszNaglowki(
+        (zablokowany ? QStringLiteral("Odblokowanie miesiąca %1") : QStringLiteral("Blokada miesiąca %1"))
+            .arg(miesiac.napis()));
     return true;
 }
 
 void Miesiace::ZapiszOpis(RokMies miesiac, const QString& opis) {
     wymagaj(miesiac);
     o_.sesja.rsPLACE.ustaw(PLACE("inf_opis"), opis);
-    o_.sesja.rsPLACE.UpdateBatch();
+    o_.sesja.rsPLACE.UpdateBatch(QStringLiteral("Opis miesiąca %1").arg(miesiac.napis()));
 }
 
 } // namespace tornel::payroll

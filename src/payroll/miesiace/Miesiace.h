@@ -53,7 +53,7 @@ public:
 private:
     void wymagaj(RokMies miesiac);
     void ZapiszAktualneDane();
-    void zapiszNaglowki();
+    void zapiszNaglowki(QStringView czynnosc);
     void dodajNaglowki(RokMies miesiac);
 
     Otoczenie& o_;

@@ -196,8 +196,8 @@ void ListaNadgodzin::zapisz(const std::function<void()>& zmiana) {
     try {
         zmiana();
         sumujMiesiac();
-        Transakcja transakcja(o_.sesja.cnPlace);
-        for (Recordset* rs : {&dni_, &osoby_, &o_.sesja.rsNADG}) rs->UpdateBatch();
+        Transakcja transakcja(o_.sesja.cnPlace, u"Zmiana listy nadgodzin");
+        for (Recordset* rs : {&dni_, &osoby_, &o_.sesja.rsNADG}) rs->UpdateBatch(transakcja);
         transakcja.zatwierdz();
     } catch (...) {
         odczytaj();

@@ -5,6 +5,7 @@
 #include "payroll/nadgodziny/RownaniaNadgodzin.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
+#include "store/Struktura.h"
 
 namespace tornel::payroll {
 
@@ -48,12 +49,12 @@ std::optional<RokMies> Nadgodziny::NowaLista(const WyborMiesiaca& wybor) {
     }
     Sesja& s = o_.sesja;
     try {
-        Transakcja transakcja(s.cnPlace);
+        Transakcja transakcja(s.cnPlace, QStringLiteral("Nowa lista nadgodzin %1").arg(miesiac->napis()));
         s.rsNADG.AddNewZero();
         s.rsNADG.ustaw(NADG("Rok"), FormatRoku(miesiac->rok));
         s.rsNADG.ustaw(NADG("Mies"), FormatMiesiaca(miesiac->mies));
         RownaniaNadgodzin::zeStalych(o_.stale).naNaglowek(s.rsNADG);
-        s.rsNADG.UpdateBatch();
+        s.rsNADG.UpdateBatch(transakcja);
         for (const TabelaDef* tabela : kTabele)
             UtworzTabele(s.cnPlace, *tabela,
                          Sesja::nazwaMiesiaca(tabela->nazwa, miesiac->rok, miesiac->mies));
@@ -72,13 +73,13 @@ bool Nadgodziny::UsunListe(RokMies miesiac) {
     if (!o_.rozmowa.pytanie(QStringLiteral("Czy na pewno usunąć zaznaczony miesiąc ?"))) return false;
     Sesja& s = o_.sesja;
     try {
-        Transakcja transakcja(s.cnPlace);
+        Transakcja transakcja(s.cnPlace, QStringLiteral("Usunięcie listy nadgodzin %1").arg(miesiac.napis()));
         for (const TabelaDef* tabela : kTabele)
             if (const QString nazwa = Sesja::nazwaMiesiaca(tabela->nazwa, miesiac.rok, miesiac.mies);
                 s.cnPlace.jestTabela(nazwa))
                 UsunTabele(s.cnPlace, nazwa);
         s.rsNADG.Delete();
-        s.rsNADG.UpdateBatch();
+        s.rsNADG.UpdateBatch(transakcja);
         transakcja.zatwierdz();
     } catch (...) {
         otworz();

@@ -55,7 +55,7 @@ TEST_F(ListaPlacOknaTest, OdNowegoMiesiacaDoSum) {
 /// Each amount typed on the screen does to its row what the same change through the list does to its twin.
 TEST_F(ListaPlacOknaTest, KazdaKwotaUruchamiaSwojLancuch) {
     const auto pola = polaListy();
-    Transakcja szybko(sesja().cnPlace); // spares a sync of the file for each field
+    Transakcja szybko(sesja().cnPlace, u"Dane testu"); // spares a sync of the file for each field
     lista(static_cast<int>(2 * pola.size()));
     frmPlaceLista okno(otoczenie(), kLipiec, u" "_s);
     pokaz(okno);
@@ -110,7 +110,7 @@ TEST_F(ListaPlacOknaTest, ZlosliweTekstyWPolachLiczb) {
         {QString(5000, u'7'), {}, u"0"_s},  {u"NaN"_s, u"0,00"_s, u"0"_s},
     };
     naprawiaj();
-    Transakcja szybko(sesja().cnPlace); // spares a sync of the file for each field
+    Transakcja szybko(sesja().cnPlace, u"Dane testu"); // spares a sync of the file for each field
     for (const Przypadek& p : przypadki) {
         SCOPED_TRACE(p.wpisany.left(20).toStdString());
         for (const QString& nazwa : {u"txtPlus(1)"_s, u"txtMinus(15)"_s, u"txtFP"_s, u"txtKosztyUz"_s}) {
@@ -160,7 +160,7 @@ TEST_F(ListaPlacOknaTest, ZablokowanyMiesiacTylkoDoOgladania) {
     skladnik(5, "   ", true); // the catalogue goes on, the month keeps its names and flags
     ASSERT_TRUE(sesja().rsSZ_PL.Znajdz(1));
     sesja().rsSZ_PL.ustaw(schemat::SZ_PL("naz_sk"), u"Nowa nazwa"_s);
-    sesja().rsSZ_PL.UpdateBatch();
+    sesja().rsSZ_PL.UpdateBatch(u"Dane testu");
     otoczenie().skladniki.WczytajSkladnikiPlac(sesja());
 
     frmPlaceLista okno(otoczenie(), kLipiec, u" "_s);

@@ -202,10 +202,10 @@ TEST_F(ListaPlacTest, AFailureOfTheFileStoresNothingOfTheBatch) {
     // A record without its three partners stands in the way of employee 3.
     Recordset sierota = zPliku(PLB);
     sierota.AddNewZero(3, u" "_s);
-    sierota.UpdateBatch();
+    sierota.UpdateBatch(u"Dane testu");
     EXPECT_THROW((void)lista()->DodajPracownikow({2, 3}), BladBazy);
     sierota.Delete();
-    sierota.UpdateBatch();
+    sierota.UpdateBatch(u"Dane testu");
     EXPECT_EQ(wierszeWPliku(), "1 ");
 }
 

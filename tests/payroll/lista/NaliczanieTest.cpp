@@ -273,7 +273,7 @@ TEST_F(NaliczanieTest, EarlierMonthsCountWithAllTheirLists) {
         Recordset rs = zPliku(PLA, w.rm);
         rs.AddNewZero(w.prcId, w.lista);
         rs.ustaw(PLA("BRUTTO"), zl(w.brutto));
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
     zmienPracownika(1, "doch_start=25000");
     ASSERT_TRUE(sesja().ZnajdzMiesiac(2001, 8));
@@ -311,7 +311,7 @@ TEST_F(NaliczanieTest, ContractsWarnAndNeverRaiseTheRate) {
         rs.ustaw(u.tabela.nr(u.tabela.numer("prc_id")), u.prcId);
         rs.ustaw(u.tabela.nr(u.tabela.numer("data_wyp")), u.wyplata);
         rs.ustaw(u.tabela.nr(u.tabela.numer("Brutto")), zl(u.brutto));
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     }
     EXPECT_EQ(naliczanie().OdczytajStareBrutto(Tryb::Pojedynczy).kwotaUmow, zl(123.5));
 

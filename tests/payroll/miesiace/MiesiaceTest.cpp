@@ -1,4 +1,5 @@
 #include "payroll/miesiace/Miesiace.h"
+#include "store/Struktura.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
 
@@ -151,7 +152,7 @@ TEST_F(MiesiaceTest, OpeningAndWalkingAMonth) {
         for (const TabelaDef* t : schemat::TabeleMiesiaca) {
             Recordset rs = zPliku(*t, rm);
             for (const auto& [prcId, lista] : klucze) rs.AddNewZero(prcId, lista);
-            rs.UpdateBatch();
+            rs.UpdateBatch(u"Dane testu");
         }
     };
     wiersze(kLipiec, {{2, u" "_s}, {1, u"B"_s}, {1, u"A"_s}});

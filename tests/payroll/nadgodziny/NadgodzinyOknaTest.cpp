@@ -5,6 +5,7 @@
 #include "payroll/nadgodziny/frmNadg.h"
 #include "payroll/nadgodziny/frmNadgSiatka.h"
 #include "personnel/frmWybPr.h"
+#include "store/Struktura.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/Widzet.h"

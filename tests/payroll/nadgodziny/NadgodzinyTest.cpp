@@ -1,6 +1,7 @@
 #include "payroll/nadgodziny/Nadgodziny.h"
 #include "common/Godziny.h"
 #include "payroll/nadgodziny/ListaNadgodzin.h"
+#include "store/Struktura.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
 

@@ -1,4 +1,5 @@
 #include "personnel/RejestrNieobecnosci.h"
+#include "store/Struktura.h"
 #include "wsparcie/NieobecnosciTestowe.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaZgoda.h"
@@ -27,7 +28,7 @@ protected:
         naglowek.AddNewZero();
         naglowek.ustaw(schemat::NADG("Rok"), u"2001"_s);
         naglowek.ustaw(schemat::NADG("Mies"), u"07"_s);
-        naglowek.UpdateBatch();
+        naglowek.UpdateBatch(u"Dane testu");
         rs.Open(sesja().cnPlace, nazwa);
         for (const auto& [nr, grupy] : kwoty) {
             rs.AddNewZero(nr);
@@ -35,7 +36,7 @@ protected:
                 rs.ustaw(schemat::NADGN.nr(schemat::NADGN.numer("SP_K" + std::to_string(g + 1))),
                          zl(grupy[g]));
         }
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
         stale().AktRejNadg = true;
     }
 

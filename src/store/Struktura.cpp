@@ -1,0 +1,79 @@
+#include "store/Struktura.h"
+#include "store/Schemat.h"
+#include "store/WersjaPliku.h"
+
+namespace tornel::store {
+
+namespace {
+
+QByteArray typSql(const KolumnaDef& k) {
+    const QByteArray rozmiar = "(" + QByteArray::number(k.rozmiar) + ")";
+    switch (k.typ) {
+    case Typ::Byte:
+        return "BYTE";
+    case Typ::Short:
+        return "SHORT";
+    case Typ::Integer:
+        return "INTEGER";
+    case Typ::Currency:
+        return "CURRENCY";
+    case Typ::Single:
+        return "SINGLE";
+    case Typ::Double:
+        return "DOUBLE";
+    case Typ::Text:
+        return "TEXT" + rozmiar;
+    case Typ::Char:
+        return "CHAR" + rozmiar;
+    // The second word gives the column text affinity; MEMO alone would turn a note of digits into a number.
+    case Typ::Memo:
+        return "MEMO TEXT";
+    case Typ::Date:
+        return "DATE";
+    }
+    return {};
+}
+
+} // namespace
+
+void UtworzTabele(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa) {
+    QByteArray kolumny;
+    for (const KolumnaDef& k : tabela.kolumny)
+        kolumny += (kolumny.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa) + " " + typSql(k) +
+                   (k.wymagana ? " NOT NULL" : "");
+    const std::string cudzyslow = nazwaSql(nazwa.toStdString()).toStdString();
+    polaczenie.wykonaj("CREATE TABLE " + cudzyslow + " (" + kolumny.toStdString() + ")");
+    if (tabela.klucz.empty()) return;
+    // Contracts and declarations have keys of their own and are searched by employee as well.
+    if (tabela.numer("PRC_ID") >= 0 && !teSameNazwy(tabela.klucz[0], "PRC_ID"))
+        polaczenie.wykonaj("CREATE INDEX " + nazwaSql("P_" + nazwa.toStdString()).toStdString() + " ON " +
+                           cudzyslow + " (\"PRC_ID\")");
+    QByteArray klucz;
+    for (const std::string_view k : tabela.kluczPliku()) klucz += (klucz.isEmpty() ? "" : ", ") + nazwaSql(k);
+    const char* unikalny = tabela.rodzajKlucza == Klucz::Jednoznaczny ? "UNIQUE " : "";
+    polaczenie.wykonaj(std::string("CREATE ") + unikalny + "INDEX " +
+                       nazwaSql("I_" + nazwa.toStdString()).toStdString() + " ON " + cudzyslow + " (" +
+                       klucz.toStdString() + ")");
+}
+
+void UsunTabele(Polaczenie& polaczenie, const QString& nazwa) {
+    polaczenie.wykonaj("DROP TABLE " + nazwaSql(nazwa.toStdString()).toStdString());
+}
+
+void UtworzBaze(const QString& sciezka) {
+    Polaczenie polaczenie(sciezka, Polaczenie::Sposob::Nowa);
+    try {
+        Transakcja transakcja(polaczenie, u"Nowa baza danych");
+        for (const TabelaDef* tabela : schemat::Tabele)
+            UtworzTabele(
+                polaczenie, *tabela,
+                QString::fromLatin1(tabela->nazwa.data(), static_cast<qsizetype>(tabela->nazwa.size())));
+        UstawWersje(polaczenie, static_cast<int>(KrokiWersji().size()));
+        transakcja.zatwierdz();
+    } catch (...) {
+        UsunPlikBazy(sciezka);
+        throw;
+    }
+}
+
+} // namespace tornel::store
