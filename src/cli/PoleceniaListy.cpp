@@ -47,11 +47,11 @@ int wykonajSerie(Wywolanie& w, ListaPlac& lista, const std::function<RaportSerii
     QJsonArray niepowodzenia;
     for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia)
         niepowodzenia.append(
-            QJsonObject{{QStringLiteral("pracownik"), n.prcId}, {QStringLiteral("powod"), n.powod}});
+            QJsonObject{{QStringLiteral("pracownik"), n.numer}, {QStringLiteral("powod"), n.powod}});
     QJsonArray uwagi;
     for (const RaportSerii::Uwaga& u : raport.uwagi) {
         QJsonArray pracownicy;
-        for (const qint64 prcId : u.pracownicy) pracownicy.append(prcId);
+        for (const qint64 prcId : u.numery) pracownicy.append(prcId);
         uwagi.append(
             QJsonObject{{QStringLiteral("tekst"), u.tekst}, {QStringLiteral("pracownicy"), pracownicy}});
     }

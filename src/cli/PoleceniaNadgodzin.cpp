@@ -37,7 +37,7 @@ int raport(Wywolanie& w, const RaportSerii& r) {
     QJsonArray niepowodzenia;
     for (const RaportSerii::Niepowodzenie& n : r.niepowodzenia)
         niepowodzenia.append(
-            QJsonObject{{QStringLiteral("pracownik"), n.prcId}, {QStringLiteral("powod"), n.powod}});
+            QJsonObject{{QStringLiteral("pracownik"), n.numer}, {QStringLiteral("powod"), n.powod}});
     if (w.json())
         w.pisz(QJsonObject{{QStringLiteral("wykonane"), r.wykonane},
                            {QStringLiteral("pominiete"), r.pominiete},

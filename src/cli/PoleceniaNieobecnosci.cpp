@@ -139,12 +139,12 @@ int transport(Wywolanie& w) {
         w.rozmowa.komunikat(QStringLiteral("Pracownik nr %1: Nie ma pracownika o numerze %1.").arg(prcId),
                             Styl::Wykrzyknik);
     if (przeniesione && w.json())
-        w.pisz(QJsonObject{{QStringLiteral("zapisane"), przeniesione->zapisane},
+        w.pisz(QJsonObject{{QStringLiteral("zapisane"), przeniesione->wykonane},
                            {QStringLiteral("pominiete"), przeniesione->pominiete},
                            {QStringLiteral("nieudane"), static_cast<qint64>(bezKarty.size())}});
     else if (przeniesione)
         w.pisz(QStringLiteral("Kalendarze zapisane: %1, pominięte: %2, nieudane: %3.")
-                   .arg(przeniesione->zapisane)
+                   .arg(przeniesione->wykonane)
                    .arg(przeniesione->pominiete)
                    .arg(bezKarty.size()));
     return wynik(przeniesione && bezKarty.isEmpty());

@@ -3,6 +3,7 @@
 #include "common/Rozmowa.h"
 #include "personnel/Pracownicy.h"
 #include "personnel/SwietaUstawowe.h"
+#include "store/Seria.h"
 #include "store/Sesja.h"
 #include <algorithm>
 
@@ -190,8 +191,8 @@ bool Kalendarz::SwietaRoku(qint64 prcId, int rok) {
 
 // --- transport
 
-WynikTransportu Kalendarz::przenies(const MiesiacKalendarza& ogolny, const TrescMiesiaca& tresc,
-                                    const QList<qint64>& numery, Istniejace istniejace) {
+RaportSerii Kalendarz::przenies(const MiesiacKalendarza& ogolny, const TrescMiesiaca& tresc,
+                                const QList<qint64>& numery, Istniejace istniejace) {
     // One reading of this month for all of them, whatever their number.
     const auto [pierwszy, ostatni] = std::ranges::minmax(numery);
     Recordset rs(KALENDARZ);
@@ -200,22 +201,29 @@ WynikTransportu Kalendarz::przenies(const MiesiacKalendarza& ogolny, const Tresc
              {KALENDARZ("PrcId"), Kryterium::Operator::NieWieksze, ostatni},
              rowne(KALENDARZ("Rok"), ogolny.rok),
              rowne(KALENDARZ("Mies"), ogolny.mies)});
-    WynikTransportu wynik;
-    const auto ile = static_cast<int>(numery.size());
-    const auto postep = o_.rozmowa.postep(QStringLiteral("Transport dni wolnych do pracowników"), ile);
-    for (int i = 0; i < ile && !wynik.przerwany; ++i) {
+    const QString tytul = QStringLiteral("Transport dni wolnych do pracowników");
+    const auto przenies = [&](qsizetype i) {
         const qint64 prcId = numery[i];
         const bool jest = rs.Znajdz(prcId);
-        if (jest && istniejace == Istniejace::Zmieniac) wpisz(rs, tresc);
-        if (!jest) dopisz(rs, {prcId, ogolny.rok, ogolny.mies}, tresc);
-        ++(jest && istniejace == Istniejace::Pomijac ? wynik.pominiete : wynik.zapisane);
-        wynik.przerwany = !postep->krok(i + 1, QStringLiteral("Pracownik nr %1").arg(prcId)) && i + 1 < ile;
-    }
-    rs.UpdateBatch(u"Transport dni wolnych do pracowników");
-    return wynik;
+        if (jest && istniejace == Istniejace::Pomijac) return WynikKroku{WynikKroku::Los::Pominiety, {}};
+        if (jest)
+            wpisz(rs, tresc);
+        else
+            dopisz(rs, {prcId, ogolny.rok, ogolny.mies}, tresc);
+        return WynikKroku{};
+    };
+    return WykonajSerie(o_.sesja.cnPlace, o_.rozmowa,
+                        {.czynnosc = tytul + QLatin1Char(' ') + NapisMiesiaca(ogolny.rok, ogolny.mies),
+                         .tytul = tytul,
+                         .krok = QStringLiteral("Pracownik nr ")},
+                        {.ile = numery.size(),
+                         .numer = [&](qsizetype i) { return numery[i]; },
+                         .krok = przenies,
+                         .zapisz = [&](const Transakcja& akcja) { rs.UpdateBatch(akcja); },
+                         .cofnij = [&] { rs.CancelBatch(); }});
 }
 
-std::optional<WynikTransportu> Kalendarz::Transp(int rok, int mies, const QList<qint64>& numery) {
+std::optional<RaportSerii> Kalendarz::Transp(int rok, int mies, const QList<qint64>& numery) {
     for (const qint64 prcId : numery) wymagajPracownika(o_, prcId);
     if (numery.isEmpty()) {
         o_.rozmowa.komunikat(QStringLiteral("Nie przetransportowano dni wolnych do pracowników."),
@@ -234,13 +242,13 @@ std::optional<WynikTransportu> Kalendarz::Transp(int rok, int mies, const QList<
                              Styl::Wykrzyknik);
         return std::nullopt;
     }
-    const WynikTransportu wynik = przenies(ogolny, *tresc, numery, istniejace);
-    o_.rozmowa.komunikat(wynik.przerwany
+    const RaportSerii raport = przenies(ogolny, *tresc, numery, istniejace);
+    o_.rozmowa.komunikat(raport.przerwana
                              ? QStringLiteral("Transport dni wolnych do pracowników przerwano. Zapisano: %1.")
-                                   .arg(wynik.zapisane)
+                                   .arg(raport.wykonane)
                              : QStringLiteral("Transport dni wolnych do pracowników zakończony."),
                          Styl::Informacja);
-    return wynik;
+    return raport;
 }
 
 } // namespace tornel::personnel

@@ -2,6 +2,7 @@
 #pragma once
 #include "personnel/DniKalendarza.h"
 #include "rules/Otoczenie.h"
+#include "store/RaportSerii.h"
 #include <array>
 #include <optional>
 #include <QList>
@@ -38,13 +39,6 @@ enum class Swieta { BezZaznaczania, Zaznaczone };
 
 /// Makes the statutory holidays of the month free; a description that stands there already is kept.
 void ZaznaczSwieta(TrescMiesiaca& tresc, int rok, int mies);
-
-/// How many employees' months a transport wrote, and how many it left alone.
-struct WynikTransportu {
-    int zapisane = 0;
-    int pominiete = 0;
-    bool przerwany = false; ///< by the clerk, between two employees
-};
 
 /// Every operation reads only the months it needs, through the index of the file, and changes the file in one
 /// action. All throw `BladBazy`; nothing is changed then.
@@ -84,12 +78,12 @@ public:
     /// they have already, adds those they lack. Its messages tell how it ended. Nothing when nobody was
     /// chosen or the general calendar lacks the month. Stopped between two employees, it keeps what is done.
     /// Throws `Blad` for somebody who is not in the personnel file.
-    std::optional<WynikTransportu> Transp(int rok, int mies, const QList<qint64>& numery);
+    std::optional<RaportSerii> Transp(int rok, int mies, const QList<qint64>& numery);
 
 private:
     enum class Istniejace { Zmieniac, Pomijac };
-    [[nodiscard]] WynikTransportu przenies(const MiesiacKalendarza& ogolny, const TrescMiesiaca& tresc,
-                                           const QList<qint64>& numery, Istniejace istniejace);
+    [[nodiscard]] RaportSerii przenies(const MiesiacKalendarza& ogolny, const TrescMiesiaca& tresc,
+                                       const QList<qint64>& numery, Istniejace istniejace);
 
     Otoczenie& o_;
 };

@@ -148,7 +148,7 @@ TEST_F(KalendarzTest, TransportDopisujeBrakujaceAIstniejaceWedlugOdpowiedzi) {
     rozmowa_.spodziewaj(kTransportZakonczony, Styl::Informacja);
     auto wynik = kalendarz().Transp(2001, 5, {3, 7, 40000});
     ASSERT_TRUE(wynik);
-    EXPECT_EQ(wynik->zapisane, 2);
+    EXPECT_EQ(wynik->wykonane, 2);
     EXPECT_EQ(wynik->pominiete, 1);
     EXPECT_EQ(wPliku({7, 2001, 5}), wlasny);
     for (const qint64 prcId : {3, 40000}) {
@@ -159,7 +159,7 @@ TEST_F(KalendarzTest, TransportDopisujeBrakujaceAIstniejaceWedlugOdpowiedzi) {
 
     rozmowa_.spodziewaj(kPytanieTransportu, Odpowiedz::Tak);
     rozmowa_.spodziewaj(kTransportZakonczony, Styl::Informacja);
-    EXPECT_EQ(kalendarz().Transp(2001, 5, {7, 9})->zapisane, 2);
+    EXPECT_EQ(kalendarz().Transp(2001, 5, {7, 9})->wykonane, 2);
     EXPECT_EQ(wPliku({7, 2001, 5}), zMostem);
     EXPECT_EQ(wPliku({9, 2001, 5}), zMostem);
     EXPECT_EQ(wPliku({7, 2001, 4}), u"W.....WW.....WW.....WW.....WW.-"_s) << "another month";
@@ -178,10 +178,10 @@ TEST_F(KalendarzTest, TransportBezMiesiacaBezWybranychIPrzerwany) {
     EXPECT_THROW((void)kalendarz().Transp(2001, 5, {3, 8}), Blad);
     EXPECT_EQ(wierszy(), 1);
 
-    rozmowa_.przerwijPostep(2);
+    rozmowa_.przerwijPostep(3);
     rozmowa_.spodziewaj(kPytanieTransportu, Odpowiedz::Tak);
     rozmowa_.spodziewaj(u"Transport dni wolnych do pracowników przerwano. Zapisano: 2."_s, Styl::Informacja);
-    EXPECT_TRUE(kalendarz().Transp(2001, 5, {3, 7, 9})->przerwany);
+    EXPECT_TRUE(kalendarz().Transp(2001, 5, {3, 7, 9})->przerwana);
     EXPECT_EQ(kalendarz().pracownicy(), (QList<qint64>{3, 7})) << "what was done is kept";
 }
 

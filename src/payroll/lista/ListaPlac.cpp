@@ -228,7 +228,6 @@ RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
     CofnijWiersz();
     naliczanie_.przygotujSerie(ile);
     const auto postep = o_.rozmowa.postep(tytul, static_cast<int>(ile));
-    QHash<QString, qsizetype> znaneUwagi;
     Transakcja transakcja(o_.sesja.cnPlace, tytul);
     for (qsizetype i = 0; i < ile; ++i) {
         const qint64 prcId = numer(i);
@@ -251,14 +250,7 @@ RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
             raport.niepowodzenia.append({prcId, blad.komunikat()});
             continue;
         }
-        for (const QString& uwaga : naliczanie_.zabierzUwagi()) {
-            if (!znaneUwagi.contains(uwaga)) {
-                znaneUwagi.insert(uwaga, raport.uwagi.size());
-                raport.uwagi.append({uwaga, {}});
-            }
-            QList<qint64>& kto = raport.uwagi[znaneUwagi.value(uwaga)].pracownicy;
-            if (kto.isEmpty() || kto.last() != prcId) kto.append(prcId);
-        }
+        raport.dodajUwagi(prcId, naliczanie_.zabierzUwagi());
         for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch(transakcja);
     }
     transakcja.zatwierdz();

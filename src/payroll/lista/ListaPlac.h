@@ -6,7 +6,7 @@
 #include "payroll/lista/OdpowiedziSerii.h"
 #include "payroll/lista/PolaListy.h"
 #include "payroll/lista/Pozycje.h"
-#include "payroll/lista/RaportSerii.h"
+#include "store/RaportSerii.h"
 #include "rules/Otoczenie.h"
 #include <functional>
 #include <QList>

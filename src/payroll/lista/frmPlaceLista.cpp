@@ -301,7 +301,7 @@ void frmPlaceLista::seria(const QList<Obliczenie>& obliczenia) {
     for (const Obliczenie obliczenie : obliczenia) {
         const RaportSerii raport = lista_.PrzeliczSerie(obliczenie, klucze);
         QSet<qint64> nieudane;
-        for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia) nieudane.insert(n.prcId);
+        for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia) nieudane.insert(n.numer);
         const qsizetype ile = raport.wykonane + raport.pominiete + raport.niepowodzenia.size();
         for (const KluczListy& k : klucze.first(ile)) {
             if (nieudane.contains(k.prcId)) continue;

@@ -19,6 +19,7 @@ using schemat::PRACPR;
 namespace {
 
 constexpr qint64 kNikt = 0; // no employee has this number
+const QString kTytul = QStringLiteral("Nadgodzinowe listy płac");
 
 /// The two columns of each group, by a function that names them.
 using KolumnaGrupy = Kolumna (*)(int grupa);
@@ -77,6 +78,8 @@ ListaNadgodzin::ListaNadgodzin(Otoczenie& otoczenie, RokMies miesiac) : o_(otocz
 QString ListaNadgodzin::nazwaTabeli(const TabelaDef& tabela) const {
     return Sesja::nazwaMiesiaca(tabela.nazwa, miesiac_.rok, miesiac_.mies);
 }
+
+QString ListaNadgodzin::czynnosc(const QString& co) const { return co + QLatin1Char(' ') + miesiac_.napis(); }
 
 void ListaNadgodzin::otworzDni(qint64 prcId) {
     dni_.Open(o_.sesja.cnPlace, nazwaTabeli(NADGDzien),
@@ -237,32 +240,47 @@ bool ListaNadgodzin::NowaOsoba(qint64 prcId) {
     return true;
 }
 
+RaportSerii ListaNadgodzin::wykonajSerie(const NapisySerii& napisy, const QList<qint64>& numery,
+                                         const std::function<WynikKroku(qint64)>& krok) {
+    const auto tabele = {&dni_, &osoby_};
+    const CzynnosciSerii czynnosci{
+        .ile = numery.size(),
+        .numer = [&](qsizetype i) { return numery[i]; },
+        .krok = [&](qsizetype i) { return krok(numery[i]); },
+        .zapisz =
+            [&](const Transakcja& akcja) {
+                for (Recordset* rs : tabele) rs->UpdateBatch(akcja);
+            },
+        .cofnij = [&] { std::ranges::for_each(tabele, &Recordset::CancelBatch); },
+        .zakoncz =
+            [&](const Transakcja& akcja) {
+                sumujMiesiac();
+                o_.sesja.rsNADG.UpdateBatch(akcja);
+            },
+    };
+    try {
+        return WykonajSerie(o_.sesja.cnPlace, o_.rozmowa, napisy, czynnosci);
+    } catch (...) {
+        odczytaj();
+        throw;
+    }
+}
+
 RaportSerii ListaNadgodzin::NoweOsoby(QList<qint64> numery) {
     // New rows go behind those before them; in any other order each would move the ones behind it.
     std::ranges::sort(numery);
     (void)WypiszNadgodziny(kNikt);
-    RaportSerii raport;
-    {
-        const auto postep =
-            o_.rozmowa.postep(QStringLiteral("Nadgodzinowe listy płac"), static_cast<int>(numery.size()));
-        zapisz([&] {
-            for (int i = 0; i < static_cast<int>(numery.size()); ++i) {
-                const qint64 prcId = numery.at(i);
-                raport.przerwana = !postep->krok(i + 1, QStringLiteral("Dopisywanie pracownika nr ") +
-                                                            QString::number(prcId));
-                if (raport.przerwana) break;
-                if (osoby_.Znajdz(prcId)) {
-                    ++raport.pominiete;
-                } else if (o_.sesja.UstawPracownika(prcId)) {
-                    dodajWiersze(prcId);
-                    ++raport.wykonane;
-                } else {
-                    raport.niepowodzenia.append(
-                        {prcId, QStringLiteral("Nie znaleziono danych pracownika w kadrach.")});
-                }
-            }
-        });
-    }
+    const RaportSerii raport =
+        wykonajSerie({.czynnosc = czynnosc(QStringLiteral("Dodanie osób do listy nadgodzin")),
+                      .tytul = kTytul,
+                      .krok = QStringLiteral("Dopisywanie pracownika nr ")},
+                     numery, [this](qint64 prcId) {
+                         if (osoby_.Znajdz(prcId)) return WynikKroku{WynikKroku::Los::Pominiety, {}};
+                         if (!o_.sesja.UstawPracownika(prcId))
+                             throw Blad(QStringLiteral("Nie znaleziono danych pracownika w kadrach."));
+                         dodajWiersze(prcId);
+                         return WynikKroku{};
+                     });
     (void)WypiszNadgodziny(kNikt);
     return raport;
 }
@@ -370,33 +388,19 @@ void ListaNadgodzin::przeliczOsobe(StawkiNadgodzin& stawki) {
 
 RaportSerii ListaNadgodzin::Odswiez() {
     const qint64 wybrana = osoba_ ? osoba_->prcId : kNikt;
-    RaportSerii raport;
     dni_.Open(o_.sesja.cnPlace, nazwaTabeli(NADGDzien));
     dni_.Sort({NADGDzien("PRC_ID"), NADGDzien("DATA")});
-    {
-        StawkiNadgodzin stawki(o_);
-        const auto postep =
-            o_.rozmowa.postep(QStringLiteral("Nadgodzinowe listy płac"), osoby_.RecordCount());
-        zapisz([&] {
-            int krok = 0;
-            for (osoby_.MoveFirst(); !osoby_.EOF_(); osoby_.MoveNext()) {
-                const qint64 prcId = osoby_.liczba(NADGN("PRC_ID"));
-                raport.przerwana =
-                    !postep->krok(++krok, QStringLiteral("PROSZĘ CZEKAĆ ! Wyliczanie pracownika nr ") +
-                                              QString::number(prcId));
-                if (raport.przerwana) break;
-                (void)dni_.Znajdz(prcId);
-                try {
-                    przeliczOsobe(stawki);
-                    ++raport.wykonane;
-                } catch (const BladBazy&) {
-                    throw;
-                } catch (const Blad& blad) {
-                    raport.niepowodzenia.append({prcId, blad.komunikat()});
-                }
-            }
-        });
-    }
+    QList<qint64> numery;
+    for (osoby_.MoveFirst(); !osoby_.EOF_(); osoby_.MoveNext()) numery.append(osoby_.liczba(NADGN("PRC_ID")));
+    StawkiNadgodzin stawki(o_);
+    const RaportSerii raport =
+        wykonajSerie({.czynnosc = czynnosc(QStringLiteral("Odświeżenie listy nadgodzin")), .tytul = kTytul},
+                     numery, [&](qint64 prcId) {
+                         (void)osoby_.Znajdz(prcId);
+                         (void)dni_.Znajdz(prcId);
+                         przeliczOsobe(stawki);
+                         return WynikKroku{};
+                     });
     (void)WypiszNadgodziny(wybrana);
     return raport;
 }

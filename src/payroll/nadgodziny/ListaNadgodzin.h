@@ -1,9 +1,9 @@
 // The open overtime list of a month: its persons, their hours by time group and what these are worth.
 #pragma once
-#include "payroll/lista/RaportSerii.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "payroll/nadgodziny/RownaniaNadgodzin.h"
 #include "store/Recordset.h"
+#include "store/Seria.h"
 #include <functional>
 #include <QDate>
 #include <QList>
@@ -102,6 +102,10 @@ private:
     using Zmiana = std::function<void(WierszNadgodzin&)>;
 
     [[nodiscard]] QString nazwaTabeli(const TabelaDef& tabela) const;
+    /// An action's name in words: `co` with the month behind it.
+    [[nodiscard]] QString czynnosc(const QString& co) const;
+    RaportSerii wykonajSerie(const NapisySerii& napisy, const QList<qint64>& numery,
+                             const std::function<WynikKroku(qint64)>& krok);
     void otworzDni(qint64 prcId);
     void odczytaj();
     void wymagajOsoby() const;

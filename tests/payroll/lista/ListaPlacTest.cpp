@@ -178,7 +178,7 @@ TEST_F(ListaPlacTest, ABatchIsolatesFailures) {
     raport = l->PrzeliczSerie(Obliczenie::Przeliczenie, {klucz(1), klucz(3), klucz(8)});
     EXPECT_EQ(raport.wykonane, 1);
     ASSERT_EQ(raport.niepowodzenia.size(), 2);
-    EXPECT_EQ(raport.niepowodzenia[1].prcId, 8);
+    EXPECT_EQ(raport.niepowodzenia[1].numer, 8);
     oczekujWPliku(klucz(1), "BRUTTO=1000 KUP=0");
     ASSERT_TRUE(l->Wypisz_daneP(klucz(1)));
     oczekuj("BRUTTO=1000 KUP=0");

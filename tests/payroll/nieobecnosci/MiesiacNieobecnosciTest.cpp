@@ -187,7 +187,7 @@ protected:
         for (const QString& symbol : symbole) {
             ListaPlac l(o, kLipiec.rok, kLipiec.mies, symbol);
             const auto seria = [&](const QList<qint64>& kto) {
-                for (const auto& n : l.DodajPracownikow(kto).niepowodzenia) niepowodzenia[n.prcId] = n.powod;
+                for (const auto& n : l.DodajPracownikow(kto).niepowodzenia) niepowodzenia[n.numer] = n.powod;
             };
             if (droga == Droga::WierszPoWierszu) {
                 for (const qint64 nr : numery) {

@@ -196,7 +196,7 @@ TEST_F(UrlopTest, ABatchFillsTheComponentsOfThePeriodsAndReportsTheRest) {
     EXPECT_EQ(raport.wykonane, 2);
     ASSERT_EQ(raport.uwagi.size(), 3); // the second and fifth period of 1, the second of 2
     EXPECT_EQ(raport.uwagi[1].tekst, niezapisane(u"14-07-2001"_s, u"14-07-2001"_s));
-    EXPECT_EQ(raport.uwagi[2].pracownicy, QList<qint64>{2});
+    EXPECT_EQ(raport.uwagi[2].numery, QList<qint64>{2});
     oczekujWPliku({1, u" "_s}, "SP_20=10 SP_21=0 SP_22=12 SP_23=13 SP_5=0");
     oczekujWPliku({2, u" "_s}, "SP_20=9");
 }
