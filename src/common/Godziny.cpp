@@ -15,7 +15,7 @@ QString FormatGodzin(Waluta godziny) {
 std::optional<Waluta> CzytajGodziny(const QString& tekst, Waluta najwiecej) {
     if (tekst.trimmed().isEmpty()) return Waluta{};
     const auto godziny = CzytajKwote(tekst);
-    if (!godziny || *godziny < Waluta{} || *godziny > najwiecej || godziny->surowa() % 100 != 0) return {};
+    if (!godziny || *godziny < -najwiecej || *godziny > najwiecej || godziny->surowa() % 100 != 0) return {};
     return godziny;
 }
 

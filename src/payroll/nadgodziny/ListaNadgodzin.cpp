@@ -331,7 +331,7 @@ bool ListaNadgodzin::ZmienGodziny(qsizetype wiersz, int grupa, const QString& wp
     const auto godziny = CzytajGodziny(wpisane, najwiecej);
     if (!godziny) {
         o_.rozmowa.komunikat(
-            QStringLiteral("Godziny podaje się liczbą od 0 do %1, najwyżej z dwoma miejscami po przecinku.")
+            QStringLiteral("Godziny podaje się liczbą od -%1 do %1, najwyżej z dwoma miejscami po przecinku.")
                 .arg(TekstKwoty(najwiecej)),
             Styl::Wykrzyknik);
         return false;
@@ -348,7 +348,13 @@ bool ListaNadgodzin::ZmienStawke(qsizetype wiersz, const QString& wpisane) {
                              Styl::Wykrzyknik);
         return false;
     }
-    return zmienWiersze(wiersz, -1, [&](WierszNadgodzin& w) { w.stawka = *stawka; });
+    return zmienWiersze(wiersz, 1, [&](WierszNadgodzin& w) { w.stawka = *stawka; });
+}
+
+bool ListaNadgodzin::PrzeniesStawke(qsizetype wiersz) {
+    wymagajOsoby();
+    const Waluta stawka = wiersze().at(wiersz).stawka;
+    return zmienWiersze(wiersz, -1, [&](WierszNadgodzin& w) { w.stawka = stawka; });
 }
 
 void ListaNadgodzin::ZmienUwagi(qsizetype wiersz, const QString& uwagi) {

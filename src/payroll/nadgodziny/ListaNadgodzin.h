@@ -37,7 +37,7 @@ struct WierszNadgodzin {
     QString uwagi;      ///< only of a day
 };
 
-/// Hours that a cell can hold: of a day, and of a whole month.
+/// Hours that a cell can hold in either direction: of a day, and of a whole month.
 inline constexpr Waluta kNajwiecejGodzinDnia = Waluta::zSurowej(24'0000);
 inline constexpr Waluta kNajwiecejGodzinMiesiaca = Waluta::zSurowej(744'0000);
 
@@ -88,9 +88,10 @@ public:
     /// The hours of `grupa` (1 to 7) on row `wiersz` of the person in work, as typed. The row's amounts are
     /// computed anew. False after a message: no hours, or an equation that cannot be carried to an end.
     bool ZmienGodziny(qsizetype wiersz, int grupa, const QString& wpisane);
-    /// The base rate (zł) on row `wiersz`, as typed; of days it holds from that day to the month's end. False
-    /// as above.
+    /// The base rate (zł) on row `wiersz`, as typed; of days it holds for that day. False as above.
     bool ZmienStawke(qsizetype wiersz, const QString& wpisane);
+    /// Carries the base rate of row `wiersz` to the days behind it. False as above.
+    bool PrzeniesStawke(qsizetype wiersz);
     /// The remark on the day in row `wiersz`.
     void ZmienUwagi(qsizetype wiersz, const QString& uwagi);
 

@@ -117,6 +117,10 @@ void frmNadg::budujPrzyciski() {
     cmdUsunListe_ = przycisk(QStringLiteral("cmdUsunListe"), QStringLiteral("&Usuń listę"), u"usun");
     cmdNowaOsoba_ = przycisk(QStringLiteral("cmdNowaOsoba"), QStringLiteral("&Dodaj osoby"), u"nowy");
     cmdUsunOsobe_ = przycisk(QStringLiteral("cmdUsunOsobe"), QStringLiteral("U&suń osobę"), u"usun");
+    cmdStawka_ = przycisk(QStringLiteral("cmdStawka"), QStringLiteral("Stawka do &końca miesiąca"));
+    cmdStawka_->setToolTip(
+        QStringLiteral("Stawka dnia zaznaczonego w siatce przechodzi na wszystkie następne dni miesiąca"));
+    cmdStawka_->setAutoDefault(false);
     cmdOdswiez_ = przycisk(QStringLiteral("cmdOdswiez"), QStringLiteral("&Odśwież"), u"przelicz");
     cmdAnuluj_ = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Powrót"), u"powrot");
 }
@@ -126,6 +130,7 @@ void frmNadg::polacz() {
     connect(cmdUsunListe_, &QPushButton::clicked, this, &frmNadg::UsunListe);
     connect(cmdNowaOsoba_, &QPushButton::clicked, this, &frmNadg::NowaOsoba);
     connect(cmdUsunOsobe_, &QPushButton::clicked, this, &frmNadg::UsunOsobe);
+    connect(cmdStawka_, &QPushButton::clicked, this, &frmNadg::przeniesStawke);
     connect(cmdOdswiez_, &QPushButton::clicked, this, &frmNadg::odswiez);
     connect(cmdAnuluj_, &QPushButton::clicked, this, &QDialog::reject);
     connect(lvwLista_, &WidokListy::wybrano, this, [this](qint64 id) {
@@ -175,7 +180,10 @@ QWidget* frmNadg::prawaStrona() {
     auto* prawa = new QWidget;
     auto* uklad = new QVBoxLayout(prawa);
     uklad->setContentsMargins(0, 0, 0, 0);
-    uklad->addWidget(labOsoba_);
+    auto* naglowek = new QHBoxLayout;
+    naglowek->addWidget(labOsoba_, 1);
+    naglowek->addWidget(cmdStawka_);
+    uklad->addLayout(naglowek);
     uklad->addWidget(siatka_, 1);
     uklad->addWidget(lvwSumy_);
     uklad->addWidget(lvwRownania_);
@@ -224,6 +232,7 @@ void frmNadg::WypiszNadgodziny(qint64 prcId) {
     const bool jest = lista_ && lista_->WypiszNadgodziny(prcId);
     siatka_->ustaw(jest ? lista_.get() : nullptr);
     const OsobaNadgodzin osoba = jest ? *lista_->osoba() : OsobaNadgodzin{};
+    cmdStawka_->setVisible(jest && lista_->szczegolowa());
     labOsoba_->setText(jest ? tekstyOsoby(osoba).first(2).join(QStringLiteral("  ")) : QString());
     pokazSumy();
 }
@@ -326,6 +335,13 @@ void frmNadg::UsunOsobe() {
     const int wiersz = lvwOsoby_->currentIndex().row();
     const qint64 sasiad = osoby.id(wiersz + 1 < osoby.rowCount() ? wiersz + 1 : wiersz - 1);
     if (lista_->UsunOsobe()) pokazOsoby(sasiad);
+}
+
+void frmNadg::przeniesStawke() {
+    siatka_->zakoncz();
+    if (siatka_->currentIndex().isValid())
+        siatka_->nadgodziny().przeniesStawke(siatka_->currentIndex().row());
+    siatka_->setFocus(Qt::OtherFocusReason);
 }
 
 void frmNadg::odswiez() {

@@ -50,6 +50,7 @@ private:
     void UsunListe();
     void NowaOsoba();
     void UsunOsobe();
+    void przeniesStawke();
     void odswiez();
 
     Otoczenie& o_;
@@ -58,7 +59,8 @@ private:
     WidokListy *lvwLista_, *lvwOsoby_, *lvwSumy_, *lvwRownania_;
     SiatkaNadgodzin* siatka_;
     QLabel *labOsoba_, *labIleOsob_;
-    QPushButton *cmdNowaLista_, *cmdUsunListe_, *cmdNowaOsoba_, *cmdUsunOsobe_, *cmdOdswiez_, *cmdAnuluj_;
+    QPushButton *cmdNowaLista_, *cmdUsunListe_, *cmdNowaOsoba_, *cmdUsunOsobe_, *cmdOdswiez_, *cmdAnuluj_,
+        *cmdStawka_;
 };
 
 } // namespace tornel::payroll

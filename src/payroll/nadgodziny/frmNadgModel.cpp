@@ -162,7 +162,8 @@ QVariant ModelNadgodzin::headerData(int sekcja, Qt::Orientation kierunek, int ro
         return nazwaGrupy ? lista_->nazwaGrupy(k.grupa) : naglowek(k.rodzaj);
     case Qt::ToolTipRole:
         if (szczegolowa_ && k.rodzaj == Rodzaj::Stawka)
-            return QStringLiteral("Zmieniona stawka obowiązuje od tego dnia do końca miesiąca.");
+            return QStringLiteral(
+                "Stawka obowiązuje w swoim dniu. „Stawka do końca miesiąca” przenosi ją na następne dni.");
         return nazwaGrupy ? lista_->nazwaGrupy(k.grupa) : QVariant();
     case Qt::TextAlignmentRole:
         return QVariant::fromValue((liczba(k.rodzaj) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
@@ -198,14 +199,22 @@ bool ModelNadgodzin::setData(const QModelIndex& indeks, const QVariant& wartosc,
     if (tekst == doEdycji(k)) return true;
     try {
         if (!wpisz(k, tekst)) return false;
-        wiersze_ = lista_->wiersze();
+        odczytaj();
     } catch (...) {
         blad_ = std::current_exception();
         return false;
     }
+    return true;
+}
+
+void ModelNadgodzin::odczytaj() {
+    wiersze_ = lista_->wiersze();
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     emit zmieniono();
-    return true;
+}
+
+void ModelNadgodzin::przeniesStawke(int wiersz) {
+    if (szczegolowa_ && lista_->PrzeniesStawke(wiersz)) odczytaj();
 }
 
 } // namespace tornel::payroll

@@ -43,6 +43,8 @@ public:
     /// Stores what was typed. A failure is kept for `zabierzBlad`: an exception would leave the view in the
     /// middle of its work.
     bool setData(const QModelIndex& indeks, const QVariant& wartosc, int rola) override;
+    /// Carries the rate of this day to the days behind it.
+    void przeniesStawke(int wiersz);
 
 signals:
     /// Hours, a rate or a remark were stored, and with them the sums.
@@ -54,6 +56,7 @@ private:
     [[nodiscard]] QString doEdycji(const Komorka& k) const;
     [[nodiscard]] QString podpowiedz(const Komorka& k) const;
     [[nodiscard]] QVariant barwa(const Komorka& k, int rola) const;
+    void odczytaj();
     [[nodiscard]] bool wpisz(const Komorka& k, const QString& tekst);
 
     ListaNadgodzin* lista_ = nullptr;

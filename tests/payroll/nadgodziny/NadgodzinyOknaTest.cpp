@@ -212,12 +212,12 @@ TEST_F(NadgodzinyOknaTest, WpisyZleUsuwaneICofane) {
     pokaz(okno);
     const QAbstractItemModelTester tester(siatka(okno).model());
     const QString odmowa =
-        u"Godziny podaje się liczbą od 0 do 24, najwyżej z dwoma miejscami po przecinku."_s;
+        u"Godziny podaje się liczbą od -24 do 24, najwyżej z dwoma miejscami po przecinku."_s;
     ustaw(okno, 4, 3);
     pisz(u"8"_s);
     klawisz(Qt::Key_Tab);
     EXPECT_EQ(miejsce(okno), std::pair(4, 4));
-    for (const QString& zle : {u"25"_s, u"-1"_s, u"abc"_s, u"1:30"_s, u"1,234"_s}) {
+    for (const QString& zle : {u"25"_s, u"-25"_s, u"abc"_s, u"1:30"_s, u"1,234"_s}) {
         SCOPED_TRACE(zle.toStdString());
         ustaw(okno, 4, 3);
         rozmowa_.spodziewaj(odmowa, Styl::Wykrzyknik);
@@ -234,6 +234,14 @@ TEST_F(NadgodzinyOknaTest, WpisyZleUsuwaneICofane) {
     klawisz(Qt::Key_Delete);
     EXPECT_EQ(komorka(okno, 4, 3), u"0,0"_s);
     EXPECT_EQ(kwotaOsoby(1, 2), Waluta{});
+
+    // A rate that was typed is carried on by a command, which takes the entry in work with it.
+    ustaw(okno, 4, 9);
+    pisz(u"30"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_K, Qt::AltModifier);
+    EXPECT_EQ(komorka(okno, 3, 9) + u' ' + komorka(okno, 4, 9) + u' ' + komorka(okno, 30, 9),
+              u"10,00 30,00 30,00"_s);
+    EXPECT_EQ(miejsce(okno), std::pair(4, 9));
 
     // Computed cells take nothing, a remark takes any text up to its length.
     ustaw(okno, 4, 10);

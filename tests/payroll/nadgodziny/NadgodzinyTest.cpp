@@ -84,13 +84,14 @@ TEST(GodzinyTest, HoursAreReadAndShown) {
         const char* pokazane;
     };
     const Przypadek przypadki[] = {
-        {u"8"_s, "8", "8,0"},       {u"2,5"_s, "2,5", "2,5"},
-        {u"2.5"_s, "2,5", "2,5"},   {u" 1,25 "_s, "1,25", "1,3"},
-        {u"0,04"_s, "0,04", "0,0"}, {u"24"_s, "24", "24,0"},
-        {QString(), "0", "0,0"},    {u"24,01"_s, "", ""},
-        {u"-1"_s, "", ""},          {u"1,255"_s, "", ""},
-        {u"1:30"_s, "", ""},        {u"8h"_s, "", ""},
-        {u"1e1"_s, "", ""},         {u"99999999999999999999"_s, "", ""},
+        {u"8"_s, "8", "8,0"},        {u"2,5"_s, "2,5", "2,5"},
+        {u"2.5"_s, "2,5", "2,5"},    {u" 1,25 "_s, "1,25", "1,3"},
+        {u"0,04"_s, "0,04", "0,0"},  {u"24"_s, "24", "24,0"},
+        {QString(), "0", "0,0"},     {u"24,01"_s, "", ""},
+        {u"-1,5"_s, "-1,5", "-1,5"}, {u"-24"_s, "-24", "-24,0"},
+        {u"-24,01"_s, "", ""},       {u"1,255"_s, "", ""},
+        {u"1:30"_s, "", ""},         {u"8h"_s, "", ""},
+        {u"1e1"_s, "", ""},          {u"99999999999999999999"_s, "", ""},
     };
     for (const Przypadek& p : przypadki) {
         SCOPED_TRACE(p.wpisane.toStdString());
@@ -262,22 +263,29 @@ TEST_F(NadgodzinyTest, SumsFollowEveryChange) {
     EXPECT_EQ(sumaMiesiaca(), "1:744,3=8932,5 4:3=60");
 
     // A refusal changes nothing; the limits are those of a day and of a month.
-    rozmowa_.spodziewaj(u"Godziny podaje się liczbą od 0 do 744, najwyżej z dwoma miejscami po przecinku."_s,
-                        Styl::Wykrzyknik);
+    rozmowa_.spodziewaj(
+        u"Godziny podaje się liczbą od -744 do 744, najwyżej z dwoma miejscami po przecinku."_s,
+        Styl::Wykrzyknik);
     EXPECT_FALSE(lista.ZmienGodziny(0, 1, u"744,5"_s));
     ASSERT_TRUE(lista.ZmienGodziny(0, 1, u"10"_s));
     ASSERT_TRUE(lista.WypiszNadgodziny(3));
-    rozmowa_.spodziewaj(u"Godziny podaje się liczbą od 0 do 24, najwyżej z dwoma miejscami po przecinku."_s,
+    rozmowa_.spodziewaj(u"Godziny podaje się liczbą od -24 do 24, najwyżej z dwoma miejscami po przecinku."_s,
                         Styl::Wykrzyknik);
     EXPECT_FALSE(lista.ZmienGodziny(0, 1, u"25"_s));
     rozmowa_.spodziewaj(u"Stawkę podaje się kwotą nie mniejszą od zera."_s, Styl::Wykrzyknik);
     EXPECT_FALSE(lista.ZmienStawke(0, u"-1"_s));
 
-    // A rate holds from its day on.
+    // A rate holds for its day, until it is carried on to the days behind it.
+    ASSERT_TRUE(lista.ZmienGodziny(3, 1, u"-0,2"_s)); // a correction
     ASSERT_TRUE(lista.ZmienStawke(2, u"20"_s));
     EXPECT_EQ(dzien(3, 2), "1:0,1=1,5");
     EXPECT_EQ(dzien(3, 3), "1:0,2=6");
+    EXPECT_EQ(dzien(3, 4), "1:-0,2=-3");
+    ASSERT_TRUE(lista.PrzeniesStawke(2));
+    EXPECT_EQ(dzien(3, 2), "1:0,1=1,5");
+    EXPECT_EQ(dzien(3, 4), "1:-0,2=-6");
     EXPECT_EQ(wierszDnia(3, 31).kwota(NADGDzien("SGP")), zl(20));
+    ASSERT_TRUE(lista.ZmienGodziny(3, 1, QString()));
     lista.ZmienUwagi(2, u"remont pieca"_s);
     EXPECT_EQ(wierszDnia(3, 3).tekst(NADGDzien("uwagi")), u"remont pieca"_s);
     ASSERT_TRUE(lista.ZmienGodziny(0, 4, QString()));
