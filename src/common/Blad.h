@@ -31,6 +31,13 @@ public:
     using Blad::Blad;
 };
 
+/// A stored value is not of its column's type. The file can be read otherwise: the failure is that of whoever
+/// the row belongs to.
+class UszkodzonaWartosc : public Blad {
+public:
+    using Blad::Blad;
+};
+
 /// A stored row is no longer the one that was read; neither version is lost.
 class Konflikt : public BladBazy {
 public:

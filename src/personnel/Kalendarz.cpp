@@ -5,6 +5,7 @@
 #include "personnel/SwietaUstawowe.h"
 #include "store/Seria.h"
 #include "store/Sesja.h"
+#include "store/Zapytanie.h"
 #include <algorithm>
 
 namespace tornel::personnel {
@@ -82,8 +83,8 @@ void ZaznaczSwieta(TrescMiesiaca& tresc, int rok, int mies) {
 // --- reading
 
 bool Kalendarz::pusty() const {
-    Instrukcja pytanie(o_.sesja.cnPlace, "SELECT 1 FROM KALENDARZ LIMIT 1");
-    return !pytanie.wiersz();
+    PrzygotowaneZapytanie ktorykolwiek(o_.sesja.cnPlace, Zapytanie(KALENDARZ).pierwszych(1));
+    return !ktorykolwiek.uruchom().nastepny();
 }
 
 QList<MiesiacKalendarza> Kalendarz::miesiace(qint64 prcId) const {
@@ -96,9 +97,11 @@ QList<MiesiacKalendarza> Kalendarz::miesiace(qint64 prcId) const {
 QList<qint64> Kalendarz::pracownicy() const {
     // The index alone answers; the days of 10,000 employees need not be read for it.
     QList<qint64> wynik;
-    Instrukcja numery(o_.sesja.cnPlace,
-                      "SELECT DISTINCT PrcId FROM KALENDARZ WHERE PrcId <> 0 ORDER BY PrcId");
-    while (numery.wiersz()) wynik.append(numery.liczba(0));
+    constexpr Kolumna prcId = KALENDARZ("PrcId");
+    PrzygotowaneZapytanie numery(
+        o_.sesja.cnPlace,
+        Zapytanie(KALENDARZ).kolumny(prcId).gdzie(prcId != kKalendarzOgolny).wedlug(prcId).rozne());
+    for (auto w = numery.uruchom(); w.nastepny();) wynik.append(w.liczba(prcId));
     return wynik;
 }
 

@@ -66,9 +66,9 @@ KartotekaPracownika::Slownik slownik(Sesja& sesja, Recordset& rs, Kolumna numer,
     rs.Filter({});
     rs.Sort({numer});
     KartotekaPracownika::Slownik wynik;
-    for (rs.MoveFirst(); !rs.EOF_(); rs.MoveNext())
+    for (const Wiersz w : rs.wiersze())
         wynik.append(
-            {rs.liczba(numer), QString::number(rs.liczba(numer)) + QStringLiteral(". ") + rs.tekst(nazwa)});
+            {w.liczba(numer), QString::number(w.liczba(numer)) + QStringLiteral(". ") + w.tekst(nazwa)});
     return wynik;
 }
 
@@ -86,8 +86,9 @@ std::size_t KartotekaPracownika::ktoraTabela(Kolumna kolumna) const {
 }
 
 Wartosc KartotekaPracownika::wartosc(Kolumna kolumna) const {
-    Recordset& rs = *tabele_[ktoraTabela(kolumna)];
-    return prcId_ && rs.Znajdz(*prcId_) ? rs.wartosc(kolumna) : Wartosc(Null);
+    const Recordset& rs = *tabele_[ktoraTabela(kolumna)];
+    const std::optional<Wiersz> wiersz = prcId_ ? rs.szukaj(*prcId_) : std::nullopt;
+    return wiersz ? wiersz->wartosc(kolumna) : Wartosc(Null);
 }
 
 // --- writing to the handles
@@ -140,13 +141,13 @@ void KartotekaPracownika::Zapisz() {
     Transakcja transakcja(o_.sesja.cnPlace,
                           prcId_ ? QStringLiteral("Zmiana danych pracownika nr %1").arg(*prcId_)
                                  : QStringLiteral("Zmiana danych pracowników"));
-    for (Recordset* rs : tabele_) rs->UpdateBatch(transakcja);
+    o_.sesja.kadry.UpdateBatch(transakcja);
     transakcja.zatwierdz();
     dziennik_.clear();
 }
 
 void KartotekaPracownika::Porzuc() {
-    for (Recordset* rs : tabele_) rs->CancelBatch();
+    o_.sesja.kadry.CancelBatch();
     dziennik_.clear();
 }
 

@@ -45,18 +45,15 @@ void sortujPoNazwiskach(QList<Osoba>& osoby) {
 QList<Osoba> Pracownicy::wybierz(const Kolumna* flaga, const QString& wartosc, bool tylkoPracujacy,
                                  PorzadekPracownikow porzadek) const {
     QList<Osoba> wynik;
-    Recordset& dp = o_.sesja.rsPRACDP;
-    Recordset& pr = o_.sesja.rsPRACPR;
-    for (dp.MoveFirst(); !dp.EOF_(); dp.MoveNext()) {
+    for (const Wiersz dp : o_.sesja.rsPRACDP.wiersze()) {
         const qint64 prcId = dp.liczba(PRACDP("prc_id"));
-        const bool jest = pr.Znajdz(prcId);
-        const auto flagaPracownika = [&](Kolumna k) { return jest && pr.flaga(k); };
+        const std::optional<Wiersz> pr = o_.sesja.rsPRACPR.szukaj(prcId);
+        const auto flagaPracownika = [&](Kolumna k) { return pr && pr->flaga(k); };
         if (tylkoPracujacy && flagaPracownika(PRACPR("Zwoln"))) continue;
         if (flaga && flagaPracownika(*flaga) != (wartosc == QLatin1String("T"))) continue;
         wynik.append({prcId, dp.tekst(PRACDP("Naz")), dp.tekst(PRACDP("Imie_1")),
-                      jest ? pr.tekst(PRACPR("dzial")) : QString(), flagaPracownika(PRACPR("Zwoln"))});
+                      pr ? pr->tekst(PRACPR("dzial")) : QString(), flagaPracownika(PRACPR("Zwoln"))});
     }
-    dp.MoveFirst();
     if (porzadek == PorzadekPracownikow::Nazwiska) sortujPoNazwiskach(wynik);
     return wynik;
 }
@@ -142,19 +139,17 @@ QString Pracownicy::komunikatPustejListy(int tryb) {
 
 qint64 Pracownicy::proponowanyNumer() const {
     qint64 najwyzszy = 0;
-    Recordset& dp = o_.sesja.rsPRACDP;
-    for (dp.MoveFirst(); !dp.EOF_(); dp.MoveNext())
-        najwyzszy = std::max(najwyzszy, dp.liczba(PRACDP("prc_id")));
-    dp.MoveFirst();
+    for (const Wiersz osoba : o_.sesja.rsPRACDP.wiersze())
+        najwyzszy = std::max(najwyzszy, osoba.liczba(PRACDP("prc_id")));
     return najwyzszy + 1;
 }
 
 bool Pracownicy::istnieje(qint64 prcId) const { return !o_.sesja.rsPRACDP.wiersze(prcId).isEmpty(); }
 
 QString Pracownicy::nazwisko(qint64 prcId) const {
-    Recordset& dp = o_.sesja.rsPRACDP;
-    if (!dp.Znajdz(prcId)) return {};
-    return (dp.tekst(PRACDP("Naz")) + QLatin1Char(' ') + dp.tekst(PRACDP("Imie_1"))).trimmed();
+    const std::optional<Wiersz> osoba = o_.sesja.rsPRACDP.szukaj(prcId);
+    if (!osoba) return {};
+    return (osoba->tekst(PRACDP("Naz")) + QLatin1Char(' ') + osoba->tekst(PRACDP("Imie_1"))).trimmed();
 }
 
 int Pracownicy::zgloszenieDoUbezpieczen() {
@@ -178,8 +173,7 @@ void Pracownicy::NowyPracownik(const DaneNowegoPracownika& dane) {
 
 void Pracownicy::dodajRekordy(const DaneNowegoPracownika& dane, int oiZua) {
     Sesja& s = o_.sesja;
-    for (Recordset* rs : {&s.rsPRACDP, &s.rsPRACPR, &s.rsPRACINF, &s.rsPRACSK, &s.rsPRACZUS})
-        rs->AddNewZero(dane.prcId);
+    s.kadry.AddNewZero(dane.prcId);
     for (const Kolumna& flaga : kFlagi)
         (flaga.tabela == &PRACPR ? s.rsPRACPR : s.rsPRACZUS).ustawFlage(flaga, false);
 
@@ -200,8 +194,7 @@ void Pracownicy::dodajRekordy(const DaneNowegoPracownika& dane, int oiZua) {
     s.rsPRACSK.ustaw(PRACSK("pot"), static_cast<qint64>(maski.akt_sm));
 
     Transakcja transakcja(s.cnPlace, QStringLiteral("Nowy pracownik nr %1").arg(dane.prcId));
-    for (Recordset* rs : {&s.rsPRACDP, &s.rsPRACPR, &s.rsPRACINF, &s.rsPRACSK, &s.rsPRACZUS})
-        rs->UpdateBatch(transakcja);
+    s.kadry.UpdateBatch(transakcja);
     transakcja.zatwierdz();
 }
 
@@ -231,10 +224,9 @@ bool Pracownicy::UsunPracownika(qint64 prcId) {
         rodzina.Delete();
     }
     rodzina.UpdateBatch(transakcja);
-    for (Recordset* rs : {&s.rsPRACDP, &s.rsPRACPR, &s.rsPRACINF, &s.rsPRACSK, &s.rsPRACZUS}) {
-        if (rs->Znajdz(prcId)) rs->Delete();
-        rs->UpdateBatch(transakcja);
-    }
+    (void)s.kadry.Znajdz(prcId);
+    s.kadry.Delete();
+    s.kadry.UpdateBatch(transakcja);
     transakcja.zatwierdz();
     return true;
 }

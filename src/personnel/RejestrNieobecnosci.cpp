@@ -4,6 +4,7 @@
 #include "common/Rozmowa.h"
 #include "personnel/Pracownicy.h"
 #include "store/Sesja.h"
+#include "store/Zapytanie.h"
 
 namespace tornel::personnel {
 
@@ -25,18 +26,15 @@ Kolumna RejestrNieobecnosci::kolumna(std::string_view nazwa) const {
 }
 
 QList<WierszRejestru> RejestrNieobecnosci::lista() const {
-    const QByteArray tabela = nazwaSql(uchwyt_.tabela().nazwa);
-    Instrukcja instrukcja(o_.sesja.cnPlace, ("SELECT rowid, PRC_ID, Naz, Imie, Data, data_do FROM " + tabela +
-                                             " ORDER BY PRC_ID, Data, data_do")
-                                                .toStdString());
-    const auto data = [&](int k) { return CzytajDate(instrukcja.tekst(k)).value_or(QDate()); };
+    const Kolumna prcId = kolumna("prc_id"), naz = kolumna("Naz"), imie = kolumna("Imie"),
+                  od = kolumna("Data"), dokad = kolumna("data_do");
+    PrzygotowaneZapytanie zapytanie(
+        o_.sesja.cnPlace,
+        Zapytanie(uchwyt_.tabela()).kolumny(prcId, naz, imie, od, dokad).wedlug(prcId, od, dokad));
     QList<WierszRejestru> wynik;
-    while (instrukcja.wiersz())
-        wynik.append({instrukcja.liczba(0),
-                      instrukcja.liczba(1),
-                      instrukcja.tekst(2),
-                      instrukcja.tekst(3),
-                      {data(4), data(5)}});
+    for (auto w = zapytanie.uruchom(); w.nastepny();)
+        wynik.append(
+            {w.nrWiersza(), w.liczba(prcId), w.tekst(naz), w.tekst(imie), {w.data(od), w.data(dokad)}});
     return wynik;
 }
 
@@ -85,8 +83,9 @@ bool RejestrNieobecnosci::moznaZarejestrowac(qint64 prcId, const ZakresDat& zakr
     if (!Pracownicy(o_).istnieje(prcId))
         throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
     if (!ZakresPrzyjety(o_.rozmowa, zakres)) return false;
-    for (Recordset rs = wiersze(prcId); !rs.EOF_(); rs.MoveNext()) {
-        if (!zakres.maWspolnyDzien({rs.data(kolumna("Data")), rs.data(kolumna("data_do"))})) continue;
+    const Recordset rs = wiersze(prcId);
+    for (const Wiersz w : rs.wiersze()) {
+        if (!zakres.maWspolnyDzien({w.data(kolumna("Data")), w.data(kolumna("data_do"))})) continue;
         o_.rozmowa.komunikat(teksty_.pokrywaSie.toString(), Styl::Wykrzyknik);
         return false;
     }
@@ -100,12 +99,12 @@ qint64 RejestrNieobecnosci::dopisz(qint64 prcId, const ZakresDat& zakres,
                  {{kolumna("prc_id"), Kryterium::Operator::Rowne, prcId},
                   {kolumna("Data"), Kryterium::Operator::Rowne, zakres.od},
                   {kolumna("data_do"), Kryterium::Operator::Rowne, zakres.dokad}});
-    Recordset& dp = o_.sesja.rsPRACDP;
-    (void)dp.Znajdz(prcId);
+    const std::optional<Wiersz> osoba = o_.sesja.rsPRACDP.szukaj(prcId);
+    if (!osoba) throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
     try {
         uchwyt_.AddNewZero(prcId);
-        uchwyt_.ustaw(kolumna("Naz"), dp.tekst(PRACDP("Naz")));
-        uchwyt_.ustaw(kolumna("Imie"), dp.tekst(PRACDP("Imie_1")));
+        uchwyt_.ustaw(kolumna("Naz"), osoba->tekst(PRACDP("Naz")));
+        uchwyt_.ustaw(kolumna("Imie"), osoba->tekst(PRACDP("Imie_1")));
         uchwyt_.ustaw(kolumna("Data"), zakres.od);
         uchwyt_.ustaw(kolumna("data_do"), zakres.dokad);
         for (const auto& [kolumnaRejestru, wartosc] : wartosci) uchwyt_.ustaw(kolumnaRejestru, wartosc);

@@ -93,17 +93,17 @@ void RejestrUrlopow::Wpisz() {
 }
 
 qint64 RejestrUrlopow::PrzyslugujeDni(qint64 prcId) const {
-    Recordset& pr = o_.sesja.rsPRACPR;
-    if (!pr.Znajdz(prcId)) return 0;
-    return pr.liczba(PRACPR("il_url")) + pr.liczba(PRACPR("il_zal_url"));
+    const std::optional<Wiersz> pr = o_.sesja.rsPRACPR.szukaj(prcId);
+    return pr ? pr->liczba(PRACPR("il_url")) + pr->liczba(PRACPR("il_zal_url")) : 0;
 }
 
 qint64 RejestrUrlopow::WykorzystaneDni(qint64 prcId, int rok) const {
     qint64 dni = 0;
-    for (Recordset rs = wiersze(prcId); !rs.EOF_(); rs.MoveNext())
-        if (rs.liczba(URL("Rodzaj")) == static_cast<qint64>(RodzajUrlopu::Wypoczynkowy) &&
-            rs.data(URL("Data")).year() == rok)
-            dni += rs.liczba(URL("il_dni"));
+    const Recordset swoje = wiersze(prcId);
+    for (const Wiersz w : swoje.wiersze())
+        if (w.liczba(URL("Rodzaj")) == static_cast<qint64>(RodzajUrlopu::Wypoczynkowy) &&
+            w.data(URL("Data")).year() == rok)
+            dni += w.liczba(URL("il_dni"));
     return dni;
 }
 

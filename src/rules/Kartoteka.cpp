@@ -59,8 +59,7 @@ Kolumna Kartoteka::klucz() const {
 
 QList<qint64> Kartoteka::numery() const {
     QList<qint64> wynik;
-    Recordset& rs = tabela();
-    for (rs.MoveFirst(); !rs.EOF_(); rs.MoveNext()) wynik.append(rs.liczba(klucz()));
+    for (const Wiersz w : std::as_const(tabela()).wiersze()) wynik.append(w.liczba(klucz()));
     return wynik;
 }
 

@@ -103,7 +103,7 @@ void DodajPracownikowPrzykladu(Sesja& sesja, int od, int dokad) {
         wlasneDane(sesja, ciag);
     }
     Transakcja transakcja(sesja.cnPlace, u"Pracownicy firmy przykładowej");
-    for (Recordset* rs : tabele) rs->UpdateBatch(transakcja);
+    sesja.kadry.UpdateBatch(transakcja);
     transakcja.zatwierdz();
 }
 

@@ -1,19 +1,42 @@
-// What reading and writing a recordset share: kinds of columns and the list of their names.
+// What all readers and writers of the file share: how a value of each kind of column stands there, and what
+// is said of one that does not.
 #pragma once
+#include "store/Kryterium.h"
 #include "store/Polaczenie.h"
-#include "store/Tabela.h"
+#include <optional>
 #include <QByteArray>
+#include <sqlite3.h>
 
 namespace tornel::store {
 
-inline bool jestTekstem(Typ typ) { return typ == Typ::Text || typ == Typ::Char || typ == Typ::Memo; }
-inline bool jestRzeczywista(Typ typ) { return typ == Typ::Double || typ == Typ::Single; }
+/// Whether the value may stand in such a column; null may anywhere.
+[[nodiscard]] bool pasuje(const Wartosc& wartosc, Typ typ);
 
+/// YYYY-MM-DD, the one form in which dates stand in the file, to the day number. Nothing for any other text.
+[[nodiscard]] std::optional<qint64> dzienZTekstu(std::string_view tekst);
+/// The day number as YYYY-MM-DD.
+class TekstDnia {
+public:
+    explicit TekstDnia(qint64 dzien);
+    operator std::string_view() const { return {znaki_, sizeof znaki_}; }
+
+private:
+    char znaki_[10];
+};
+
+/// A number, money, a double by its bits, or the day number of a column that is neither null nor text.
+/// Nothing for a value that is not of the column's type.
+[[nodiscard]] std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ);
+
+/// Throws `UszkodzonaWartosc` that names table, row (by its key, as it stands) and column.
+[[noreturn]] void zglosUszkodzenie(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa,
+                                   qint64 nrWiersza, const KolumnaDef& kolumna);
+
+void wiazWartosc(Instrukcja& instrukcja, int nr, const Wartosc& wartosc);
+[[nodiscard]] const char* znakOperatora(Kryterium::Operator op);
 /// All columns of a table for a statement, in their order.
-inline QByteArray listaKolumn(const TabelaDef& t) {
-    QByteArray wynik;
-    for (const KolumnaDef& k : t.kolumny) wynik += (wynik.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa);
-    return wynik;
-}
+[[nodiscard]] QByteArray listaKolumn(const TabelaDef& tabela);
+/// A name of the schema for a message or as that of a table in the file.
+[[nodiscard]] QString napis(std::string_view nazwa);
 
 } // namespace tornel::store

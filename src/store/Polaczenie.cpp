@@ -33,19 +33,23 @@ Instrukcja::~Instrukcja() { sqlite3_finalize(stmt_); }
 Instrukcja::Instrukcja(Instrukcja&& inna) noexcept
     : polaczenie_(inna.polaczenie_), stmt_(std::exchange(inna.stmt_, nullptr)) {}
 
-Instrukcja& Instrukcja::wiaz(int nr, qint64 liczba) {
-    sqlite3_bind_int64(stmt_, nr + 1, liczba);
+Instrukcja& Instrukcja::zwiazana(int wynik) {
+    if (wynik != SQLITE_OK)
+        polaczenie_->zglosBlad(QStringLiteral("Nie można przekazać wartości do bazy danych"));
     return *this;
+}
+
+Instrukcja& Instrukcja::wiaz(int nr, qint64 liczba) {
+    return zwiazana(sqlite3_bind_int64(stmt_, nr + 1, liczba));
 }
 
 Instrukcja& Instrukcja::wiaz(int nr, double liczba) {
-    sqlite3_bind_double(stmt_, nr + 1, liczba);
-    return *this;
+    return zwiazana(sqlite3_bind_double(stmt_, nr + 1, liczba));
 }
 
 Instrukcja& Instrukcja::wiaz(int nr, std::string_view utf8) {
-    sqlite3_bind_text(stmt_, nr + 1, utf8.data(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
-    return *this;
+    return zwiazana(
+        sqlite3_bind_text(stmt_, nr + 1, utf8.data(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT));
 }
 
 Instrukcja& Instrukcja::wiaz(int nr, const QString& tekst) {
@@ -53,10 +57,7 @@ Instrukcja& Instrukcja::wiaz(int nr, const QString& tekst) {
     return wiaz(nr, std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
 }
 
-Instrukcja& Instrukcja::wiazNull(int nr) {
-    sqlite3_bind_null(stmt_, nr + 1);
-    return *this;
-}
+Instrukcja& Instrukcja::wiazNull(int nr) { return zwiazana(sqlite3_bind_null(stmt_, nr + 1)); }
 
 bool Instrukcja::wiersz() {
     const int wynik = sqlite3_step(stmt_);

@@ -44,6 +44,7 @@ public:
     [[nodiscard]] QString tekst(int kolumna) const;
 
 private:
+    Instrukcja& zwiazana(int wynik);
     Polaczenie* polaczenie_;
     sqlite3_stmt* stmt_ = nullptr;
 };

@@ -4,61 +4,11 @@
 #include <algorithm>
 #include <bit>
 #include <numeric>
-#include <optional>
-#include <sqlite3.h>
 #include <tuple>
 
 namespace tornel::store {
 
 namespace {
-
-QString nazwaKolumny(const KolumnaDef& k) {
-    return QString::fromLatin1(k.nazwa.data(), static_cast<qsizetype>(k.nazwa.size()));
-}
-
-/// YYYY-MM-DD to the day number; the one form in which dates stand in the file. Nothing for any other text.
-std::optional<qint64> dzienZTekstu(std::string_view t) {
-    constexpr std::string_view wzor = "0000-00-00";
-    const auto pasuje = [](char c, char z) { return z == '-' ? c == '-' : c >= '0' && c <= '9'; };
-    if (!std::equal(t.begin(), t.end(), wzor.begin(), wzor.end(), pasuje)) return std::nullopt;
-    const auto cyfra = [&](std::size_t i) { return t[i] - '0'; };
-    const QDate d(cyfra(0) * 1000 + cyfra(1) * 100 + cyfra(2) * 10 + cyfra(3), cyfra(5) * 10 + cyfra(6),
-                  cyfra(8) * 10 + cyfra(9));
-    return d.isValid() ? std::optional(d.toJulianDay()) : std::nullopt;
-}
-
-const char* znakOperatora(Kryterium::Operator op) {
-    switch (op) {
-    case Kryterium::Operator::Rowne:
-        return " IS ";
-    case Kryterium::Operator::Rozne:
-        return " IS NOT ";
-    case Kryterium::Operator::NieMniejsze:
-        return " >= ";
-    case Kryterium::Operator::NieWieksze:
-        return " <= ";
-    case Kryterium::Operator::Wieksze:
-        return " > ";
-    case Kryterium::Operator::Mniejsze:
-        return " < ";
-    }
-    return " IS ";
-}
-
-void wiazWartosc(Instrukcja& instrukcja, int nr, const Wartosc& wartosc) {
-    if (const auto* n = std::get_if<qint64>(&wartosc))
-        instrukcja.wiaz(nr, *n);
-    else if (const auto* r = std::get_if<double>(&wartosc))
-        instrukcja.wiaz(nr, *r);
-    else if (const auto* w = std::get_if<Waluta>(&wartosc))
-        instrukcja.wiaz(nr, static_cast<qint64>(w->surowa()));
-    else if (const auto* t = std::get_if<QString>(&wartosc))
-        instrukcja.wiaz(nr, *t);
-    else if (const auto* d = std::get_if<QDate>(&wartosc))
-        instrukcja.wiaz(nr, d->toString(Qt::ISODate));
-    else
-        instrukcja.wiazNull(nr);
-}
 
 /// Rows made, read or freed at a time, so that no vector grows by doubling far past its need.
 constexpr std::size_t kPrzyrost = 4096;
@@ -70,9 +20,7 @@ void Recordset::Open(Polaczenie& polaczenie, const QString& nazwa) { Open(polacz
 void Recordset::Open(Polaczenie& polaczenie, const QString& nazwa, const Warunek& warunek) {
     Recordset nowy(*tabela_);
     nowy.polaczenie_ = &polaczenie;
-    nowy.nazwa_ = nazwa.isEmpty() ? QString::fromLatin1(tabela_->nazwa.data(),
-                                                        static_cast<qsizetype>(tabela_->nazwa.size()))
-                                  : nazwa;
+    nowy.nazwa_ = nazwa.isEmpty() ? napis(tabela_->nazwa) : nazwa;
     nowy.warunekOtwarcia_ = warunek;
     nowy.sort_ = sort_;
     nowy.wczytaj();
@@ -108,41 +56,34 @@ void Recordset::wczytaj() {
         const int wiersz = nowyWiersz();
         rowid_.back() = instrukcja.liczba(0);
         stany_.back() = Stan::Czysty;
-        czytajWiersz(instrukcja, wiersz, 1);
+        czytajWiersz(instrukcja, wiersz, 1, rowid_.back());
         indeksuj(wiersz);
     }
     ulozKolejnosc();
     pozycja_ = 0;
 }
 
-void Recordset::czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierwszaKolumna) {
-    const auto uszkodzona = [&](const QString& wartosc, const KolumnaDef& k) {
-        return BladBazy(QStringLiteral("Uszkodzona %1 w kolumnie %2 tabeli %3 (plik „%4”).")
-                            .arg(wartosc, nazwaKolumny(k), nazwa_, polaczenie_->sciezka()));
-    };
+void Recordset::czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierwszaKolumna,
+                             qint64 nrWiersza) {
     for (int i = 0; i < szerokosc(); ++i) {
         const KolumnaDef& k = tabela_->kolumny[static_cast<std::size_t>(i)];
         const int zrodlo = i + pierwszaKolumna;
-        Komorka& cel = komorka(wiersz, i);
-        const int typ = instrukcja.typ(zrodlo);
-        if (typ == SQLITE_NULL) {
-            cel = kNull;
-        } else if (jestTekstem(k.typ)) {
-            const std::string_view utf8 = instrukcja.utf8(zrodlo);
-            cel = utf8.empty()
-                      ? 0
-                      : tekstNaKomorke(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
-        } else if (k.typ == Typ::Date) {
-            const auto dzien = dzienZTekstu(instrukcja.utf8(zrodlo));
-            if (!dzien) throw uszkodzona(QStringLiteral("data"), k);
-            cel = *dzien;
-        } else if (jestRzeczywista(k.typ)) {
-            cel = std::bit_cast<Komorka>(instrukcja.rzeczywista(zrodlo));
-        } else if (typ == SQLITE_INTEGER) {
-            cel = instrukcja.liczba(zrodlo);
-        } else {
-            throw uszkodzona(QStringLiteral("liczba"), k);
+        std::optional<Komorka> wartosc = kNull;
+        if (const int typ = instrukcja.typ(zrodlo); typ != SQLITE_NULL) {
+            if (!jestTekstem(k.typ)) {
+                wartosc = slowo(instrukcja, zrodlo, k.typ);
+            } else if (typ == SQLITE_TEXT) {
+                const std::string_view utf8 = instrukcja.utf8(zrodlo);
+                wartosc =
+                    utf8.empty()
+                        ? 0
+                        : tekstNaKomorke(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+            } else {
+                wartosc.reset();
+            }
         }
+        if (!wartosc) zglosUszkodzenie(*polaczenie_, *tabela_, nazwa_, nrWiersza, k);
+        komorka(wiersz, i) = *wartosc;
     }
 }
 
@@ -276,38 +217,43 @@ bool Recordset::Find(const Kryterium& kryterium, Skad skad) {
     return false;
 }
 
-bool Recordset::szukajKlucza(KluczWiersza szukany, bool zDrugim) {
+int Recordset::wierszKlucza(KluczWiersza szukany, IleKolumn kolumny) const {
     // The first in order wins where several rows share the key's first column.
     int najlepszy = -1;
     const auto [od, dokad] = indeks_.equal_range(szukany.first);
     for (auto i = od; i != dokad; ++i) {
         const int w = i->second;
-        if (zDrugim && klucz(w).second != szukany.second) continue;
+        if (kolumny == IleKolumn::Obie && klucz(w).second != szukany.second) continue;
         if (!filtr_.isEmpty() && !spelnia(w, filtr_)) continue;
         const int znak = najlepszy < 0 ? -1 : porownaj(w, najlepszy);
         if (znak < 0 || (znak == 0 && w < najlepszy)) najlepszy = w;
     }
-    Bookmark(najlepszy);
-    return najlepszy >= 0;
+    return najlepszy;
 }
 
-bool Recordset::Znajdz(qint64 pierwszy) { return szukajKlucza({pierwszy, 0}, false); }
-bool Recordset::Znajdz(qint64 pierwszy, qint64 drugi) { return szukajKlucza({pierwszy, drugi}, true); }
-
-bool Recordset::Znajdz(qint64 pierwszy, const QString& drugi) {
-    const auto miejsce = pula_.constFind(drugi);
-    return miejsce == pula_.constEnd() ? szukajKlucza({kNull, 0}, true)
-                                       : szukajKlucza({pierwszy, *miejsce}, true);
+Recordset::Komorka Recordset::tekstWPuli(const QString& tekst) const {
+    const auto miejsce = pula_.constFind(tekst);
+    return miejsce == pula_.constEnd() ? kNull : *miejsce;
 }
 
-bool Recordset::Znajdz(const QString& pierwszy) {
-    const auto miejsce = pula_.constFind(pierwszy);
-    return szukajKlucza({miejsce == pula_.constEnd() ? kNull : *miejsce, 0}, false);
+int Recordset::wierszKlucza(qint64 k) const { return wierszKlucza({k, 0}, IleKolumn::Pierwsza); }
+int Recordset::wierszKlucza(qint64 k, qint64 drugi) const {
+    return wierszKlucza({k, drugi}, IleKolumn::Obie);
 }
 
-bool Recordset::Znajdz(const QString& pierwszy, const QString& drugi) {
-    const auto miejsce = pula_.constFind(pierwszy);
-    return Znajdz(static_cast<qint64>(miejsce == pula_.constEnd() ? kNull : *miejsce), drugi);
+int Recordset::wierszKlucza(qint64 k, const QString& drugi) const {
+    const Komorka c = tekstWPuli(drugi);
+    return c == kNull ? -1 : wierszKlucza({k, c}, IleKolumn::Obie);
+}
+
+int Recordset::wierszKlucza(const QString& k) const {
+    const Komorka c = tekstWPuli(k);
+    return c == kNull ? -1 : wierszKlucza(c);
+}
+
+int Recordset::wierszKlucza(const QString& k, const QString& drugi) const {
+    const Komorka c = tekstWPuli(k);
+    return c == kNull ? -1 : wierszKlucza(c, drugi);
 }
 
 QList<Zakladka> Recordset::wiersze(qint64 pierwszy) const {
@@ -348,41 +294,42 @@ int Recordset::biezacy() const {
     return kolejnosc_[static_cast<std::size_t>(pozycja_)];
 }
 
-Recordset::Komorka Recordset::komorka(Kolumna k) const {
-    Q_ASSERT(k.tabela == tabela_);
-    return komorka(biezacy(), k.nr);
+void Recordset::obcaKolumna(Kolumna k) const {
+    const bool znana = k.tabela && k.nr >= 0 && static_cast<std::size_t>(k.nr) < k.tabela->kolumny.size();
+    throw Blad(QStringLiteral("Tabela %1 nie ma takiej kolumny: %2.")
+                   .arg(napis(tabela_->nazwa),
+                        znana ? napis(k.tabela->nazwa) + QLatin1Char('.') + napis(k.def().nazwa)
+                              : QString::number(k.nr)));
 }
 
-Waluta Recordset::kwota(Kolumna k) const {
-    const Komorka c = komorka(k);
-    return c == kNull ? Waluta{} : Waluta::zSurowej(c);
+bool Wiersz::jestNull(Kolumna k) const {
+    rs_->wymagajKolumny(k);
+    return rs_->komorka(wiersz_, k.nr) == Recordset::kNull;
 }
 
-qint64 Recordset::liczba(Kolumna k) const {
-    const Komorka c = komorka(k);
-    return c == kNull ? 0 : c;
+double Wiersz::rzeczywista(Kolumna k) const {
+    return std::bit_cast<double>(komorka(k, Rodzaj::Rzeczywista).value_or(0));
 }
 
-double Recordset::rzeczywista(Kolumna k) const {
-    const Komorka c = komorka(k);
-    return c == kNull ? 0.0 : std::bit_cast<double>(c);
+QString Wiersz::tekst(Kolumna k) const {
+    const auto c = komorka(k, Rodzaj::Tekst);
+    return c ? rs_->puli(*c) : QString();
 }
 
-QString Recordset::tekst(Kolumna k) const {
-    const Komorka c = komorka(k);
-    return c == kNull ? QString() : puli(c);
+QDate Wiersz::data(Kolumna k) const {
+    const auto c = komorka(k, Rodzaj::Data);
+    return c ? QDate::fromJulianDay(*c) : QDate();
 }
 
-QDate Recordset::data(Kolumna k) const {
-    const Komorka c = komorka(k);
-    return c == kNull ? QDate() : QDate::fromJulianDay(c);
+bool Wiersz::flaga(Kolumna k) const {
+    const auto c = komorka(k, Rodzaj::Tekst);
+    return c && rs_->puli(*c).compare(QLatin1String("T"), Qt::CaseInsensitive) == 0;
 }
 
-bool Recordset::flaga(Kolumna k) const {
-    return tekst(k).compare(QLatin1String("T"), Qt::CaseInsensitive) == 0;
+Wartosc Wiersz::wartosc(Kolumna k) const {
+    rs_->wymagajKolumny(k);
+    return rs_->wartoscKomorki(wiersz_, k.nr);
 }
-
-Wartosc Recordset::wartosc(Kolumna k) const { return wartoscKomorki(biezacy(), k.nr); }
 
 Wartosc Recordset::wartoscKomorki(int wiersz, int kolumna) const {
     const Komorka c = komorka(wiersz, kolumna);
@@ -414,7 +361,6 @@ void Recordset::zaznaczZmiane(int wiersz) {
 }
 
 void Recordset::zapisz(Kolumna k, Komorka wartosc) {
-    Q_ASSERT(k.tabela == tabela_);
     const int wiersz = biezacy();
     if (komorka(wiersz, k.nr) == wartosc) return;
     zaznaczZmiane(wiersz);
@@ -430,29 +376,43 @@ void Recordset::zapisz(Kolumna k, Komorka wartosc) {
 }
 
 void Recordset::ustaw(Kolumna k, Waluta kwota) {
+    wymagajKolumny(k, Rodzaj::Kwota);
     if (kwota.surowa() == kNull)
         throw Przepelnienie(QStringLiteral("Kwota przekracza zakres liczb programu."));
     zapisz(k, kwota.surowa());
 }
 
 void Recordset::ustaw(Kolumna k, qint64 liczba) {
+    wymagajKolumny(k);
     if (jestRzeczywista(k.def().typ)) return ustaw(k, static_cast<double>(liczba));
+    wymagajKolumny(k, Rodzaj::Calkowita);
     const auto [min, maks] = zakresTypu(k.def().typ);
     if (liczba < min || liczba > maks)
         throw Przepelnienie(
-            QStringLiteral("Liczba %1 nie mieści się w kolumnie %2.").arg(liczba).arg(nazwaKolumny(k.def())));
+            QStringLiteral("Liczba %1 nie mieści się w kolumnie %2.").arg(liczba).arg(napis(k.def().nazwa)));
     zapisz(k, liczba);
 }
 
-void Recordset::ustaw(Kolumna k, double liczba) { zapisz(k, std::bit_cast<Komorka>(liczba)); }
+void Recordset::ustaw(Kolumna k, double liczba) {
+    wymagajKolumny(k, Rodzaj::Rzeczywista);
+    zapisz(k, std::bit_cast<Komorka>(liczba));
+}
 
 void Recordset::ustaw(Kolumna k, const QString& tekst) {
+    wymagajKolumny(k, Rodzaj::Tekst);
     const int rozmiar = k.def().rozmiar;
     zapisz(k, tekstNaKomorke(rozmiar > 0 && tekst.size() > rozmiar ? tekst.left(rozmiar) : tekst));
 }
 
-void Recordset::ustaw(Kolumna k, QDate data) { zapisz(k, data.isValid() ? data.toJulianDay() : kNull); }
-void Recordset::ustaw(Kolumna k, std::monostate) { zapisz(k, kNull); }
+void Recordset::ustaw(Kolumna k, QDate data) {
+    wymagajKolumny(k, Rodzaj::Data);
+    zapisz(k, data.isValid() ? data.toJulianDay() : kNull);
+}
+
+void Recordset::ustaw(Kolumna k, std::monostate) {
+    wymagajKolumny(k);
+    zapisz(k, kNull);
+}
 
 void Recordset::ustaw(Kolumna k, const Wartosc& wartosc) {
     std::visit([&](const auto& v) { ustaw(k, v); }, wartosc);

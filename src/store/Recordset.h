@@ -1,10 +1,11 @@
 // A table handle: an in-memory snapshot with a current row, edited in memory and written back as a batch.
 #pragma once
+#include "store/Kryterium.h"
 #include "store/Polaczenie.h"
-#include "store/Tabela.h"
-#include "store/Wartosc.h"
 #include <functional>
+#include <iterator>
 #include <limits>
+#include <optional>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -13,20 +14,65 @@
 
 namespace tornel::store {
 
-/// One typed comparison of a column; several stand for "and". A quote in a text is just a letter.
-struct Kryterium {
-    enum class Operator { Rowne, Rozne, NieMniejsze, NieWieksze, Wieksze, Mniejsze };
-    Kolumna kolumna;
-    Operator op = Operator::Rowne;
-    Wartosc wartosc;
-};
-using Warunek = QList<Kryterium>;
-
 /// Stands for a row over all sorting, filtering and editing; -1 is no row.
 using Zakladka = int;
 
 /// From where `Find` searches.
 enum class Skad { Poczatek, Biezacy };
+
+class Recordset;
+
+/// A row of a handle, read without moving the handle. Valid until the handle is changed, opened or read
+/// again.
+class Wiersz {
+public:
+    Wiersz(const Recordset& tabela, int wiersz) : rs_(&tabela), wiersz_(wiersz) {}
+
+    // Each throws `Blad` for a column of another table or another kind.
+
+    [[nodiscard]] bool jestNull(Kolumna k) const;
+    [[nodiscard]] Waluta kwota(Kolumna k) const;       ///< null is 0
+    [[nodiscard]] qint64 liczba(Kolumna k) const;      ///< null is 0
+    [[nodiscard]] double rzeczywista(Kolumna k) const; ///< null is 0
+    [[nodiscard]] QString tekst(Kolumna k) const;      ///< null is the empty text
+    [[nodiscard]] QDate data(Kolumna k) const;         ///< null is an invalid date
+    [[nodiscard]] bool flaga(Kolumna k) const;         ///< the text is "T", whatever its case
+    [[nodiscard]] Wartosc wartosc(Kolumna k) const;
+    [[nodiscard]] Zakladka zakladka() const { return wiersz_; }
+
+private:
+    [[nodiscard]] std::optional<std::int64_t> komorka(Kolumna k,
+                                                      Rodzaj rodzajKolumny) const; // nothing for null
+    const Recordset* rs_;
+    int wiersz_;
+};
+
+/// The rows that a handle shows, in its order.
+class Wiersze {
+public:
+    class Iterator {
+    public:
+        using difference_type = std::ptrdiff_t;
+        using value_type = Wiersz;
+        Iterator() = default;
+        Iterator(const Recordset& rs, const int* miejsce) : rs_(&rs), miejsce_(miejsce) {}
+        Wiersz operator*() const { return {*rs_, *miejsce_}; }
+        Iterator& operator++() { return ++miejsce_, *this; }
+        Iterator operator++(int) { return {*rs_, miejsce_++}; }
+        friend bool operator==(const Iterator& a, const Iterator& b) { return a.miejsce_ == b.miejsce_; }
+
+    private:
+        const Recordset* rs_ = nullptr;
+        const int* miejsce_ = nullptr;
+    };
+    Wiersze(const Recordset& rs, const std::vector<int>& kolejnosc) : rs_(&rs), kolejnosc_(&kolejnosc) {}
+    [[nodiscard]] Iterator begin() const { return {*rs_, kolejnosc_->data()}; }
+    [[nodiscard]] Iterator end() const { return {*rs_, kolejnosc_->data() + kolejnosc_->size()}; }
+
+private:
+    const Recordset* rs_;
+    const std::vector<int>* kolejnosc_;
+};
 
 class Recordset {
 public:
@@ -39,7 +85,8 @@ public:
     // Opening.
 
     /// Reads the whole table (`SELECT * FROM nazwa`); `nazwa` is that of a month table, or empty for the
-    /// table's own. Throws `BladBazy`; an open handle then stays as it was.
+    /// table's own. Throws `BladBazy`, and `UszkodzonaWartosc` for a value that is not of its column's type;
+    /// an open handle then stays as it was.
     void Open(Polaczenie& polaczenie, const QString& nazwa = {});
     /// Reads only the rows that meet `warunek`, through the file's indexes.
     void Open(Polaczenie& polaczenie, const QString& nazwa, const Warunek& warunek);
@@ -70,27 +117,37 @@ public:
     bool Find(const Kryterium& kryterium, Skad skad = Skad::Poczatek);
     /// Search by the key (`PRC_ID`, or `PRC_ID` and `LISTA`) through the index; past the last row and false
     /// when nothing is found. It sees only rows that pass the filter.
-    bool Znajdz(qint64 klucz);
-    bool Znajdz(qint64 klucz, const QString& drugi);
-    bool Znajdz(qint64 klucz, qint64 drugi);
-    bool Znajdz(const QString& klucz); ///< for tables whose key is text
-    bool Znajdz(const QString& klucz, const QString& drugi);
+    template <typename... Klucz>
+    bool Znajdz(const Klucz&... klucz) {
+        const int wiersz = wierszKlucza(klucz...);
+        Bookmark(wiersz);
+        return wiersz >= 0;
+    }
+    /// The row that `Znajdz` would move to; nothing when there is none.
+    template <typename... Klucz>
+    [[nodiscard]] std::optional<Wiersz> szukaj(const Klucz&... klucz) const {
+        const int wiersz = wierszKlucza(klucz...);
+        return wiersz < 0 ? std::nullopt : std::optional(Wiersz(*this, wiersz));
+    }
+    /// The rows that pass the filter, in order, read without moving.
+    [[nodiscard]] Wiersze wiersze() const { return {*this, kolejnosc_}; }
     /// All rows with this first key column, in reading order, whatever the filter.
     [[nodiscard]] QList<Zakladka> wiersze(qint64 klucz) const;
 
-    // The current row.
+    // The current row, as in `Wiersz`. Without one every operation throws `Blad`.
 
-    [[nodiscard]] bool jestNull(Kolumna k) const { return komorka(k) == kNull; }
-    [[nodiscard]] Waluta kwota(Kolumna k) const;       ///< null is 0
-    [[nodiscard]] qint64 liczba(Kolumna k) const;      ///< null is 0
-    [[nodiscard]] double rzeczywista(Kolumna k) const; ///< null is 0
-    [[nodiscard]] QString tekst(Kolumna k) const;      ///< null is the empty text
-    [[nodiscard]] QDate data(Kolumna k) const;         ///< null is an invalid date
-    [[nodiscard]] bool flaga(Kolumna k) const;         ///< the text is "T", whatever its case
-    [[nodiscard]] Wartosc wartosc(Kolumna k) const;
+    [[nodiscard]] Wiersz biezacyWiersz() const { return {*this, biezacy()}; }
+    [[nodiscard]] bool jestNull(Kolumna k) const { return biezacyWiersz().jestNull(k); }
+    [[nodiscard]] Waluta kwota(Kolumna k) const { return biezacyWiersz().kwota(k); }
+    [[nodiscard]] qint64 liczba(Kolumna k) const { return biezacyWiersz().liczba(k); }
+    [[nodiscard]] double rzeczywista(Kolumna k) const { return biezacyWiersz().rzeczywista(k); }
+    [[nodiscard]] QString tekst(Kolumna k) const { return biezacyWiersz().tekst(k); }
+    [[nodiscard]] QDate data(Kolumna k) const { return biezacyWiersz().data(k); }
+    [[nodiscard]] bool flaga(Kolumna k) const { return biezacyWiersz().flaga(k); }
+    [[nodiscard]] Wartosc wartosc(Kolumna k) const { return biezacyWiersz().wartosc(k); }
 
     /// Sets a value in memory. A text longer than the column is cut to it; a number that the column's type
-    /// cannot hold throws `Przepelnienie`.
+    /// cannot hold throws `Przepelnienie`, a column of another table or kind `Blad`.
     void ustaw(Kolumna k, Waluta kwota);
     void ustaw(Kolumna k, qint64 liczba);
     void ustaw(Kolumna k, int liczba) { ustaw(k, static_cast<qint64>(liczba)); }
@@ -129,6 +186,7 @@ public:
     }
 
 private:
+    friend class Wiersz;
     // Every cell is one 64-bit word: money, numbers and day numbers as they are, doubles by their bits, texts
     // by their place in the pool. So 50,000 employees fit in tens of megabytes.
     using Komorka = std::int64_t;
@@ -151,16 +209,31 @@ private:
         return komorki_[static_cast<std::size_t>(wiersz) * tabela_->kolumny.size() +
                         static_cast<std::size_t>(kolumna)];
     }
-    [[nodiscard]] Komorka komorka(Kolumna k) const;
+    /// Throws for a column that is not of this table, or of another kind.
+    void wymagajKolumny(Kolumna k) const {
+        if (k.tabela != tabela_ || static_cast<unsigned>(k.nr) >= tabela_->kolumny.size()) obcaKolumna(k);
+    }
+    void wymagajKolumny(Kolumna k, Rodzaj oczekiwany) const {
+        wymagajKolumny(k);
+        if (rodzaj(k.def().typ) != oczekiwany) obcaKolumna(k);
+    }
+    [[noreturn]] void obcaKolumna(Kolumna k) const;
     void zapisz(Kolumna k, Komorka wartosc);
     [[nodiscard]] Komorka tekstNaKomorke(const QString& tekst);
     [[nodiscard]] const QString& puli(Komorka k) const { return teksty_[static_cast<std::size_t>(k)]; }
     [[nodiscard]] Wartosc wartoscKomorki(int wiersz, int kolumna) const;
     [[nodiscard]] KluczWiersza klucz(int wiersz) const;
-    [[nodiscard]] bool szukajKlucza(KluczWiersza klucz, bool zDrugim);
+    enum class IleKolumn { Pierwsza, Obie };
+    [[nodiscard]] int wierszKlucza(KluczWiersza klucz, IleKolumn kolumny) const; // -1 if there is none
+    [[nodiscard]] int wierszKlucza(qint64 klucz) const;
+    [[nodiscard]] int wierszKlucza(qint64 klucz, const QString& drugi) const;
+    [[nodiscard]] int wierszKlucza(qint64 klucz, qint64 drugi) const;
+    [[nodiscard]] int wierszKlucza(const QString& klucz) const; // for tables whose key is text
+    [[nodiscard]] int wierszKlucza(const QString& klucz, const QString& drugi) const;
+    [[nodiscard]] Komorka tekstWPuli(const QString& tekst) const; // null for one that no row has
     [[nodiscard]] bool spelnia(int wiersz, const Warunek& warunek) const;
     [[nodiscard]] int porownaj(int a, int b) const;
-    void czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierwszaKolumna);
+    void czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierwszaKolumna, qint64 nrWiersza);
     void wczytaj();
     void ulozKolejnosc();
     void wstawDoKolejnosci(int wiersz);
@@ -196,5 +269,15 @@ private:
     std::vector<int> oczekujace_; // rows with pending changes, in order of the first change
     std::unique_ptr<Instrukcja> wstaw_, zmien_, czytaj_, usun_;
 };
+
+inline std::optional<std::int64_t> Wiersz::komorka(Kolumna k, Rodzaj rodzajKolumny) const {
+    rs_->wymagajKolumny(k, rodzajKolumny);
+    const std::int64_t c = rs_->komorka(wiersz_, k.nr);
+    return c == Recordset::kNull ? std::nullopt : std::optional(c);
+}
+inline Waluta Wiersz::kwota(Kolumna k) const {
+    return Waluta::zSurowej(komorka(k, Rodzaj::Kwota).value_or(0));
+}
+inline qint64 Wiersz::liczba(Kolumna k) const { return komorka(k, Rodzaj::Calkowita).value_or(0); }
 
 } // namespace tornel::store

@@ -7,24 +7,6 @@
 
 namespace tornel::store {
 
-namespace {
-
-/// The day number as YYYY-MM-DD.
-void tekstDnia(qint64 dzien, char (&bufor)[10]) {
-    int rok = 0, mies = 0, d = 0;
-    QDate::fromJulianDay(dzien).getDate(&rok, &mies, &d);
-    const auto pisz = [&](int od, int ile, int liczba) {
-        for (int i = od + ile - 1; i >= od; --i, liczba /= 10)
-            bufor[i] = static_cast<char>('0' + liczba % 10);
-    };
-    pisz(0, 4, rok);
-    bufor[4] = bufor[7] = '-';
-    pisz(5, 2, mies);
-    pisz(8, 2, d);
-}
-
-} // namespace
-
 void Recordset::wiazWiersz(Instrukcja& instrukcja, int wiersz) const {
     for (int i = 0; i < szerokosc(); ++i) {
         const Typ typ = tabela_->kolumny[static_cast<std::size_t>(i)].typ;
@@ -34,9 +16,7 @@ void Recordset::wiazWiersz(Instrukcja& instrukcja, int wiersz) const {
         } else if (jestTekstem(typ)) {
             instrukcja.wiaz(i, puli(c));
         } else if (typ == Typ::Date) {
-            char bufor[10];
-            tekstDnia(c, bufor);
-            instrukcja.wiaz(i, std::string_view(bufor, sizeof bufor));
+            instrukcja.wiaz(i, std::string_view(TekstDnia(c)));
         } else if (jestRzeczywista(typ)) {
             instrukcja.wiaz(i, std::bit_cast<double>(c));
         } else {
@@ -64,7 +44,11 @@ void Recordset::sprawdzKonflikt(int wiersz) {
     czytaj_->wiaz(0, rowid_[static_cast<std::size_t>(wiersz)]);
     bool zgodny = czytaj_->wiersz();
     if (zgodny) {
-        czytajWiersz(*czytaj_, obraz, 0);
+        try {
+            czytajWiersz(*czytaj_, obraz, 0, rowid_[static_cast<std::size_t>(wiersz)]);
+        } catch (const UszkodzonaWartosc& uszkodzona) {
+            throw Konflikt(uszkodzona.komunikat()); // it was sound when it was read
+        }
         zgodny = std::equal(oryginal.begin(), oryginal.end(),
                             komorki_.begin() + static_cast<std::ptrdiff_t>(obraz) * szerokosc());
     }

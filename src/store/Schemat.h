@@ -3,35 +3,11 @@
 #include "store/SchematDokumentow.h"
 #include "store/SchematKadr.h"
 #include "store/SchematPlac.h"
+#include "store/SchematProgramu.h"
 
 namespace tornel::store {
 
 namespace schemat {
-
-namespace kolumny {
-
-/// Program constants.
-inline constexpr KolumnaDef KON[] = {
-    {"Num", Short, 0, true},
-    {"Wart", Text, Stala},
-};
-
-/// Users of the program. The password is clear text: deliberate.
-inline constexpr KolumnaDef UZYTKOWNICY[] = {
-    {"Nazwa", Text, 30, true},
-    {"haslo", Text, 30},
-    {"Typ", Short}, // 0 administrator, otherwise bits: 1 "Kadry", 2 "Płace"
-};
-
-} // namespace kolumny
-
-namespace klucze {
-inline constexpr std::string_view Num[] = {"Num"};
-inline constexpr std::string_view Uzytkownik[] = {"Nazwa"};
-} // namespace klucze
-
-inline constexpr TabelaDef KON{"KON", kolumny::KON, klucze::Num};
-inline constexpr TabelaDef UZYTKOWNICY{"UZYTKOWNICY", kolumny::UZYTKOWNICY, klucze::Uzytkownik};
 
 /// Every standing table, in the order in which a new database gets them.
 inline constexpr auto Tabele = std::to_array<const TabelaDef*>({
@@ -41,9 +17,9 @@ inline constexpr auto Tabele = std::to_array<const TabelaDef*>({
     &PIT40, &PIT8B,       &DRUKLP, &TEMP,    &LSTOBEC, &LSTOBEC2, &ZASILEK,
 });
 
-/// The four tables of a payroll month, in the order in which they are made. Those of an overtime month,
-/// `NADGN` and `NADGDzien`, are made by the overtime lists.
-inline constexpr auto TabeleMiesiaca = std::to_array<const TabelaDef*>({&PLA, &PLB, &PLS, &PLD});
+/// The tables whose rows correspond one to one, in groups.
+inline constexpr auto Grupy =
+    std::to_array<std::span<const TabelaDef* const>>({TabelePracownika, TabeleNaglowka, TabeleMiesiaca});
 
 } // namespace schemat
 

@@ -377,6 +377,9 @@ inline constexpr TabelaDef PRACSK{"PRACSK", kolumny::PRACSK, klucze::Pracownik};
 inline constexpr TabelaDef PRACINF{"PRACINF", kolumny::PRACINF, klucze::Pracownik};
 inline constexpr TabelaDef PRACPR{"PRACPR", kolumny::PRACPR, klucze::Pracownik};
 inline constexpr TabelaDef PRACZUS{"PRACZUS", kolumny::PRACZUS, klucze::Pracownik};
+/// The record of an employee.
+inline constexpr auto TabelePracownika =
+    std::to_array<const TabelaDef*>({&PRACDP, &PRACSK, &PRACINF, &PRACPR, &PRACZUS});
 inline constexpr TabelaDef RODZINA{"RODZINA", kolumny::RODZINA, klucze::Rodzina};
 inline constexpr TabelaDef UMOP{"UMOP", kolumny::UMOP, klucze::UmowaOPrace};
 inline constexpr TabelaDef URL{"URL", kolumny::URL, klucze::PracownikData};

@@ -1,64 +1,48 @@
 #include "store/Sesja.h"
 #include "common/Blad.h"
-#include "common/RokMies.h"
+#include "store/Komorki.h"
 
 namespace tornel::store {
 
 Sesja::Sesja(const QString& sciezka)
     : cnPlace(sciezka, Polaczenie::Sposob::Istniejaca), zmianaWersji_(DoprowadzDoWersji(cnPlace)) {
-    for (Recordset* rs : {&rsPRACDP, &rsPRACSK, &rsPRACINF, &rsPRACPR, &rsPRACZUS, &rsSZ_PL}) {
-        rs->Open(cnPlace);
-        rs->Sort({rs->tabela().nr(rs->tabela().numer(rs->tabela().klucz[0]))});
-    }
+    kadry.Open(cnPlace);
+    rsSZ_PL.Open(cnPlace);
+    rsSZ_PL.Sort({schemat::SZ_PL("NR")});
 }
 
-QString Sesja::nazwaMiesiaca(std::string_view przedrostek, int rok, int mies) {
-    return QString::fromLatin1(przedrostek.data(), static_cast<qsizetype>(przedrostek.size())) +
-           QString::number(rok).rightJustified(4, QLatin1Char('0')) +
-           QString::number(mies).rightJustified(2, QLatin1Char('0'));
+QString Sesja::nazwaMiesiaca(std::string_view przedrostek, RokMies miesiac) {
+    return napis(przedrostek) + miesiac.klucz();
 }
 
-void Sesja::OtworzNaglowki() {
-    for (Recordset* rs : {&rsPLACE, &rsPLACEN, &rsPLACEK}) {
-        rs->Open(cnPlace);
-        rs->Sort({rs->tabela().nr(0), rs->tabela().nr(1)});
-    }
-}
+void Sesja::OtworzNaglowki() { naglowki.Open(cnPlace); }
 
-bool Sesja::ZnajdzMiesiac(int rok, int mies) {
-    if (!rsPLACE.otwarty() || !rsPLACEN.otwarty() || !rsPLACEK.otwarty()) OtworzNaglowki();
-    const QString m = QString::number(mies).rightJustified(2, QLatin1Char('0'));
-    const QString r = QString::number(rok).rightJustified(4, QLatin1Char('0'));
-    bool jest = true;
-    for (Recordset* rs : {&rsPLACE, &rsPLACEN, &rsPLACEK}) jest = rs->Znajdz(r, m) && jest;
-    return jest;
+bool Sesja::ZnajdzMiesiac(RokMies miesiac) {
+    if (!naglowki.otwarta()) OtworzNaglowki();
+    return naglowki.Znajdz(FormatRoku(miesiac.rok), FormatMiesiaca(miesiac.mies));
 }
 
 void Sesja::OtworzMiesiac(int rok, int mies, int& wynik) {
+    const RokMies miesiac{rok, mies};
     wynik = 1;
-    if (!ZnajdzMiesiac(rok, mies)) return;
+    if (!ZnajdzMiesiac(miesiac)) return;
     for (const TabelaDef* t : schemat::TabeleMiesiaca)
-        if (!cnPlace.jestTabela(nazwaMiesiaca(t->nazwa, rok, mies))) return;
-    rok_ = mies_ = 0;
-    for (Recordset* rs : {&rsPLA, &rsPLB, &rsPLS, &rsPLD}) {
-        rs->Open(cnPlace, nazwaMiesiaca(rs->tabela().nazwa, rok, mies));
-        rs->Sort({rs->tabela().nr(0), rs->tabela().nr(1)});
-        rs->MoveFirst();
-    }
-    rsZASILEK.Open(cnPlace, {},
-                   {{schemat::ZASILEK("ROKMIES"), Kryterium::Operator::Rowne, RokMies{rok, mies}.klucz()}});
-    rok_ = rok;
-    mies_ = mies;
+        if (!cnPlace.jestTabela(nazwaMiesiaca(t->nazwa, miesiac))) return;
+    miesiac_ = {};
+    wierszListy.Open(cnPlace, miesiac.klucz());
+    rsZASILEK.Open(cnPlace, {}, {{schemat::ZASILEK("ROKMIES"), Kryterium::Operator::Rowne, miesiac.klucz()}});
+    miesiac_ = miesiac;
     wynik = 0;
 }
 
 void Sesja::ZamknijMiesiac() {
-    for (Recordset* rs : {&rsPLA, &rsPLB, &rsPLS, &rsPLD, &rsZASILEK}) rs->Close();
-    rok_ = mies_ = 0;
+    wierszListy.Close();
+    rsZASILEK.Close();
+    miesiac_ = {};
 }
 
 bool Sesja::PrzesunWierszMiesiaca(int rok, int mies, bool przesun) {
-    if (rok_ != rok || mies_ != mies) {
+    if (miesiac_ != RokMies{rok, mies}) {
         int wynik = 0;
         OtworzMiesiac(rok, mies, wynik);
         if (wynik != 0) return false;
@@ -74,18 +58,14 @@ bool Sesja::UstawPartnerow() {
     const qint64 prc = rsPLA.liczba(schemat::PLA("PRC_ID"));
     const QString lista = rsPLA.tekst(schemat::PLA("LISTA"));
     bool wszystkie = true;
-    for (Recordset* rs : {&rsPLB, &rsPLD, &rsPLS}) wszystkie = rs->Znajdz(prc, lista) && wszystkie;
+    for (Recordset* rs : wierszListy)
+        if (rs != &rsPLA) wszystkie = rs->Znajdz(prc, lista) && wszystkie;
     return wszystkie;
 }
 
-bool Sesja::UstawPracownika(qint64 prcId) {
-    bool wszystkie = true;
-    for (Recordset* rs : {&rsPRACSK, &rsPRACDP, &rsPRACPR, &rsPRACZUS, &rsPRACINF})
-        wszystkie = rs->Znajdz(prcId) && wszystkie;
-    return wszystkie;
-}
+bool Sesja::UstawPracownika(qint64 prcId) { return kadry.Znajdz(prcId); }
 
-QList<Recordset*> Sesja::uchwyty() {
+std::vector<Recordset*> Sesja::uchwyty() {
     return {&rsPRACDP,  &rsPRACSK, &rsPRACINF, &rsPRACPR, &rsPRACZUS, &rsSZ_PL,   &rsPLACE, &rsPLACEN,
             &rsPLACEK,  &rsPLA,    &rsPLB,     &rsPLS,    &rsPLD,     &rsZASILEK, &rsURL,   &rsZW,
             &rsM_PRACY, &rsUS,     &rsNADG,    &rsZUS,    &rsPIT4,    &rsPIT11,   &rsPIT40, &rsPIT8B,
@@ -100,7 +80,26 @@ void Sesja::OdswiezUchwyty() {
         else
             rs->Close();
     }
-    if (!rsPLA.otwarty() || !rsPLB.otwarty() || !rsPLS.otwarty() || !rsPLD.otwarty()) ZamknijMiesiac();
+    if (!wierszListy.otwarta()) ZamknijMiesiac();
+}
+
+OtwartyMiesiac::OtwartyMiesiac(Sesja& sesja, RokMies miesiac) : sesja_(sesja), poprzedni_(sesja.miesiac()) {
+    int wynik = 0;
+    sesja_.OtworzMiesiac(miesiac.rok, miesiac.mies, wynik);
+    jest_ = wynik == 0;
+}
+
+OtwartyMiesiac::~OtwartyMiesiac() {
+    if (sesja_.miesiac() == poprzedni_) return;
+    sesja_.ZamknijMiesiac();
+    if (poprzedni_ == RokMies{}) return;
+    try {
+        int wynik = 0;
+        sesja_.OtworzMiesiac(poprzedni_.rok, poprzedni_.mies, wynik);
+    } catch (const Blad&) {
+        // A destructor may not fail. The handles stay closed, and whoever goes on with the month is told so.
+        sesja_.ZamknijMiesiac();
+    }
 }
 
 } // namespace tornel::store

@@ -1,6 +1,7 @@
 // The session: the connection and the long-lived table handles that all screens share.
 #pragma once
-#include "store/Recordset.h"
+#include "common/RokMies.h"
+#include "store/Grupa.h"
 #include "store/Schemat.h"
 #include "store/WersjaPliku.h"
 #include <memory>
@@ -24,8 +25,11 @@ public:
     /// What was done with an older file; nothing for one of today's version.
     [[nodiscard]] const std::optional<ZmianaWersji>& zmianaWersji() const { return zmianaWersji_; }
 
-    /// The name of a month table: `Sesja::nazwaMiesiaca("PLA", 2001, 7)` is PLA200107.
-    [[nodiscard]] static QString nazwaMiesiaca(std::string_view przedrostek, int rok, int mies);
+    /// The name of a month table: `Sesja::nazwaMiesiaca("PLA", {2001, 7})` is PLA200107.
+    [[nodiscard]] static QString nazwaMiesiaca(std::string_view przedrostek, RokMies miesiac);
+    [[nodiscard]] static QString nazwaMiesiaca(std::string_view przedrostek, int rok, int mies) {
+        return nazwaMiesiaca(przedrostek, RokMies{rok, mies});
+    }
 
     /// Opens the month's four tables on `rsPLA`, `rsPLB`, `rsPLS`, `rsPLD`, sorted "PRC_ID, LISTA", and the
     /// month's rows of `ZASILEK` on `rsZASILEK`, where `Znajdz(prcId, lista)` finds a row. `wynik`
@@ -42,12 +46,14 @@ public:
     bool UstawPartnerow();
     /// Moves `PLACE`, `PLACEN`, `PLACEK` to the month; false when one of them has no such row. Opens them if
     /// closed.
-    bool ZnajdzMiesiac(int rok, int mies);
+    bool ZnajdzMiesiac(RokMies miesiac);
+    bool ZnajdzMiesiac(int rok, int mies) { return ZnajdzMiesiac(RokMies{rok, mies}); }
     /// Opens `PLACE`, `PLACEN`, `PLACEK` anew, sorted "ROK, MIES".
     void OtworzNaglowki();
-    /// Year of the open month, 0 if none is open.
-    [[nodiscard]] int rok() const { return rok_; }
-    [[nodiscard]] int mies() const { return mies_; }
+    /// The open month, zeros if none is open.
+    [[nodiscard]] RokMies miesiac() const { return miesiac_; }
+    [[nodiscard]] int rok() const { return miesiac_.rok; }
+    [[nodiscard]] int mies() const { return miesiac_.mies; }
 
     /// Moves the five personnel handles to the employee. False when one of the tables has no row for him.
     bool UstawPracownika(qint64 prcId);
@@ -69,13 +75,36 @@ public:
     Recordset rsKONTA{schemat::KONTA}, rsRODZINA{schemat::RODZINA}, rsUMOP{schemat::UMOP};
     Recordset rsKON{schemat::KON}, rsUZYTKOWNICY{schemat::UZYTKOWNICY};
 
+    /// The five tables of an employee, the three headers of a month, and the four tables of the open month.
+    const Grupa kadry{uchwyty(), schemat::TabelePracownika};
+    const Grupa naglowki{uchwyty(), schemat::TabeleNaglowka};
+    const Grupa wierszListy{uchwyty(), schemat::TabeleMiesiaca};
+
     Uzytkownik uzytkownik;
 
 private:
-    [[nodiscard]] QList<Recordset*> uchwyty();
+    [[nodiscard]] std::vector<Recordset*> uchwyty();
     std::optional<ZmianaWersji> zmianaWersji_;
-    int rok_ = 0;
-    int mies_ = 0;
+    RokMies miesiac_;
+};
+
+/// A month open on the session's handles for as long as this object lives. Then the month that was open
+/// before is open again, or none: so earlier months are walked beside the month in work. Pending changes of
+/// the month in work must have been written.
+class OtwartyMiesiac {
+public:
+    /// As `OtworzMiesiac`. Throws `BladBazy`.
+    OtwartyMiesiac(Sesja& sesja, RokMies miesiac);
+    ~OtwartyMiesiac();
+    OtwartyMiesiac(const OtwartyMiesiac&) = delete;
+    OtwartyMiesiac& operator=(const OtwartyMiesiac&) = delete;
+    /// Whether there is such a month.
+    [[nodiscard]] bool jest() const { return jest_; }
+
+private:
+    Sesja& sesja_;
+    RokMies poprzedni_;
+    bool jest_ = false;
 };
 
 } // namespace tornel::store

@@ -1,4 +1,5 @@
 #include "store/Struktura.h"
+#include "store/Komorki.h"
 #include "store/Schemat.h"
 #include "store/WersjaPliku.h"
 
@@ -65,9 +66,7 @@ void UtworzBaze(const QString& sciezka) {
     try {
         Transakcja transakcja(polaczenie, u"Nowa baza danych");
         for (const TabelaDef* tabela : schemat::Tabele)
-            UtworzTabele(
-                polaczenie, *tabela,
-                QString::fromLatin1(tabela->nazwa.data(), static_cast<qsizetype>(tabela->nazwa.size())));
+            UtworzTabele(polaczenie, *tabela, napis(tabela->nazwa));
         UstawWersje(polaczenie, static_cast<int>(KrokiWersji().size()));
         transakcja.zatwierdz();
     } catch (...) {

@@ -28,6 +28,29 @@ constexpr std::pair<std::int64_t, std::int64_t> zakresTypu(Typ typ) {
     }
 }
 
+/// The kinds of values; every type holds one of them.
+enum class Rodzaj : std::uint8_t { Calkowita, Kwota, Rzeczywista, Tekst, Data };
+
+constexpr Rodzaj rodzaj(Typ typ) {
+    switch (typ) {
+    case Typ::Currency:
+        return Rodzaj::Kwota;
+    case Typ::Single:
+    case Typ::Double:
+        return Rodzaj::Rzeczywista;
+    case Typ::Text:
+    case Typ::Char:
+    case Typ::Memo:
+        return Rodzaj::Tekst;
+    case Typ::Date:
+        return Rodzaj::Data;
+    default:
+        return Rodzaj::Calkowita;
+    }
+}
+constexpr bool jestTekstem(Typ typ) { return rodzaj(typ) == Rodzaj::Tekst; }
+constexpr bool jestRzeczywista(Typ typ) { return rodzaj(typ) == Rodzaj::Rzeczywista; }
+
 struct KolumnaDef {
     std::string_view nazwa;
     Typ typ = Typ::Short;

@@ -16,10 +16,6 @@ namespace tornel::store {
 
 namespace {
 
-QString tekstNazwy(std::string_view nazwa) {
-    return QString::fromLatin1(nazwa.data(), static_cast<qsizetype>(nazwa.size()));
-}
-
 /// Columns that name a row: those of the index and the required ones, since a few keys have three columns.
 QList<Kolumna> kolumnyKlucza(const TabelaDef& tabela) {
     QList<Kolumna> wynik;
@@ -133,8 +129,7 @@ QList<Kolumna> czytajNaglowek(const TabelaDef& tabela, const WierszCsv& naglowek
     }
     for (const Kolumna& k : kolumnyKlucza(tabela))
         if (std::none_of(wynik.begin(), wynik.end(), [&k](const Kolumna& w) { return w.nr == k.nr; }))
-            odmow(naglowek.linia,
-                  QStringLiteral("brakuje kolumny klucza \"%1\"").arg(tekstNazwy(k.def().nazwa)));
+            odmow(naglowek.linia, QStringLiteral("brakuje kolumny klucza \"%1\"").arg(napis(k.def().nazwa)));
     return wynik;
 }
 
@@ -148,7 +143,7 @@ QList<Wartosc> czytajWartosci(const QList<Kolumna>& kolumny, const WierszCsv& wi
         const QString& pole = wiersz.pola[i];
         const auto powod = [&](const QString& tekst) {
             return QStringLiteral("kolumna \"%1\", wartość \"%2\": %3")
-                .arg(tekstNazwy(kolumna.nazwa), pole, tekst);
+                .arg(napis(kolumna.nazwa), pole, tekst);
         };
         if (kolumna.wymagana && pole.isEmpty()) odmow(wiersz.linia, powod(QStringLiteral("brakuje klucza")));
         const std::optional<Wartosc> wartosc = wartoscZTekstu(kolumna, pole);
@@ -199,16 +194,12 @@ void wpisz(Recordset& rs, const QList<Kolumna>& kolumny, const QList<Wartosc>& w
 
 /// The tables whose rows correspond to those of `tabela` one to one, itself included; nothing for others.
 QList<TabelaPliku> tabeleWspolne(const TabelaPliku& tabela) {
-    static constexpr std::array kadry{&schemat::PRACDP, &schemat::PRACSK, &schemat::PRACINF, &schemat::PRACPR,
-                                      &schemat::PRACZUS};
-    static constexpr std::array naglowki{&schemat::PLACE, &schemat::PLACEN, &schemat::PLACEK};
-    const std::span<const TabelaDef* const> grupy[] = {kadry, naglowki, schemat::TabeleMiesiaca};
     QList<TabelaPliku> wynik;
-    for (const auto grupa : grupy) {
+    for (const auto grupa : schemat::Grupy) {
         if (std::find(grupa.begin(), grupa.end(), tabela.def) == grupa.end()) continue;
         const QString miesiac = tabela.rok == 0 ? QString() : tabela.nazwa.right(6);
         for (const TabelaDef* def : grupa)
-            wynik.append({def, tekstNazwy(def->nazwa) + miesiac, tabela.rok, tabela.mies});
+            wynik.append({def, napis(def->nazwa) + miesiac, tabela.rok, tabela.mies});
     }
     return wynik;
 }
@@ -240,7 +231,7 @@ void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const Pli
 TabelaPliku ZnajdzTabele(Polaczenie& polaczenie, const QString& nazwa) {
     const std::string szukana = nazwa.toStdString();
     for (const TabelaDef* def : schemat::Tabele)
-        if (teSameNazwy(def->nazwa, szukana)) return {def, tekstNazwy(def->nazwa), 0, 0};
+        if (teSameNazwy(def->nazwa, szukana)) return {def, napis(def->nazwa), 0, 0};
 
     static const QRegularExpression miesieczna(QStringLiteral("^([A-Z]+)([0-9]{4})(0[1-9]|1[0-2])$"));
     const QRegularExpressionMatch czesci = miesieczna.match(nazwa.toUpper());
@@ -263,8 +254,7 @@ QByteArray EksportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela) {
     const auto dopisz = [&](int i, const QString& pole) {
         wynik += PoleCsv(pole).toUtf8() + (i + 1 < ile ? ';' : '\n');
     };
-    for (int i = 0; i < ile; ++i)
-        dopisz(i, tekstNazwy(tabela.def->kolumny[static_cast<std::size_t>(i)].nazwa));
+    for (int i = 0; i < ile; ++i) dopisz(i, napis(tabela.def->kolumny[static_cast<std::size_t>(i)].nazwa));
     for (rs.MoveFirst(); !rs.EOF_(); rs.MoveNext())
         for (int i = 0; i < ile; ++i) {
             const Kolumna k = tabela.def->nr(i);

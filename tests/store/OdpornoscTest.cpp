@@ -259,7 +259,7 @@ TEST_F(OdpornoscTest, WhatCannotBeStoredStaysPendingInTheRecordset) {
 
     baza.wykonaj("UPDATE PRACDP SET data_ur='2001-0:-01' WHERE prc_id=1");
     Recordset osoby(schemat::PRACDP);
-    EXPECT_THROW(osoby.Open(baza), BladBazy) << "not the first of October";
+    EXPECT_THROW(osoby.Open(baza), UszkodzonaWartosc) << "not the first of October";
 }
 
 TEST_F(OdpornoscTest, NoHalfMadeDatabaseRemains) {

@@ -95,7 +95,7 @@ TEST_F(RecordsetTest, DatesKeepTheirDayAndRefuseDamage) {
     EXPECT_FALSE(pld.data(schemat::SDO(1)).isValid());
     for (const char* uszkodzona : {"'2001-02-30'", "'wczoraj'", "5", "'2001-2-3'"}) {
         baza().wykonaj(std::string("UPDATE PLD200102 SET SOD_1 = ") + uszkodzona);
-        EXPECT_THROW(pld.Requery(), BladBazy) << uszkodzona;
+        EXPECT_THROW(pld.Requery(), UszkodzonaWartosc) << uszkodzona;
         EXPECT_EQ(pld.data(schemat::SOD(1)), QDate(2001, 2, 28)) << "the handle stays as it was";
     }
 }

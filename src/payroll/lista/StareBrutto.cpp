@@ -1,45 +1,26 @@
 #include "payroll/lista/StareBrutto.h"
-#include "common/Daty.h"
 #include "payroll/miesiace/Miesiace.h"
+#include "store/SchematDokumentow.h"
+#include "store/SchematPlac.h"
 #include "store/Sesja.h"
-#include <QByteArrayList>
 
 namespace tornel::payroll {
 
-namespace {
-
-/// All first columns, added one by one: the engine would quietly turn a sum out of range into a fraction.
-Waluta sumaKwot(Instrukcja& instrukcja) {
-    SumaKwot suma;
-    while (instrukcja.wiersz()) suma.dodaj(Waluta::zSurowej(instrukcja.liczba(0)));
-    instrukcja.od_nowa();
-    return suma.kwota();
-}
-
-} // namespace
+using schemat::PLA;
+using schemat::UZL;
 
 StareBrutto::StareBrutto(Sesja& sesja) : sesja_(sesja) {
-    QByteArrayList miesiace;
-    for (int m = 1; m < sesja.mies(); ++m) {
-        if (!JestMiesiac(sesja, {sesja.rok(), m}, {"PLA"})) continue;
-        const QString tabela = Sesja::nazwaMiesiaca("PLA", sesja.rok(), m);
-        tabele_.append(tabela);
-        miesiace.append("SELECT BRUTTO FROM " + nazwaSql(tabela.toStdString()) + " WHERE PRC_ID = ?1");
-    }
-    if (!miesiace.isEmpty())
-        listy_ = std::make_unique<Instrukcja>(sesja.cnPlace, miesiace.join(" UNION ALL ").toStdString());
+    for (RokMies m{sesja.rok(), 1}; m < sesja.miesiac(); ++m.mies)
+        if (JestMiesiac(sesja, m, {"PLA"})) tabele_.append(Sesja::nazwaMiesiaca("PLA", m));
 }
-
-StareBrutto::~StareBrutto() = default;
 
 void StareBrutto::wczytajWszystkich() {
     wszystkie_.emplace();
-    for (const QString& tabela : tabele_) {
-        Instrukcja wiersze(sesja_.cnPlace,
-                           ("SELECT PRC_ID, BRUTTO FROM " + nazwaSql(tabela.toStdString())).toStdString());
-        while (wiersze.wiersz())
-            wszystkie_->dopisz(wiersze.liczba(0)).brutto = Waluta::zSurowej(wiersze.liczba(1));
-    }
+    PrzygotowaneZapytanie zapytanie(sesja_.cnPlace,
+                                    Zapytanie(PLA).kolumny(PLA("PRC_ID"), PLA("BRUTTO")).zTabel(tabele_));
+    for (auto wiersze = zapytanie.uruchom(); wiersze.nastepny();)
+        wszystkie_->dopisz(wiersze, PLA("PRC_ID"),
+                           [&](Wiersz& w) { w.brutto = wiersze.kwota(PLA("BRUTTO")); });
     wszystkie_->uloz();
 }
 
@@ -49,23 +30,30 @@ Waluta StareBrutto::zListPlac(qint64 prcId) {
         for (const Wiersz& w : wszystkie_->pracownika(prcId)) suma.dodaj(w.brutto);
         return suma.kwota();
     }
-    if (!listy_) return {};
-    listy_->wiaz(0, prcId);
-    return sumaKwot(*listy_);
+    if (!listy_)
+        listy_.emplace(
+            sesja_.cnPlace,
+            Zapytanie(PLA).kolumny(PLA("BRUTTO")).zTabel(tabele_).gdzie(PLA("PRC_ID") == Parametr{0}));
+    // Added one by one: the engine would quietly turn a sum out of range into a fraction.
+    SumaKwot suma;
+    for (auto wiersze = listy_->uruchom(prcId); wiersze.nastepny();) suma.dodaj(wiersze.kwota(PLA("BRUTTO")));
+    return suma.kwota();
 }
 
 Waluta StareBrutto::zUmow(qint64 prcId) {
-    if (!umowy_) {
-        QByteArrayList tabele;
-        for (const char* tabela : {"UZL", "UOD", "HON"})
-            tabele.append(QByteArray("SELECT BRUTTO FROM ") + tabela +
-                          " WHERE PRC_ID = ?1 AND DATA_WYP >= ?2 AND DATA_WYP <= ?3");
-        umowy_ = std::make_unique<Instrukcja>(sesja_.cnPlace, tabele.join(" UNION ALL ").toStdString());
-    }
-    umowy_->wiaz(0, prcId)
-        .wiaz(1, PierwszyDzien(sesja_.rok(), 1).toString(Qt::ISODate))
-        .wiaz(2, OstatniDzien(sesja_.rok(), sesja_.mies()).toString(Qt::ISODate));
-    return sumaKwot(*umowy_);
+    if (!umowy_)
+        umowy_.emplace(sesja_.cnPlace, Zapytanie(UZL)
+                                           .oraz(schemat::UOD)
+                                           .oraz(schemat::HON)
+                                           .kolumny(UZL("data_wyp"), UZL("Brutto"))
+                                           .gdzie(UZL("prc_id") == Parametr{0}));
+    const QDate od = RokMies{sesja_.rok(), 1}.pierwszyDzien(), dokad = sesja_.miesiac().ostatniDzien();
+    SumaKwot suma;
+    for (auto umowy = umowy_->uruchom(prcId); umowy.nastepny();)
+        if (const QDate wyplata = umowy.data(UZL("data_wyp"));
+            wyplata.isValid() && wyplata >= od && wyplata <= dokad)
+            suma.dodaj(umowy.kwota(UZL("Brutto")));
+    return suma.kwota();
 }
 
 } // namespace tornel::payroll

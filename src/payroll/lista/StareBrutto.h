@@ -2,24 +2,22 @@
 #pragma once
 #include "payroll/lista/SumaKwot.h"
 #include "payroll/lista/WgPracownika.h"
-#include <memory>
+#include "store/Zapytanie.h"
 #include <optional>
 #include <QStringList>
 
 namespace tornel::store {
-class Instrukcja;
 class Sesja;
 } // namespace tornel::store
 
 namespace tornel::payroll {
 
-/// Look-ups for one open month. The statements are prepared once and serve every employee of the list.
+/// Look-ups for one open month. The queries are made ready once and serve every employee of the list.
 class StareBrutto {
 public:
     /// For the month open in `sesja`. Reads `PLACE` (its position is kept). Throws `Blad` when an earlier
     /// month stands on the list and its table is missing.
     explicit StareBrutto(Sesja& sesja);
-    ~StareBrutto();
 
     /// From now on the lists' gross comes from memory, read once for all employees: for a batch over most of
     /// them. Reads the tables `PLA` of the earlier months.
@@ -39,10 +37,10 @@ private:
     };
 
     Sesja& sesja_;
-    QStringList tabele_;                // PLA of the year's earlier months
-    std::unique_ptr<Instrukcja> listy_; // none when there is no earlier month
+    QStringList tabele_; // PLA of the year's earlier months
+    std::optional<PrzygotowaneZapytanie> listy_;
     std::optional<WgPracownika<Wiersz>> wszystkie_;
-    std::unique_ptr<Instrukcja> umowy_;
+    std::optional<PrzygotowaneZapytanie> umowy_;
 };
 
 } // namespace tornel::payroll

@@ -11,12 +11,6 @@ namespace tornel::payroll {
 using schemat::PLACE;
 using schemat::SZ_PL;
 
-namespace {
-
-std::array<Recordset*, 3> naglowki(Sesja& s) { return {&s.rsPLACE, &s.rsPLACEN, &s.rsPLACEK}; }
-
-} // namespace
-
 void WymagajTabeli(Sesja& sesja, const QString& nazwa) {
     if (!sesja.cnPlace.jestTabela(nazwa))
         throw Blad(
@@ -25,28 +19,22 @@ void WymagajTabeli(Sesja& sesja, const QString& nazwa) {
 
 bool JestMiesiac(Sesja& sesja, RokMies miesiac, std::initializer_list<std::string_view> tabele) {
     if (!sesja.rsPLACE.otwarty()) sesja.OtworzNaglowki();
-    const Zakladka tu = sesja.rsPLACE.Bookmark();
-    const bool jest = sesja.rsPLACE.Znajdz(FormatRoku(miesiac.rok), FormatMiesiaca(miesiac.mies));
-    sesja.rsPLACE.Bookmark(tu);
-    if (jest)
-        for (const std::string_view tabela : tabele)
-            WymagajTabeli(sesja, Sesja::nazwaMiesiaca(tabela, miesiac.rok, miesiac.mies));
-    return jest;
+    if (!sesja.rsPLACE.szukaj(FormatRoku(miesiac.rok), FormatMiesiaca(miesiac.mies))) return false;
+    for (const std::string_view tabela : tabele) WymagajTabeli(sesja, Sesja::nazwaMiesiaca(tabela, miesiac));
+    return true;
 }
 
 Miesiace::Miesiace(Otoczenie& otoczenie) : o_(otoczenie) { o_.sesja.OtworzNaglowki(); }
 
 QList<WierszMiesiaca> Miesiace::Wczytaj_liste() const {
     QList<WierszMiesiaca> wynik;
-    Recordset& place = o_.sesja.rsPLACE;
-    for (place.MoveFirst(); !place.EOF_(); place.MoveNext())
+    for (const Wiersz place : o_.sesja.rsPLACE.wiersze())
         wynik.append({{place.tekst(PLACE("Rok")).toInt(), place.tekst(PLACE("Mies")).toInt()},
                       place.flaga(PLACE("akc"))});
-    place.MoveFirst();
     return wynik;
 }
 
-bool Miesiace::Ustaw(RokMies miesiac) { return o_.sesja.ZnajdzMiesiac(miesiac.rok, miesiac.mies); }
+bool Miesiace::Ustaw(RokMies miesiac) { return o_.sesja.ZnajdzMiesiac(miesiac); }
 
 void Miesiace::wymagaj(RokMies miesiac) {
     // A month with a damaged header can still be blocked or deleted: PLACE alone decides.
@@ -55,14 +43,8 @@ void Miesiace::wymagaj(RokMies miesiac) {
         throw Blad(QStringLiteral("Nie ma miesiąca %1.").arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
 }
 
-void Miesiace::zapiszNaglowki(QStringView czynnosc) {
-    Transakcja transakcja(o_.sesja.cnPlace, czynnosc);
-    for (Recordset* rs : naglowki(o_.sesja)) rs->UpdateBatch(transakcja);
-    transakcja.zatwierdz();
-}
-
 void Miesiace::dodajNaglowki(RokMies miesiac) {
-    for (Recordset* rs : naglowki(o_.sesja)) {
+    for (Recordset* rs : o_.sesja.naglowki) {
         rs->AddNewZero();
         // The position is set before the sorted columns, which move the row and take the position with it.
         rs->ustaw(rs->tabela().nr(0), FormatRoku(miesiac.rok));
@@ -98,14 +80,12 @@ std::optional<RokMies> Miesiace::Nowy_miesiac(const WyborMiesiaca& wybor) {
         return std::nullopt;
     }
     try {
-        const QString czynnosc = QStringLiteral("Nowy miesiąc %1").arg(miesiac->napis());
-        Transakcja transakcja(s.cnPlace, czynnosc);
+        Transakcja transakcja(s.cnPlace, QStringLiteral("Nowy miesiąc %1").arg(miesiac->napis()));
         dodajNaglowki(*miesiac);
         ZapiszAktualneDane();
-        zapiszNaglowki(czynnosc);
+        s.naglowki.UpdateBatch(transakcja);
         for (const TabelaDef* tabela : schemat::TabeleMiesiaca)
-            UtworzTabele(s.cnPlace, *tabela,
-                         Sesja::nazwaMiesiaca(tabela->nazwa, miesiac->rok, miesiac->mies));
+            UtworzTabele(s.cnPlace, *tabela, Sesja::nazwaMiesiaca(tabela->nazwa, *miesiac));
         transakcja.zatwierdz();
     } catch (...) {
         s.OtworzNaglowki();
@@ -128,10 +108,9 @@ bool Miesiace::Usun_miesiac(RokMies miesiac) {
         return false;
     s.ZamknijMiesiac();
     try {
-        const QString czynnosc = QStringLiteral("Usunięcie miesiąca %1").arg(miesiac.napis());
-        Transakcja transakcja(s.cnPlace, czynnosc);
+        Transakcja transakcja(s.cnPlace, QStringLiteral("Usunięcie miesiąca %1").arg(miesiac.napis()));
         for (const TabelaDef* tabela : schemat::TabeleMiesiaca)
-            if (const QString nazwa = Sesja::nazwaMiesiaca(tabela->nazwa, miesiac.rok, miesiac.mies);
+            if (const QString nazwa = Sesja::nazwaMiesiaca(tabela->nazwa, miesiac);
                 s.cnPlace.jestTabela(nazwa))
                 UsunTabele(s.cnPlace, nazwa);
         Recordset zasilki(schemat::ZASILEK);
@@ -140,9 +119,8 @@ bool Miesiace::Usun_miesiac(RokMies miesiac) {
         while (zasilki.naWierszu()) zasilki.Delete();
         zasilki.UpdateBatch(transakcja);
         wymagaj(miesiac);
-        for (Recordset* rs : naglowki(s))
-            if (rs->naWierszu()) rs->Delete();
-        zapiszNaglowki(czynnosc);
+        s.naglowki.Delete();
+        s.naglowki.UpdateBatch(transakcja);
         transakcja.zatwierdz();
     } catch (...) {
         s.OtworzNaglowki();
@@ -166,9 +144,9 @@ bool Miesiace::BlokadaMies(RokMies miesiac) {
             ZapiszAktualneDane();
     }
     s.rsPLACE.ustawFlage(PLACE("akc"), !zablokowany);
-    zapiszNaglowki(
-        (zablokowany ? QStringLiteral("Odblokowanie miesiąca %1") : QStringLiteral("Blokada miesiąca %1"))
-            .arg(miesiac.napis()));
+    s.naglowki.UpdateBatch(s.cnPlace, (zablokowany ? QStringLiteral("Odblokowanie miesiąca %1")
+                                                   : QStringLiteral("Blokada miesiąca %1"))
+                                          .arg(miesiac.napis()));
     return true;
 }
 

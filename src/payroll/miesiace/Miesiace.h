@@ -53,7 +53,6 @@ public:
 private:
     void wymagaj(RokMies miesiac);
     void ZapiszAktualneDane();
-    void zapiszNaglowki(QStringView czynnosc);
     void dodajNaglowki(RokMies miesiac);
 
     Otoczenie& o_;

@@ -4,9 +4,13 @@
 #include "payroll/miesiace/Miesiace.h"
 #include "payroll/nadgodziny/KolumnyNadgodzin.h"
 #include "rules/Stale.h"
+#include "store/SchematPlac.h"
 #include "store/Sesja.h"
 
 namespace tornel::payroll {
+
+using schemat::NADG;
+using schemat::NADGN;
 
 PrzenoszenieNadgodzin::PrzenoszenieNadgodzin(Warsztat& warsztat) : w_(warsztat) {}
 PrzenoszenieNadgodzin::~PrzenoszenieNadgodzin() = default;
@@ -19,30 +23,25 @@ void PrzenoszenieNadgodzin::zapomnij() {
 std::optional<PrzenoszenieNadgodzin::Kwoty> PrzenoszenieNadgodzin::kwoty(qint64 prcId) {
     Sesja& s = w_.o.sesja;
     if (!sprawdzone_) {
-        Instrukcja naglowek(s.cnPlace, "SELECT EXISTS(SELECT 1 FROM NADG WHERE ROK = ?1 AND MIES = ?2)");
-        naglowek.wiaz(0, FormatRoku(s.rok())).wiaz(1, FormatMiesiaca(s.mies()));
-        if (naglowek.wiersz() && naglowek.liczba(0) != 0) {
-            const QString tabela = Sesja::nazwaMiesiaca("NADGN", s.rok(), s.mies());
+        PrzygotowaneZapytanie naglowek(s.cnPlace, Zapytanie(NADG)
+                                                      .gdzie(NADG("Rok") == FormatRoku(s.rok()) &&
+                                                             NADG("Mies") == FormatMiesiaca(s.mies()))
+                                                      .pierwszych(1));
+        if (naglowek.uruchom().nastepny()) {
+            const QString tabela = Sesja::nazwaMiesiaca(NADGN.nazwa, s.miesiac());
             WymagajTabeli(s, tabela);
-            QByteArrayList kolumny;
-            for (int g = 1; g <= kGrupNadgodzin; ++g) {
-                const std::string_view nazwa = KwotaOsoby(g).def().nazwa;
-                kolumny.append(QByteArray(nazwa.data(), static_cast<qsizetype>(nazwa.size())));
-            }
-            lista_ = std::make_unique<Instrukcja>(s.cnPlace,
-                                                  ("SELECT " + kolumny.join(", ") + " FROM " +
-                                                   nazwaSql(tabela.toStdString()) + " WHERE PRC_ID = ?1")
-                                                      .toStdString());
+            Zapytanie kwotyOsoby(NADGN);
+            for (int g = 1; g <= kGrupNadgodzin; ++g) kwotyOsoby.kolumny(KwotaOsoby(g));
+            lista_.emplace(s.cnPlace, kwotyOsoby.zTabel({tabela}).gdzie(NADGN("PRC_ID") == Parametr{0}));
         }
         sprawdzone_ = true;
     }
     if (!lista_) return std::nullopt;
-    lista_->wiaz(0, prcId);
     Kwoty wynik;
-    const bool jest = lista_->wiersz();
-    for (std::size_t g = 0; jest && g < wynik.size(); ++g)
-        wynik[g] = Waluta::zSurowej(lista_->liczba(static_cast<int>(g)));
-    lista_->od_nowa();
+    auto wiersz = lista_->uruchom(prcId);
+    const bool jest = wiersz.nastepny();
+    for (int g = 1; jest && g <= kGrupNadgodzin; ++g)
+        wynik[static_cast<std::size_t>(g - 1)] = wiersz.kwota(KwotaOsoby(g));
     return jest && wynik != Kwoty{} ? std::optional(wynik) : std::nullopt;
 }
 

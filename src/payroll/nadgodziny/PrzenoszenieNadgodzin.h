@@ -3,13 +3,9 @@
 #include "common/Rozmowa.h"
 #include "common/Waluta.h"
 #include "payroll/nadgodziny/KolumnyNadgodzin.h"
-#include <memory>
+#include "store/Zapytanie.h"
 #include <optional>
 #include <QList>
-
-namespace tornel::store {
-class Instrukcja;
-} // namespace tornel::store
 
 namespace tornel::payroll {
 
@@ -35,7 +31,7 @@ private:
 
     Warsztat& w_;
     bool sprawdzone_ = false;
-    std::unique_ptr<Instrukcja> lista_; // none when the month has no overtime list
+    std::optional<PrzygotowaneZapytanie> lista_; // none when the month has no overtime list
 };
 
 } // namespace tornel::payroll

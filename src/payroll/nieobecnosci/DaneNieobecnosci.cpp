@@ -1,48 +1,34 @@
 #include "payroll/nieobecnosci/DaneNieobecnosci.h"
 #include "payroll/lista/WgPracownika.h"
+#include "store/SchematKadr.h"
 #include "store/Sesja.h"
 
 namespace tornel::payroll {
 
-namespace {
-
-/// "2001-07-31" of the file; anything else is an invalid date.
-QDate dataZTekstu(std::string_view tekst) {
-    if (tekst.size() != 10 || tekst[4] != '-' || tekst[7] != '-') return {};
-    const auto liczba = [&](std::size_t od, std::size_t ile) {
-        int wynik = 0;
-        for (const char znak : tekst.substr(od, ile))
-            wynik = znak >= '0' && znak <= '9' ? 10 * wynik + znak - '0' : -10000;
-        return wynik;
-    };
-    return QDate(liczba(0, 4), liczba(5, 2), liczba(8, 2));
-}
-
-} // namespace
+using schemat::KALENDARZ;
+using schemat::URL;
+using schemat::ZW;
 
 /// One of the two registers, between two dates.
 class DaneNieobecnosci::Rejestr {
 public:
-    using Reszta = void (*)(Nieobecnosc& cel, const Instrukcja& wiersz);
+    using Reszta = void (*)(Nieobecnosc& cel, const WierszeZapytania& wiersz);
+    struct Kolumny {
+        Kolumna prcId, od, dokad;
+    };
 
-    /// `kolumny`: of this register alone; `reszta` reads them from number 3 on.
-    Rejestr(Sesja& sesja, const char* tabela, const char* kolumny, Reszta reszta, QDate od, QDate dokad,
+    /// `zapytanie`: the columns of this register alone, which `reszta` reads.
+    Rejestr(Sesja& sesja, Zapytanie zapytanie, const Kolumny& kolumny, Reszta reszta, QDate od, QDate dokad,
             Odczyt odczyt)
-        : odczyt_(odczyt), reszta_(reszta),
-          // The plus signs keep the engine from trying every date as a number.
-          instrukcja_(sesja.cnPlace, (QByteArray("SELECT PRC_ID, DATA, DATA_DO, ") + kolumny + " FROM " +
-                                      tabela + " WHERE +DATA_DO >= ?1 AND +DATA <= ?2" +
-                                      (odczyt == Odczyt::PoJednym ? " AND PRC_ID = ?3" : ""))
-                                         .toStdString()) {
-        instrukcja_.wiaz(0, od.toString(Qt::ISODate)).wiaz(1, dokad.toString(Qt::ISODate));
-        if (odczyt == Odczyt::Wszystkich) czytaj();
+        : odczyt_(odczyt), kolumny_(kolumny), reszta_(reszta), od_(od), dokad_(dokad),
+          zapytanie_(sesja.cnPlace, zDatami(zapytanie, kolumny, odczyt)) {
+        if (odczyt == Odczyt::Wszystkich) czytaj(zapytanie_.uruchom());
     }
 
     [[nodiscard]] Nieobecnosci pracownika(qint64 prcId) {
         if (odczyt_ == Odczyt::PoJednym && prcId_ != prcId) {
+            czytaj(zapytanie_.uruchom(prcId));
             prcId_ = prcId;
-            instrukcja_.wiaz(2, prcId);
-            czytaj();
         }
         const std::span<Nieobecnosc> swoje = wiersze_.pracownika(prcId);
         std::ranges::sort(swoje, {}, [](const Nieobecnosc& n) { return std::pair(n.Data, n.data_do); });
@@ -50,23 +36,32 @@ public:
     }
 
 private:
-    void czytaj() {
+    /// All rows: a damaged date would slip through a comparison in the file.
+    static const Zapytanie& zDatami(Zapytanie& zapytanie, const Kolumny& k, Odczyt odczyt) {
+        zapytanie.kolumny(k.prcId, k.od, k.dokad);
+        return odczyt == Odczyt::PoJednym ? zapytanie.gdzie(k.prcId == Parametr{0}) : zapytanie;
+    }
+
+    void czytaj(WierszeZapytania wiersze) {
         wiersze_.wyczysc();
-        while (instrukcja_.wiersz()) {
-            const QDate od = dataZTekstu(instrukcja_.utf8(1)), dokad = dataZTekstu(instrukcja_.utf8(2));
-            if (!od.isValid() || dokad < od) continue; // no day belongs to it
-            Nieobecnosc& n = wiersze_.dopisz(instrukcja_.liczba(0));
-            n.Data = od;
-            n.data_do = dokad;
-            reszta_(n, instrukcja_);
-        }
-        instrukcja_.od_nowa();
+        while (wiersze.nastepny())
+            wiersze_.dopisz(wiersze, kolumny_.prcId, [&](Nieobecnosc& n) {
+                n.Data = wiersze.data(kolumny_.od);
+                n.data_do = wiersze.data(kolumny_.dokad);
+                // Without a proper start and end no day belongs to it.
+                if (!n.Data.isValid() || n.data_do < n.Data || n.data_do < od_ || n.Data > dokad_)
+                    return Dopisanie::Pominiete;
+                reszta_(n, wiersze);
+                return Dopisanie::Przyjete;
+            });
         wiersze_.uloz();
     }
 
     Odczyt odczyt_;
+    Kolumny kolumny_;
     Reszta reszta_;
-    Instrukcja instrukcja_;
+    QDate od_, dokad_;
+    PrzygotowaneZapytanie zapytanie_;
     WgPracownika<Nieobecnosc> wiersze_;
     std::optional<qint64> prcId_; // whose rows these are, if read one by one
 };
@@ -86,48 +81,47 @@ void DaneNieobecnosci::zapomnij(Odczyt odczyt) {
 
 Nieobecnosci DaneNieobecnosci::urlopy(qint64 prcId) {
     if (!urlopy_) {
-        const int rok = sesja_.rok(), mies = sesja_.mies();
-        const auto reszta = [](Nieobecnosc& n, const Instrukcja& wiersz) {
-            n.Rodzaj = static_cast<int>(wiersz.liczba(3));
-            n.Kwota = Waluta::zSurowej(wiersz.liczba(4));
+        const auto reszta = [](Nieobecnosc& n, const WierszeZapytania& wiersz) {
+            n.Rodzaj = static_cast<int>(wiersz.liczba(URL("Rodzaj")));
+            n.Kwota = wiersz.kwota(URL("Kwota"));
         };
-        urlopy_ = std::make_unique<Rejestr>(sesja_, "URL", "RODZAJ, KWOTA", reszta, PierwszyDzien(rok, mies),
-                                            OstatniDzien(rok, mies), odczyt_);
+        const RokMies miesiac = sesja_.miesiac();
+        urlopy_ = std::make_unique<Rejestr>(sesja_, Zapytanie(URL).kolumny(URL("Rodzaj"), URL("Kwota")),
+                                            Rejestr::Kolumny{URL("prc_id"), URL("Data"), URL("data_do")},
+                                            reszta, miesiac.pierwszyDzien(), miesiac.ostatniDzien(), odczyt_);
     }
     return urlopy_->pracownika(prcId);
 }
 
 Nieobecnosci DaneNieobecnosci::zwolnieniaRoku(qint64 prcId) {
     if (!zwolnienia_) {
-        const int rok = sesja_.rok();
-        const auto reszta = [](Nieobecnosc& n, const Instrukcja& wiersz) {
-            n.st_proc = Waluta::zSurowej(wiersz.liczba(3));
+        const auto reszta = [](Nieobecnosc& n, const WierszeZapytania& wiersz) {
+            n.st_proc = wiersz.kwota(ZW("st_proc"));
         };
-        zwolnienia_ = std::make_unique<Rejestr>(sesja_, "ZW", "ST_PROC", reszta, PierwszyDzien(rok, 1),
-                                                OstatniDzien(rok, sesja_.mies()), odczyt_);
+        zwolnienia_ = std::make_unique<Rejestr>(sesja_, Zapytanie(ZW).kolumny(ZW("st_proc")),
+                                                Rejestr::Kolumny{ZW("prc_id"), ZW("Data"), ZW("data_do")},
+                                                reszta, RokMies{sesja_.rok(), 1}.pierwszyDzien(),
+                                                sesja_.miesiac().ostatniDzien(), odczyt_);
     }
     return zwolnienia_->pracownika(prcId);
 }
 
 std::optional<DniKalendarza> DaneNieobecnosci::czytajKalendarz(qint64 prcId, int rok, int mies) {
     if (!kalendarz_) {
-        QByteArray sql("SELECT ");
-        for (int d = 1; d <= 31; ++d) {
-            const std::string_view nazwa = schemat::DzienKalendarza(d).def().nazwa;
-            sql += (d == 1 ? "" : ", ") + QByteArray(nazwa.data(), static_cast<qsizetype>(nazwa.size()));
-        }
-        sql += " FROM KALENDARZ WHERE PRCID = ?1 AND ROK = ?2 AND MIES = ?3 ORDER BY ROWID LIMIT 1";
-        kalendarz_ = std::make_unique<Instrukcja>(sesja_.cnPlace, sql.toStdString());
+        Zapytanie dni(KALENDARZ);
+        for (int d = 1; d <= 31; ++d) dni.kolumny(schemat::DzienKalendarza(d));
+        kalendarz_.emplace(sesja_.cnPlace,
+                           dni.gdzie(KALENDARZ("PrcId") == Parametr{0} && KALENDARZ("Rok") == Parametr{1} &&
+                                     KALENDARZ("Mies") == Parametr{2})
+                               .wedlugZapisu()
+                               .pierwszych(1));
     }
-    kalendarz_->wiaz(0, prcId).wiaz(1, static_cast<qint64>(rok)).wiaz(2, static_cast<qint64>(mies));
-    std::optional<DniKalendarza> wynik;
-    if (kalendarz_->wiersz()) {
-        std::array<qint64, 31> flagi{};
-        for (int d = 0; d < 31; ++d) flagi[static_cast<std::size_t>(d)] = kalendarz_->liczba(d);
-        wynik = DniKalendarza::zFlag(rok, mies, flagi);
-    }
-    kalendarz_->od_nowa();
-    return wynik;
+    auto wiersz = kalendarz_->uruchom(prcId, rok, mies);
+    if (!wiersz.nastepny()) return std::nullopt;
+    std::array<qint64, 31> flagi{};
+    for (int d = 1; d <= 31; ++d)
+        flagi[static_cast<std::size_t>(d - 1)] = wiersz.liczba(schemat::DzienKalendarza(d));
+    return DniKalendarza::zFlag(rok, mies, flagi);
 }
 
 std::optional<DniKalendarza> DaneNieobecnosci::kalendarz(qint64 prcId, int rok, int mies) {
@@ -149,8 +143,8 @@ std::optional<DniKalendarza> DaneNieobecnosci::kalendarzLubOgolny(qint64 prcId, 
 
 bool DaneNieobecnosci::kalendarzPusty() {
     if (!pusty_) {
-        Instrukcja jest(sesja_.cnPlace, "SELECT EXISTS(SELECT 1 FROM KALENDARZ)");
-        pusty_ = !(jest.wiersz() && jest.liczba(0) != 0);
+        PrzygotowaneZapytanie ktorykolwiek(sesja_.cnPlace, Zapytanie(KALENDARZ).pierwszych(1));
+        pusty_ = !ktorykolwiek.uruchom().nastepny();
     }
     return *pusty_;
 }

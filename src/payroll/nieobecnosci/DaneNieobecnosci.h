@@ -3,6 +3,7 @@
 #include "common/Waluta.h"
 #include "payroll/lista/Odczyt.h"
 #include "personnel/DniKalendarza.h"
+#include "store/Zapytanie.h"
 #include <memory>
 #include <optional>
 #include <QDate>
@@ -10,7 +11,6 @@
 #include <span>
 
 namespace tornel::store {
-class Instrukcja;
 class Sesja;
 } // namespace tornel::store
 
@@ -66,7 +66,7 @@ private:
     Sesja& sesja_;
     Odczyt odczyt_ = Odczyt::PoJednym;
     std::unique_ptr<Rejestr> urlopy_, zwolnienia_;
-    std::unique_ptr<Instrukcja> kalendarz_;
+    std::optional<PrzygotowaneZapytanie> kalendarz_;
     QHash<int, std::optional<DniKalendarza>> ogolny_; // by 12 * year + month
     PytanyMiesiac wlasny_;                            // the last one asked for
     std::optional<bool> pusty_;

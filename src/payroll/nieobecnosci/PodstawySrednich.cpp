@@ -4,7 +4,9 @@
 #include "payroll/lista/WgPracownika.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "rules/Stale.h"
+#include "store/SchematPlac.h"
 #include "store/Sesja.h"
+#include "store/Zapytanie.h"
 #include <string>
 
 namespace tornel::payroll {
@@ -24,16 +26,13 @@ struct SumySkladnikow {
 };
 
 /// Three columns of one row.
-template <Ktory ktory>
+template <Ktory ktory, typename T>
 struct TrzyKolumny {
     std::string lista;
-    std::array<qint64, 3> wartosci{};
+    std::array<T, 3> wartosci{};
 
     void dolicz(const TrzyKolumny& inne) {
         if (ktory == Ktory::Pierwszy ? inne.lista < lista : inne.lista > lista) *this = inne;
-    }
-    static TrzyKolumny zWiersza(const Instrukcja& wiersz) {
-        return {std::string(wiersz.utf8(1)), {wiersz.liczba(2), wiersz.liczba(3), wiersz.liczba(4)}};
     }
 };
 
@@ -41,24 +40,18 @@ struct TrzyKolumny {
 template <typename Wynik>
 class CzescMiesiaca {
 public:
-    using Wiersz = std::function<Wynik(const Instrukcja&)>;
+    using Wiersz = std::function<Wynik(const WierszeZapytania&)>;
 
-    /// `kolumny`: what follows `PRC_ID`. `wiersz` makes something of a row.
-    CzescMiesiaca(Polaczenie& baza, const QString& tabela, const QByteArray& kolumny, Odczyt odczyt,
-                  Wiersz wiersz)
-        : odczyt_(odczyt),
-          wiersze_(baza, ("SELECT PRC_ID, " + kolumny + " FROM " + nazwaSql(tabela.toStdString()) +
-                          (odczyt == Odczyt::PoJednym ? " WHERE PRC_ID = ?1" : ""))
-                             .toStdString()),
+    /// `zapytanie` reads the employee's number among others; `wiersz` makes something of a row.
+    CzescMiesiaca(Polaczenie& baza, Zapytanie zapytanie, Kolumna prcId, Odczyt odczyt, Wiersz wiersz)
+        : odczyt_(odczyt), prcId_(prcId),
+          zapytanie_(baza, odczyt == Odczyt::PoJednym ? zapytanie.gdzie(prcId == Parametr{0}) : zapytanie),
           wiersz_(std::move(wiersz)) {
-        if (odczyt == Odczyt::Wszystkich) czytaj();
+        if (odczyt == Odczyt::Wszystkich) czytaj(zapytanie_.uruchom());
     }
 
     [[nodiscard]] Wynik pracownika(qint64 prcId) {
-        if (odczyt_ == Odczyt::PoJednym) {
-            wiersze_.wiaz(0, prcId);
-            czytaj();
-        }
+        if (odczyt_ == Odczyt::PoJednym) czytaj(zapytanie_.uruchom(prcId));
         Wynik wynik;
         bool pierwszy = true;
         for (const Para& p : wszystkie_.pracownika(prcId)) {
@@ -76,15 +69,16 @@ private:
         Wynik wynik;
     };
 
-    void czytaj() {
+    void czytaj(WierszeZapytania wiersze) {
         wszystkie_.wyczysc();
-        while (wiersze_.wiersz()) wszystkie_.dopisz(wiersze_.liczba(0)).wynik = wiersz_(wiersze_);
-        wiersze_.od_nowa();
+        while (wiersze.nastepny())
+            wszystkie_.dopisz(wiersze, prcId_, [&](Para& p) { p.wynik = wiersz_(wiersze); });
         wszystkie_.uloz();
     }
 
     Odczyt odczyt_;
-    Instrukcja wiersze_;
+    Kolumna prcId_;
+    PrzygotowaneZapytanie zapytanie_;
     Wiersz wiersz_;
     WgPracownika<Para> wszystkie_;
 };
@@ -92,6 +86,9 @@ private:
 } // namespace podstawy
 
 using namespace podstawy;
+using schemat::PLA;
+using schemat::PLB;
+using schemat::PLS;
 
 /// One earlier month. A month that is not on the list gives nothing.
 class PodstawySrednich::Miesiac {
@@ -105,31 +102,38 @@ public:
     [[nodiscard]] SumySkladnikow skladniki(qint64 prcId) {
         if (!jest_) return {};
         if (!skladniki_) {
-            QByteArrayList kolumny{"LISTA"};
-            for (const int nr : skladnikiL4_ + skladnikiUrlopu_)
-                kolumny.append("SP_" + QByteArray::number(nr));
-            const auto wiersz = [l4 = skladnikiL4_.size(), razem = kolumny.size() - 1](const Instrukcja& w) {
+            Zapytanie kolumny(PLS);
+            for (const int nr : skladnikiL4_ + skladnikiUrlopu_) kolumny.kolumny(schemat::SP(nr));
+            otworz(skladniki_, kolumny, [this](const WierszeZapytania& w) {
                 SumySkladnikow suma;
-                for (qsizetype i = 0; i < razem; ++i)
-                    (i < l4 ? suma.l4 : suma.urlopu)
-                        .dodaj(Waluta::zSurowej(w.liczba(static_cast<int>(i) + 2)));
+                for (const int nr : skladnikiL4_) suma.l4.dodaj(w.kwota(schemat::SP(nr)));
+                for (const int nr : skladnikiUrlopu_) suma.urlopu.dodaj(w.kwota(schemat::SP(nr)));
                 return suma;
-            };
-            otworz(skladniki_, "PLS", kolumny.join(", "), wiersz);
+            });
         }
         return skladniki_->pracownika(prcId);
     }
-    using Stawki = TrzyKolumny<Ktory::Ostatni>;
-    using Dni = TrzyKolumny<Ktory::Pierwszy>;
+    using Stawki = TrzyKolumny<Ktory::Ostatni, Waluta>;
+    using Dni = TrzyKolumny<Ktory::Pierwszy, qint64>;
 
     [[nodiscard]] Stawki stawki(qint64 prcId) {
         if (!jest_) return {};
-        if (!stawki_) otworz(stawki_, "PLB", "LISTA, WSK_FEPRC, WSK_FRPRC, WSK_FCPRC", Stawki::zWiersza);
+        constexpr Kolumna fe = PLB("WSK_FEPRC"), fr = PLB("WSK_FRPRC"), fc = PLB("WSK_FCPRC");
+        if (!stawki_)
+            otworz(stawki_, Zapytanie(PLB).kolumny(PLB("LISTA"), fe, fr, fc), [=](const WierszeZapytania& w) {
+                return Stawki{std::string(w.utf8(PLB("LISTA"))), {w.kwota(fe), w.kwota(fr), w.kwota(fc)}};
+            });
         return stawki_->pracownika(prcId);
     }
     [[nodiscard]] Dni dni(qint64 prcId) {
         if (!jest_) return {};
-        if (!dni_) otworz(dni_, "PLA", "LISTA, DN_RO, DN_SO, DN_NI", Dni::zWiersza);
+        constexpr Kolumna robocze = PLA("DN_RO"), soboty = PLA("DN_SO"), niedziele = PLA("DN_NI");
+        if (!dni_)
+            otworz(dni_, Zapytanie(PLA).kolumny(PLA("LISTA"), robocze, soboty, niedziele),
+                   [=](const WierszeZapytania& w) {
+                       return Dni{std::string(w.utf8(PLA("LISTA"))),
+                                  {w.liczba(robocze), w.liczba(soboty), w.liczba(niedziele)}};
+                   });
         return dni_->pracownika(prcId);
     }
 
@@ -137,11 +141,13 @@ public:
 
 private:
     template <typename Wynik>
-    void otworz(std::unique_ptr<CzescMiesiaca<Wynik>>& czesc, std::string_view tabela,
-                const QByteArray& kolumny, typename CzescMiesiaca<Wynik>::Wiersz wiersz) {
-        czesc = std::make_unique<CzescMiesiaca<Wynik>>(
-            sesja_.cnPlace, Sesja::nazwaMiesiaca(tabela, miesiac_.rok, miesiac_.mies), kolumny, odczyt_,
-            std::move(wiersz));
+    void otworz(std::unique_ptr<CzescMiesiaca<Wynik>>& czesc, Zapytanie zapytanie,
+                typename CzescMiesiaca<Wynik>::Wiersz wiersz) {
+        const TabelaDef& tabela = zapytanie.tabela();
+        const Kolumna prcId = tabela.nr(tabela.numer("PRC_ID"));
+        zapytanie.kolumny(prcId).zTabel({Sesja::nazwaMiesiaca(tabela.nazwa, miesiac_)});
+        czesc = std::make_unique<CzescMiesiaca<Wynik>>(sesja_.cnPlace, std::move(zapytanie), prcId, odczyt_,
+                                                       std::move(wiersz));
     }
 
     Sesja& sesja_;
@@ -166,10 +172,9 @@ PodstawySrednich::~PodstawySrednich() = default;
 
 PodstawySrednich::Miesiac& PodstawySrednich::miesiac(int wstecz) {
     while (static_cast<std::size_t>(wstecz) >= miesiace_.size()) {
-        const QDate pierwszy =
-            PierwszyDzien(sesja_.rok(), sesja_.mies()).addMonths(-static_cast<int>(miesiace_.size()) - 1);
-        miesiace_.push_back(std::make_unique<Miesiac>(sesja_, RokMies{pierwszy.year(), pierwszy.month()},
-                                                      skladnikiL4_, skladnikiUrlopu_, odczyt_));
+        const RokMies wczesniejszy = sesja_.miesiac().plus(-static_cast<int>(miesiace_.size()) - 1);
+        miesiace_.push_back(
+            std::make_unique<Miesiac>(sesja_, wczesniejszy, skladnikiL4_, skladnikiUrlopu_, odczyt_));
     }
     return *miesiace_[static_cast<std::size_t>(wstecz)];
 }
@@ -179,8 +184,7 @@ QList<PodstawaL4> PodstawySrednich::doL4(qint64 prcId, int ile) {
     for (int i = 0; i < ile; ++i) {
         Miesiac& m = miesiac(i);
         const auto [fe, fr, fc] = m.stawki(prcId).wartosci;
-        wynik.append({m.nazwa, m.skladniki(prcId).l4.kwota(), Waluta::zSurowej(fe), Waluta::zSurowej(fr),
-                      Waluta::zSurowej(fc)});
+        wynik.append({m.nazwa, m.skladniki(prcId).l4.kwota(), fe, fr, fc});
     }
     return wynik;
 }

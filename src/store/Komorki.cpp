@@ -1,0 +1,132 @@
+#include "store/Komorki.h"
+#include "common/Blad.h"
+#include <bit>
+#include <QStringList>
+
+namespace tornel::store {
+
+bool pasuje(const Wartosc& wartosc, Typ typ) {
+    switch (rodzaj(typ)) {
+    case Rodzaj::Kwota:
+        return wartosc.index() == 0 || std::holds_alternative<Waluta>(wartosc);
+    case Rodzaj::Rzeczywista:
+        return wartosc.index() == 0 || std::holds_alternative<double>(wartosc);
+    case Rodzaj::Tekst:
+        return wartosc.index() == 0 || std::holds_alternative<QString>(wartosc);
+    case Rodzaj::Data:
+        return wartosc.index() == 0 || std::holds_alternative<QDate>(wartosc);
+    case Rodzaj::Calkowita:
+        break;
+    }
+    return wartosc.index() == 0 || std::holds_alternative<qint64>(wartosc);
+}
+
+std::optional<qint64> dzienZTekstu(std::string_view t) {
+    constexpr std::string_view wzor = "0000-00-00";
+    const auto zgodny = [](char c, char z) { return z == '-' ? c == '-' : c >= '0' && c <= '9'; };
+    if (!std::equal(t.begin(), t.end(), wzor.begin(), wzor.end(), zgodny)) return std::nullopt;
+    const auto cyfra = [&](std::size_t i) { return t[i] - '0'; };
+    const QDate d(cyfra(0) * 1000 + cyfra(1) * 100 + cyfra(2) * 10 + cyfra(3), cyfra(5) * 10 + cyfra(6),
+                  cyfra(8) * 10 + cyfra(9));
+    return d.isValid() ? std::optional(d.toJulianDay()) : std::nullopt;
+}
+
+TekstDnia::TekstDnia(qint64 dzien) {
+    int rok = 0, mies = 0, d = 0;
+    QDate::fromJulianDay(dzien).getDate(&rok, &mies, &d);
+    const auto pisz = [&](int od, int ile, int liczba) {
+        for (int i = od + ile - 1; i >= od; --i, liczba /= 10)
+            znaki_[i] = static_cast<char>('0' + liczba % 10);
+    };
+    pisz(0, 4, rok);
+    znaki_[4] = znaki_[7] = '-';
+    pisz(5, 2, mies);
+    pisz(8, 2, d);
+}
+
+std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ) {
+    const int jest = instrukcja.typ(kolumna);
+    switch (rodzaj(typ)) {
+    case Rodzaj::Calkowita:
+    case Rodzaj::Kwota: {
+        if (jest != SQLITE_INTEGER) return std::nullopt;
+        const qint64 liczba = instrukcja.liczba(kolumna);
+        const auto [min, maks] = zakresTypu(typ);
+        return liczba < min || liczba > maks ? std::nullopt : std::optional(liczba);
+    }
+    case Rodzaj::Rzeczywista: // a whole number is kept as one
+        if (jest != SQLITE_FLOAT && jest != SQLITE_INTEGER) return std::nullopt;
+        return std::bit_cast<qint64>(instrukcja.rzeczywista(kolumna));
+    case Rodzaj::Data:
+        return jest == SQLITE_TEXT ? dzienZTekstu(instrukcja.utf8(kolumna)) : std::nullopt;
+    case Rodzaj::Tekst:
+        break;
+    }
+    return std::nullopt;
+}
+
+void zglosUszkodzenie(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa, qint64 nrWiersza,
+                      const KolumnaDef& kolumna) {
+    QStringList klucz;
+    for (const std::string_view k : tabela.kluczPliku()) {
+        Instrukcja pytanie(polaczenie, ("SELECT " + nazwaSql(k) + " FROM " + nazwaSql(nazwa.toStdString()) +
+                                        " WHERE rowid=?")
+                                           .toStdString());
+        if (pytanie.wiaz(0, nrWiersza).wiersz()) klucz.append(napis(k) + QLatin1Char(' ') + pytanie.tekst(0));
+    }
+    QString rzecz = QStringLiteral("liczba");
+    if (kolumna.typ == Typ::Date) rzecz = QStringLiteral("data");
+    if (kolumna.typ == Typ::Currency) rzecz = QStringLiteral("kwota");
+    if (jestTekstem(kolumna.typ)) rzecz = QStringLiteral("wartość");
+    throw UszkodzonaWartosc(
+        QStringLiteral("Uszkodzona %1 w kolumnie %2 tabeli %3, wiersz %4%5 (plik „%6”).")
+            .arg(rzecz, napis(kolumna.nazwa), nazwa)
+            .arg(nrWiersza)
+            .arg(klucz.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(klucz.join(QStringLiteral(", "))),
+                 polaczenie.sciezka()));
+}
+
+void wiazWartosc(Instrukcja& instrukcja, int nr, const Wartosc& wartosc) {
+    if (const auto* n = std::get_if<qint64>(&wartosc))
+        instrukcja.wiaz(nr, *n);
+    else if (const auto* r = std::get_if<double>(&wartosc))
+        instrukcja.wiaz(nr, *r);
+    else if (const auto* w = std::get_if<Waluta>(&wartosc))
+        instrukcja.wiaz(nr, static_cast<qint64>(w->surowa()));
+    else if (const auto* t = std::get_if<QString>(&wartosc))
+        instrukcja.wiaz(nr, *t);
+    else if (const auto* d = std::get_if<QDate>(&wartosc); d && d->isValid())
+        instrukcja.wiaz(nr, std::string_view(TekstDnia(d->toJulianDay())));
+    else
+        instrukcja.wiazNull(nr);
+}
+
+const char* znakOperatora(Kryterium::Operator op) {
+    switch (op) {
+    case Kryterium::Operator::Rowne:
+        return " IS ";
+    case Kryterium::Operator::Rozne:
+        return " IS NOT ";
+    case Kryterium::Operator::NieMniejsze:
+        return " >= ";
+    case Kryterium::Operator::NieWieksze:
+        return " <= ";
+    case Kryterium::Operator::Wieksze:
+        return " > ";
+    case Kryterium::Operator::Mniejsze:
+        return " < ";
+    }
+    return " IS ";
+}
+
+QByteArray listaKolumn(const TabelaDef& tabela) {
+    QByteArray wynik;
+    for (const KolumnaDef& k : tabela.kolumny) wynik += (wynik.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa);
+    return wynik;
+}
+
+QString napis(std::string_view nazwa) {
+    return QString::fromLatin1(nazwa.data(), static_cast<qsizetype>(nazwa.size()));
+}
+
+} // namespace tornel::store
