@@ -33,6 +33,17 @@ public:
     virtual void komunikat(const QString& tekst, Styl styl, const QString& tytul = domyslnyTytul()) = 0;
     /// A Yes/No question. Throws `Przerwanie` where nobody can answer (console without answers).
     [[nodiscard]] virtual bool pytanie(const QString& tekst, const QString& tytul = domyslnyTytul()) = 0;
+    /// A question whose Yes deletes something or lets it go: No is what Enter answers.
+    [[nodiscard]] virtual bool pytanieUsuwajace(const QString& tekst,
+                                                const QString& tytul = domyslnyTytul()) {
+        return pytanie(tekst, tytul);
+    }
+    /// A Yes/No question of something that may also be left undone: nothing when the clerk cancels. Here
+    /// without that way out, where the user's side has none.
+    [[nodiscard]] virtual std::optional<bool> pytanieZAnulowaniem(const QString& tekst,
+                                                                  const QString& tytul = domyslnyTytul()) {
+        return pytanie(tekst, tytul);
+    }
     /// Settles the questions of an action, whose name is `tytul`, before it begins; a question that the
     /// answer to another one makes idle is answered No. Nothing when the clerk cancels: nothing may change
     /// then. Here one by one in their order, where the user's side has nothing better to show.
