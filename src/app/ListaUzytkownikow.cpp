@@ -96,7 +96,7 @@ bool ListaUzytkownikow::Usun(const QString& nazwa) {
     if (rs.liczba(kTyp) == kAdministrator)
         return odmow(QStringLiteral("Użytkownik ") + nazwa +
                      QStringLiteral(" nie może zostać usunięty z listy."));
-    if (!o_.rozmowa.pytanie(
+    if (!o_.rozmowa.pytanieUsuwajace(
             QStringLiteral("Usunięty użytkownik nie będzie mógł się więcej zalogować do programu. Usunąć ?")))
         return false;
     wymagaj(nazwa);

@@ -10,8 +10,8 @@
 
 namespace tornel::app {
 
-frmHaslo::frmHaslo(Otoczenie& otoczenie, QWidget* rodzic) : QDialog(rodzic), o_(otoczenie) {
-    setObjectName(QStringLiteral("frmHaslo"));
+frmHaslo::frmHaslo(Otoczenie& otoczenie, QWidget* rodzic)
+    : Okno(QStringLiteral("frmHaslo"), rodzic), o_(otoczenie) {
     setWindowTitle(QStringLiteral("Hasło"));
     auto* uklad = new QVBoxLayout(this);
     uklad->setContentsMargins(2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka,

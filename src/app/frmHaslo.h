@@ -1,7 +1,7 @@
 // "Hasło": the user at work changes his own password.
 #pragma once
+#include "okna/Okno.h"
 #include "rules/Otoczenie.h"
-#include <QDialog>
 
 namespace tornel::okna {
 class PoleTekstu;
@@ -9,7 +9,7 @@ class PoleTekstu;
 
 namespace tornel::app {
 
-class frmHaslo : public QDialog {
+class frmHaslo : public Okno {
     Q_OBJECT
 public:
     explicit frmHaslo(Otoczenie& otoczenie, QWidget* rodzic = nullptr);

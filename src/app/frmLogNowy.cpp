@@ -8,8 +8,8 @@
 
 namespace tornel::app {
 
-frmLogNowy::frmLogNowy(ListaUzytkownikow& lista, QWidget* rodzic) : QDialog(rodzic), lista_(lista) {
-    setObjectName(QStringLiteral("frmLogNowy"));
+frmLogNowy::frmLogNowy(ListaUzytkownikow& lista, QWidget* rodzic)
+    : Okno(QStringLiteral("frmLogNowy"), rodzic), lista_(lista) {
     setWindowTitle(QStringLiteral("Nowy użytkownik"));
     auto* uklad = new QVBoxLayout(this);
     uklad->setContentsMargins(2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka,

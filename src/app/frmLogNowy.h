@@ -1,7 +1,7 @@
 // "Nowy użytkownik": name and password of a user to be added.
 #pragma once
 #include "common/Przestrzenie.h"
-#include <QDialog>
+#include "okna/Okno.h"
 
 namespace tornel::okna {
 class PoleTekstu;
@@ -11,7 +11,7 @@ namespace tornel::app {
 
 class ListaUzytkownikow;
 
-class frmLogNowy : public QDialog {
+class frmLogNowy : public Okno {
     Q_OBJECT
 public:
     explicit frmLogNowy(ListaUzytkownikow& lista, QWidget* rodzic = nullptr);

@@ -25,8 +25,7 @@ PoleTekstu* pole(QGridLayout& siatka, int wiersz, const QString& nazwa, const QS
 
 } // namespace
 
-frmLogowanie::frmLogowanie(QWidget* rodzic) : QDialog(rodzic) {
-    setObjectName(QStringLiteral("frmLogowanie"));
+frmLogowanie::frmLogowanie(QWidget* rodzic) : Okno(QStringLiteral("frmLogowanie"), rodzic) {
     setWindowTitle(QStringLiteral("Logowanie"));
     auto* siatka = new QGridLayout(this);
     siatka->setContentsMargins(3 * Wyglad::kSiatka, 3 * Wyglad::kSiatka, 3 * Wyglad::kSiatka,

@@ -1,7 +1,7 @@
 // The login: name and password, handed over as typed.
 #pragma once
 #include "common/Przestrzenie.h"
-#include <QDialog>
+#include "okna/Okno.h"
 
 namespace tornel::okna {
 class PoleTekstu;
@@ -10,7 +10,7 @@ class PoleTekstu;
 namespace tornel::app {
 
 /// Accepted: somebody wants in, and the caller checks who. Rejected: no login.
-class frmLogowanie : public QDialog {
+class frmLogowanie : public Okno {
     Q_OBJECT
 public:
     explicit frmLogowanie(QWidget* rodzic = nullptr);

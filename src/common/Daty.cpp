@@ -9,6 +9,8 @@ namespace {
 
 /// Years below this were never dates here: a year typed with two digits is a slip.
 constexpr int kPierwszyRok = 100;
+/// What the clerk may type.
+constexpr int kPierwszyRokWpisany = 1900, kOstatniRokWpisany = 2100;
 
 bool cyfra(QChar znak) { return znak >= QLatin1Char('0') && znak <= QLatin1Char('9'); }
 
@@ -94,8 +96,23 @@ QString MaskaDaty(const QString& tekst) {
     return wynik;
 }
 
-QString SprawdzDate(const QString& tekst) {
-    return tekst.size() >= 10 && zPozycji(tekst) ? tekst.left(10) : QString();
+std::optional<QDate> CzytajWpisanaDate(const QString& tekst) {
+    const QString t = tekst.trimmed().section(QLatin1Char(' '), 0, 0);
+    std::optional<QDate> data;
+    if (t.size() == 8 && sameCyfry(t)) {
+        data = zCzesci(QStringView(t).mid(4), QStringView(t).mid(2, 2), QStringView(t).left(2));
+    } else if (const auto znak = std::find_if(t.begin(), t.end(), rozdzielacz); znak != t.end()) {
+        const QList<QStringView> czesci = QStringView(t).split(*znak);
+        const bool odRoku = *znak == QLatin1Char('-') && czesci.first().size() == 4;
+        // A year in front asks for all its zeros: "2001-07-1" may still become the fifteenth.
+        const auto pasuje = [=](QStringView czesc) { return odRoku ? czesc.size() == 2 : czesc.size() <= 2; };
+        if (czesci.size() != 3 || !pasuje(czesci[1]) || !pasuje(odRoku ? czesci[2] : czesci[0])) return {};
+        data = odRoku ? zCzesci(czesci[0], czesci[1], czesci[2]) : zCzesci(czesci[2], czesci[1], czesci[0]);
+    }
+    if (!data || data->year() < kPierwszyRokWpisany || data->year() > kOstatniRokWpisany) return {};
+    return data;
 }
+
+QString SprawdzDate(const QString& tekst) { return FormatDaty(CzytajWpisanaDate(tekst).value_or(QDate())); }
 
 } // namespace tornel::common

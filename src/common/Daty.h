@@ -33,11 +33,14 @@ namespace tornel::common {
     return FormatMiesiaca(mies) + QLatin1Char('.') + FormatRoku(rok);
 }
 
+/// Reads a date as the clerk may type it: day, month and year with "-", "/" or "." between them, also without
+/// their leading zeros; ddmmyyyy; yyyy-mm-dd. Blanks around it, and what follows a date and a blank, are left
+/// aside. Years 1900 to 2100. Nothing for any other text.
+[[nodiscard]] std::optional<QDate> CzytajWpisanaDate(const QString& tekst);
 /// The text of a date field while it is typed, rebuilt: split at "/" (also "-" and "."), at most three parts,
 /// a part that is no number becomes empty, the separators stay as typed.
 [[nodiscard]] QString MaskaDaty(const QString& tekst);
-/// The text of a date field on leaving: its first ten characters if characters 1-2, 4-5 and 7-10 are day,
-/// month and year of a date, otherwise empty.
+/// The text of a date field on leaving: "dd-mm-yyyy" of what `CzytajWpisanaDate` reads, otherwise empty.
 [[nodiscard]] QString SprawdzDate(const QString& tekst);
 
 } // namespace tornel::common

@@ -8,6 +8,8 @@ namespace tornel::common {
 
 namespace {
 
+constexpr int kCyfrWGrupie = 3;
+
 bool jestCyfra(QChar znak) { return znak >= QLatin1Char('0') && znak <= QLatin1Char('9'); }
 
 /// Takes an optional sign off the front; true for a minus.
@@ -27,7 +29,61 @@ QByteArray zdejmijCyfry(QStringView& t) {
 }
 
 bool znakDziesietny(QChar znak, Zapis zapis) {
-    return znak == QLatin1Char(',') || (zapis == Zapis::Pole && znak == QLatin1Char('.'));
+    return znak == QLatin1Char(',') || (zapis != Zapis::Wzor && znak == QLatin1Char('.'));
+}
+
+/// The whole part without the marks between its thousands: one to three digits, then threes. Empty where the
+/// marks stand anywhere else.
+QString bezGrup(const QString& calosc, QChar znak) {
+    const QStringList grupy = calosc.split(znak);
+    QString wynik;
+    for (qsizetype i = 0; i < grupy.size(); ++i) {
+        const QString& g = grupy.at(i);
+        const bool pelna = g.size() == kCyfrWGrupie;
+        if (!std::all_of(g.begin(), g.end(), jestCyfra) ||
+            !(pelna || (i == 0 && !g.isEmpty() && g.size() < 3)))
+            return {};
+        wynik += g;
+    }
+    return wynik;
+}
+
+/// Brings what the clerk typed into the strict form: sign, digits, one comma. Empty for a text that is no
+/// number.
+QString doScislego(const QString& wpisany) {
+    QString t = wpisany;
+    for (const QChar odstep : {QChar(0x00A0), QChar(0x202F), QChar(0x2009)})
+        t.replace(odstep, QLatin1Char(' '));
+    t.replace(QChar(0x2212), QLatin1Char('-'));
+    t = t.trimmed();
+    if (t.endsWith(QStringLiteral("zł"), Qt::CaseInsensitive)) t = t.chopped(2).trimmed();
+    QString znak;
+    const auto jestZnakiem = [](QChar c) { return c == QLatin1Char('-') || c == QLatin1Char('+'); };
+    if (!t.isEmpty() && jestZnakiem(t.front())) {
+        znak = t.front();
+        t = t.mid(1).trimmed();
+    } else if (!t.isEmpty() && jestZnakiem(t.back())) {
+        znak = t.back();
+        t = t.chopped(1).trimmed();
+    }
+    const auto przecinek = t.indexOf(QLatin1Char(','));
+    const auto kropek = t.count(QLatin1Char('.'));
+    // Without a comma a single dot is the decimal mark, unless it may as well stand between thousands.
+    const bool dziesietna = przecinek < 0 && kropek == 1;
+    const auto koniec = dziesietna ? t.indexOf(QLatin1Char('.')) : przecinek;
+    QString calosc = koniec < 0 ? t : t.left(koniec);
+    const QString ulamek = koniec < 0 ? QString() : t.mid(koniec + 1);
+    const bool moznaGrupowac =
+        calosc.contains(QLatin1Char(' ')) ||
+        (calosc.size() <= kCyfrWGrupie && !calosc.isEmpty() && calosc != QLatin1String("0"));
+    if (dziesietna && ulamek.size() == kCyfrWGrupie && moznaGrupowac) return {};
+    if (przecinek < 0 && kropek > 1) return {};
+    for (const QChar grupujacy : {QLatin1Char(' '), QLatin1Char('.')})
+        if (calosc.contains(grupujacy)) {
+            calosc = bezGrup(calosc, grupujacy);
+            if (calosc.isEmpty()) return {};
+        }
+    return znak + calosc + (koniec < 0 ? QString() : QLatin1Char(',') + ulamek);
 }
 
 /// Digits after a sign as a number, held at a bound far outside any type's range.
@@ -71,7 +127,8 @@ Waluta LiczbaDziesietna::naKwote() const {
 }
 
 std::optional<LiczbaDziesietna> RozbierzLiczbe(const QString& tekst, Zapis zapis) {
-    QStringView t = QStringView(tekst).trimmed();
+    const QString scisly = zapis == Zapis::Pole ? doScislego(tekst) : tekst;
+    QStringView t = QStringView(scisly).trimmed();
     LiczbaDziesietna liczba;
     liczba.ujemna = zdejmijZnak(t);
     liczba.cyfry = zdejmijCyfry(t);
@@ -93,8 +150,8 @@ std::optional<LiczbaDziesietna> RozbierzLiczbe(const QString& tekst, Zapis zapis
     return liczba;
 }
 
-std::optional<Waluta> CzytajKwote(const QString& tekst) {
-    const auto liczba = RozbierzLiczbe(tekst, Zapis::Pole);
+std::optional<Waluta> CzytajKwote(const QString& tekst, Zapis zapis) {
+    const auto liczba = RozbierzLiczbe(tekst, zapis);
     if (!liczba) return {};
     try {
         return liczba->naKwote();
@@ -114,7 +171,9 @@ std::optional<qint64> CzytajLiczbe(const QString& tekst, qint64 min, qint64 max)
     return liczba;
 }
 
-Waluta KwotaAlboZero(const QString& tekst) { return CzytajKwote(tekst).value_or(Waluta{}); }
+Waluta KwotaAlboZero(const QString& tekst, Zapis zapis) {
+    return CzytajKwote(tekst, zapis).value_or(Waluta{});
+}
 
 qint64 LiczbaAlboZero(const QString& tekst, qint64 min, qint64 max) {
     return CzytajLiczbe(tekst, min, max).value_or(0);

@@ -1,5 +1,5 @@
-// Numbers typed or shown as text, free of the machine's locale. Reading is strict: a text is refused, never
-// repaired.
+// Numbers typed, stored or shown as text, free of the machine's locale. A text that is no number is refused,
+// never repaired.
 #pragma once
 #include "common/Waluta.h"
 #include <optional>
@@ -9,7 +9,13 @@ namespace tornel::common {
 
 /// How a decimal number may be written.
 enum class Zapis {
-    Pole, ///< a field: a comma or a dot as the decimal mark
+    /// Typed by the clerk, as money is written: blanks (also no-break ones) between thousands, a sign before
+    /// or
+    /// behind, "zł" at the end, a decimal comma or dot. Dots group thousands only where a comma follows;
+    /// "1.500"
+    /// alone could be either and is no number.
+    Pole,
+    Dane, ///< stored or exchanged: a comma or a dot as the decimal mark, no grouping, a sign before
     Wzor, ///< the formula language: a comma only, and an optional exponent ("1,5E+20")
 };
 
@@ -25,17 +31,17 @@ struct LiczbaDziesietna {
 };
 
 /// Takes a number apart: blanks around it, one optional sign, digits with at most one decimal mark ("5,",
-/// ",5"). Nothing for any other text.
+/// ",5"), and what `zapis` allows besides. Nothing for any other text.
 [[nodiscard]] std::optional<LiczbaDziesietna> RozbierzLiczbe(const QString& tekst, Zapis zapis);
 
-/// Reads an amount (`Zapis::Pole`), rounded half to even at the fourth place. Nothing for a text that is no
-/// number or leaves the range of money.
-[[nodiscard]] std::optional<Waluta> CzytajKwote(const QString& tekst);
+/// Reads an amount, rounded half to even at the fourth place. Nothing for a text that is no number or leaves
+/// the range of money.
+[[nodiscard]] std::optional<Waluta> CzytajKwote(const QString& tekst, Zapis zapis = Zapis::Pole);
 /// Reads a whole number from `min` to `max`: blanks around it, one optional sign, digits.
 [[nodiscard]] std::optional<qint64> CzytajLiczbe(const QString& tekst, qint64 min, qint64 max);
 
 /// As `CzytajKwote`; 0 where that gives nothing.
-[[nodiscard]] Waluta KwotaAlboZero(const QString& tekst);
+[[nodiscard]] Waluta KwotaAlboZero(const QString& tekst, Zapis zapis = Zapis::Pole);
 /// As `CzytajLiczbe`; 0 where that gives nothing.
 [[nodiscard]] qint64 LiczbaAlboZero(const QString& tekst, qint64 min, qint64 max);
 

@@ -1,12 +1,25 @@
 #include "okna/Aplikacja.h"
 #include "common/Blad.h"
 #include <new>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 
 namespace tornel::okna {
 
 Aplikacja::Aplikacja(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Tornel"));
     setApplicationVersion(QStringLiteral(TORNEL_WERSJA));
+    installEventFilter(this);
+}
+
+bool Aplikacja::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
+    if (zdarzenie->type() != QEvent::Wheel) return false;
+    const auto* widzet = qobject_cast<const QWidget*>(obiekt);
+    const bool zmienny =
+        qobject_cast<const QComboBox*>(widzet) || qobject_cast<const QAbstractSpinBox*>(widzet);
+    if (!zmienny || widzet->hasFocus()) return false;
+    zdarzenie->ignore(); // handed on to what the control stands on
+    return true;
 }
 
 bool Aplikacja::notify(QObject* odbiorca, QEvent* zdarzenie) {

@@ -19,6 +19,9 @@ public:
     void ustawNaprawe(Naprawa naprawa) { naprawa_ = std::move(naprawa); }
 
     bool notify(QObject* odbiorca, QEvent* zdarzenie) override;
+    /// Keeps the mouse wheel from changing a choice or a number that does not have the focus: it scrolls the
+    /// screen.
+    bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
 
 signals:
     /// The handles were read anew: screens show their current row again.

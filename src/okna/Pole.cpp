@@ -9,9 +9,8 @@ namespace tornel::okna {
 
 namespace {
 
-/// Enough for every amount in the range of money, sign and decimals included.
-constexpr int kCyfryKwoty = 19;
-constexpr int kCyfryDaty = 10;
+constexpr int kPojemnoscLiczby = 40;
+constexpr int kPojemnoscDaty = 24;
 
 std::pair<qint64, qint64> zakres(const Pole& pole) {
     if (pole.kolumna.nr < 0) return {std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max()};
@@ -33,7 +32,7 @@ QString tekstKwoty(const Wartosc& wartosc) {
     if (const auto* kwota = std::get_if<Waluta>(&wartosc)) return FormatKwoty(*kwota);
     if (const auto* rzeczywista = std::get_if<double>(&wartosc))
         return FormatKwoty(Waluta::zLiczby(*rzeczywista));
-    return FormatKwoty(KwotaAlboZero(ogolnyTekst(wartosc)));
+    return FormatKwoty(KwotaAlboZero(ogolnyTekst(wartosc), Zapis::Dane));
 }
 
 QString tekstFlagi(const QString& tekst) {
@@ -42,13 +41,23 @@ QString tekstFlagi(const QString& tekst) {
 }
 
 /// A number with decimals is taken at its nearest whole number; outside the type's range it is no number.
-qint64 calkowita(const Pole& pole, const QString& tekst) {
+std::optional<qint64> calkowita(const Pole& pole, const QString& tekst) {
     const auto [min, max] = zakres(pole);
-    if (const auto liczba = CzytajLiczbe(tekst, min, max)) return *liczba;
+    if (const auto liczba = CzytajLiczbe(tekst, min, max)) return liczba;
     const auto kwota = CzytajKwote(tekst);
-    if (!kwota) return 0;
+    if (!kwota) return {};
     const qint64 zaokraglona = Round(*kwota, 0).surowa() / Waluta::zlotych(1).surowa();
-    return zaokraglona < min || zaokraglona > max ? 0 : zaokraglona;
+    if (zaokraglona < min || zaokraglona > max) return {};
+    return zaokraglona;
+}
+
+QString opisKwoty(const QString& wpisany) {
+    QString zPrzecinkiem = wpisany;
+    zPrzecinkiem.replace(QLatin1Char('.'), QLatin1Char(','));
+    const QString dwuznaczna = CzytajKwote(zPrzecinkiem)
+                                   ? QStringLiteral("„%1” może znaczyć tysiące albo ułamek.")
+                                   : QStringLiteral("„%1” nie jest kwotą.");
+    return dwuznaczna.arg(wpisany) + QStringLiteral(" Przyjęto 0,00.");
 }
 
 /// The text cut to the column, never in the middle of a character of two code units.
@@ -63,11 +72,10 @@ QString przytnij(const QString& tekst, int rozmiar) {
 int najdluzszy(const Pole& pole) {
     switch (pole.rodzaj) {
     case Rodzaj::Kwota:
-        return kCyfryKwoty;
     case Rodzaj::Liczba:
-        return static_cast<int>(QString::number(zakres(pole).second).size()) + 1;
+        return kPojemnoscLiczby;
     case Rodzaj::Data:
-        return kCyfryDaty;
+        return kPojemnoscDaty;
     default:
         return pole.kolumna.nr < 0 ? pole.rozmiar : pole.kolumna.def().rozmiar;
     }
@@ -94,9 +102,9 @@ QString uporzadkuj(const Pole& pole, const QString& wpisany) {
         return FormatKwoty(pole.grosze == Grosze::Round ? Round(KwotaAlboZero(wpisany), 2)
                                                         : KwotaAlboZero(wpisany));
     case Rodzaj::Liczba:
-        return QString::number(calkowita(pole, wpisany));
+        return QString::number(calkowita(pole, wpisany).value_or(0));
     case Rodzaj::Data:
-        return FormatDaty(CzytajDate(SprawdzDate(wpisany)).value_or(QDate()));
+        return SprawdzDate(wpisany);
     case Rodzaj::Flaga:
         return tekstFlagi(wpisany);
     case Rodzaj::Wybor:
@@ -108,12 +116,32 @@ QString uporzadkuj(const Pole& pole, const QString& wpisany) {
     return wpisany;
 }
 
+QString nieZrozumiano(const Pole& pole, const QString& wpisany) {
+    const QString t = wpisany.trimmed();
+    if (t.isEmpty()) return {};
+    switch (pole.rodzaj) {
+    case Rodzaj::Kwota:
+        return CzytajKwote(t) ? QString() : opisKwoty(t);
+    case Rodzaj::Liczba: {
+        if (calkowita(pole, t)) return {};
+        const QString powod = CzytajKwote(t) ? QStringLiteral("„%1” nie mieści się w polu. Przyjęto 0.")
+                                             : QStringLiteral("„%1” nie jest liczbą. Przyjęto 0.");
+        return powod.arg(t);
+    }
+    case Rodzaj::Data:
+        return CzytajWpisanaDate(t) ? QString()
+                                    : QStringLiteral("„%1” nie jest datą. Pole jest puste.").arg(t);
+    default:
+        return {};
+    }
+}
+
 Wartosc wartoscTekstu(const Pole& pole, const QString& tekst) {
     switch (pole.rodzaj) {
     case Rodzaj::Kwota:
         return KwotaAlboZero(tekst);
     case Rodzaj::Liczba:
-        return calkowita(pole, tekst);
+        return calkowita(pole, tekst).value_or(0);
     case Rodzaj::Data: {
         const auto data = CzytajDate(tekst);
         return data ? Wartosc(*data) : Wartosc(Null);

@@ -11,7 +11,7 @@ namespace tornel::okna {
 enum class Rodzaj {
     Tekst,   ///< one line, as long as the column at most
     Notatka, ///< several lines
-    Kwota,   ///< money or percent: "0,00", comma or dot read, a non-number becomes 0
+    Kwota,   ///< money or percent: "0,00", read as `Zapis::Pole`, a non-number becomes 0
     Liczba,  ///< whole number within the column's type, 16 bits without one; anything else becomes 0
     Data,    ///< dd-mm-yyyy; empty is null, a text that is no date becomes empty
     Flaga,   ///< "T" or "N", a check box
@@ -46,12 +46,16 @@ struct Pole {
     QString opis = {}; ///< accessible name and tool tip, where the caption does not tell enough
 };
 
-/// The longest text the field takes, 0 for no bound.
+/// The longest text the field takes, 0 for no bound. Room for more than any number or date needs, so that
+/// none is cut into another one.
 [[nodiscard]] int najdluzszy(const Pole& pole);
 /// The value as the field shows it. Null is an empty date or text, "0,00", "0" or "N".
 [[nodiscard]] QString tekstWartosci(const Pole& pole, const Wartosc& wartosc);
 /// What becomes of a typed text when the field is left.
 [[nodiscard]] QString uporzadkuj(const Pole& pole, const QString& wpisany);
+/// What a field says of a typed text that it could not take: a sentence that quotes the text and tells what
+/// stands in the field instead. Empty for a text that it took; an empty text is 0 or no date on purpose.
+[[nodiscard]] QString nieZrozumiano(const Pole& pole, const QString& wpisany);
 /// The value to store for a text that `uporzadkuj` gave: `Waluta`, whole number, date or null, text; for
 /// `Wybor` the chosen one's stored value, null for a text that is none of the choices.
 [[nodiscard]] Wartosc wartoscTekstu(const Pole& pole, const QString& tekst);

@@ -4,10 +4,17 @@
 #include <algorithm>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QSignalBlocker>
 
 namespace tornel::okna {
 
 namespace {
+
+/// How well a row fits, from worst to best.
+enum Trafnosc { Wcale, Czesc, Poczatek, Cale };
+
+constexpr int kPrzyciskCzyszczenia = 3 * Wyglad::kSiatka + Wyglad::kSiatka / 2;
 
 QString bezZer(const QString& numer) {
     qsizetype i = 0;
@@ -30,6 +37,11 @@ PoleSzukania::PoleSzukania(WidokListy& lista, int kolumnaNumeru, int kolumnaNazw
     setClearButtonEnabled(true);
     setMinimumHeight(Wyglad::kWysokoscPola);
     connect(this, &QLineEdit::textChanged, this, &PoleSzukania::szukaj);
+    connect(&lista_, &WidokListy::filtrZdjety, this, [this] {
+        const QSignalBlocker cisza(this);
+        clear();
+        powiedz({});
+    });
     lista_.installEventFilter(this);
 }
 
@@ -59,33 +71,72 @@ void PoleSzukania::keyPressEvent(QKeyEvent* zdarzenie) {
         QCoreApplication::sendEvent(&lista_, zdarzenie);
         zdarzenie->accept(); // what the list passed on has already reached the window
         break;
+    case Qt::Key_Escape:
+        if (text().isEmpty()) return zdarzenie->ignore();
+        clear();
+        break;
     default:
         QLineEdit::keyPressEvent(zdarzenie);
     }
 }
 
-int PoleSzukania::znajdz(const QString& tekst) const {
-    const QAbstractItemModel& model = *lista_.model();
-    const bool numer = samCyfry(tekst);
-    const QString szukany = numer ? bezZer(tekst) : tekst;
-    int poczatek = -1;
-    int wSrodku = -1;
-    for (int i = 0; i < model.rowCount(); ++i) {
-        QString tu = model.index(i, numer ? kolumnaNumeru_ : kolumnaNazwiska_).data().toString();
-        if (numer) tu = bezZer(tu);
-        if (tu.compare(szukany, Qt::CaseInsensitive) == 0) return i;
-        if (poczatek < 0 && tu.startsWith(szukany, Qt::CaseInsensitive)) poczatek = i;
-        if (!numer && wSrodku < 0 && tu.contains(szukany, Qt::CaseInsensitive)) wSrodku = i;
+int PoleSzukania::trafnosc(const WierszListy& wiersz, const QString& szukany, bool numer) const {
+    if (numer) {
+        const QString tu = bezZer(wiersz.teksty.value(kolumnaNumeru_));
+        return tu == szukany ? Cale : tu.startsWith(szukany) ? Poczatek : Wcale;
     }
-    return poczatek >= 0 ? poczatek : wSrodku;
+    const QString tu = wiersz.teksty.value(kolumnaNazwiska_);
+    if (tu.compare(szukany, Qt::CaseInsensitive) == 0) return Cale;
+    if (tu.startsWith(szukany, Qt::CaseInsensitive)) return Poczatek;
+    return tu.contains(szukany, Qt::CaseInsensitive) ? Czesc : Wcale;
 }
 
 void PoleSzukania::szukaj(const QString& tekst) {
-    const int wiersz = tekst.trimmed().isEmpty() ? -1 : znajdz(tekst.trimmed());
+    const QString przyciety = tekst.trimmed();
+    if (przyciety.isEmpty()) {
+        lista_.filtruj({});
+        return powiedz({});
+    }
+    const bool numer = samCyfry(przyciety);
+    const QString szukany = numer ? bezZer(przyciety) : przyciety;
+    const int ile = lista_.filtruj(
+        [=, this](const WierszListy& wiersz) { return trafnosc(wiersz, szukany, numer) != Wcale; });
+    powiedz(ile == 0 ? QStringLiteral("nie znaleziono")
+                     : QStringLiteral("%1 z %2").arg(ile).arg(lista_.lista().wszystkie().size()));
+    if (ile == 0) return;
+    int najlepsza = Wcale;
+    qint64 id = -1;
+    for (int i = 0; i < lista_.lista().rowCount(); ++i) {
+        const int tu = trafnosc(lista_.lista().widoczny(i), szukany, numer);
+        if (tu <= najlepsza) continue;
+        najlepsza = tu;
+        id = lista_.lista().id(i);
+        if (tu == Cale) break;
+    }
+    lista_.wybierz(id);
+}
+
+void PoleSzukania::powiedz(const QString& wynik) {
+    wynik_ = wynik;
+    setAccessibleDescription(wynik);
     QFont pismo = font();
-    pismo.setStrikeOut(wiersz < 0 && !tekst.trimmed().isEmpty());
+    pismo.setStrikeOut(wynik == QLatin1String("nie znaleziono"));
     setFont(pismo);
-    if (wiersz >= 0) lista_.wybierz(lista_.lista().id(wiersz));
+    setTextMargins(0, 0, wynik.isEmpty() ? 0 : fontMetrics().horizontalAdvance(wynik) + Wyglad::kSiatka, 0);
+    update();
+}
+
+void PoleSzukania::paintEvent(QPaintEvent* zdarzenie) {
+    QLineEdit::paintEvent(zdarzenie);
+    if (wynik_.isEmpty()) return;
+    QPainter malarz(this);
+    QFont pismo = font();
+    pismo.setStrikeOut(false);
+    malarz.setFont(pismo);
+    malarz.setPen(palette().color(QPalette::PlaceholderText));
+    // To the left of the button that empties the field.
+    malarz.drawText(rect().adjusted(0, 0, -kPrzyciskCzyszczenia, 0), Qt::AlignRight | Qt::AlignVCenter,
+                    wynik_);
 }
 
 } // namespace tornel::okna

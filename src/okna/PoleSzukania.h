@@ -1,4 +1,4 @@
-// Quick find over a list of people: typing goes to the first row whose number or surname fits.
+// The filter over a list of people: as it is typed, only the rows whose number or surname fits are shown.
 #pragma once
 #include "common/Przestrzenie.h"
 #include <QLineEdit>
@@ -6,9 +6,11 @@
 namespace tornel::okna {
 
 class WidokListy;
+struct WierszListy;
 
-/// Takes over what is typed into the list; arrows and Enter pressed here act on the list. A text that fits no
-/// row leaves the list alone and is struck through.
+/// Takes over what is typed into the list; arrows and Enter pressed here act on the list, Escape empties it
+/// first. It tells how many rows fit, and chooses the one that fits best. A text that fits no row says so, is
+/// struck through and leaves the list alone.
 class PoleSzukania : public QLineEdit {
     Q_OBJECT
 public:
@@ -17,18 +19,23 @@ public:
 
     bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
 
+    /// "3 z 120", "nie znaleziono", or nothing for an empty text.
+    [[nodiscard]] const QString& wynik() const { return wynik_; }
+
 protected:
     void keyPressEvent(QKeyEvent* zdarzenie) override;
+    void paintEvent(QPaintEvent* zdarzenie) override;
 
 private:
     void szukaj(const QString& tekst);
-    /// The row that fits best: the very number, else the first that begins with the text, else the first that
-    /// contains it; -1 if none does.
-    [[nodiscard]] int znajdz(const QString& tekst) const;
+    void powiedz(const QString& wynik);
+    /// How well a row fits: 0 not at all, the very number best, then a beginning, then a part of the name.
+    [[nodiscard]] int trafnosc(const WierszListy& wiersz, const QString& szukany, bool numer) const;
 
     WidokListy& lista_;
     int kolumnaNumeru_;
     int kolumnaNazwiska_;
+    QString wynik_;
 };
 
 } // namespace tornel::okna

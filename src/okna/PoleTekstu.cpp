@@ -10,13 +10,27 @@ namespace {
 
 constexpr int kDlugoscDaty = 10;
 
-/// The typed text with dashes: "01072001" is cut behind day and month, "1/7" becomes "01-7".
+bool jestCyfra(QChar znak) { return znak >= QLatin1Char('0') && znak <= QLatin1Char('9'); }
+
+/// Whether the text may go on as a year: "19", "200", "2001", "2001-07". As a day and a month it goes on with
+/// a fifth digit.
+bool mozeBycRokiem(const QString& wpisany) {
+    const auto cyfr = std::ranges::find_if_not(wpisany, jestCyfra) - wpisany.begin();
+    if (cyfr < wpisany.size()) return cyfr == 4;
+    const QString wiek = wpisany.left(2);
+    return cyfr <= 4 &&
+           (wiek == QLatin1String("19") || wiek == QLatin1String("20") || wiek == QLatin1String("21"));
+}
+
+/// The typed text with dashes: "01072001" is cut behind day and month, "1/7" becomes "01-7". What may be a
+/// year in front stays as it is.
 QString zKreskami(const QString& wpisany) {
+    if (mozeBycRokiem(wpisany)) return MaskaDaty(wpisany);
     QString wynik;
     int wCzesci = 0;
     int czesci = 1;
     for (const QChar znak : wpisany) {
-        const bool cyfra = znak >= QLatin1Char('0') && znak <= QLatin1Char('9');
+        const bool cyfra = jestCyfra(znak);
         const bool kolejna = czesci < 3 && wCzesci > 0;
         if (kolejna && (!cyfra || wCzesci == 2)) {
             if (wCzesci == 1) wynik.insert(wynik.size() - 1, QLatin1Char('0'));
@@ -29,7 +43,7 @@ QString zKreskami(const QString& wpisany) {
         ++wCzesci;
     }
     if (czesci < 3 && wCzesci == 2) wynik += QLatin1Char('-');
-    return wynik.left(kDlugoscDaty);
+    return wynik;
 }
 
 } // namespace
@@ -65,7 +79,6 @@ void PoleTekstu::mouseReleaseEvent(QMouseEvent* zdarzenie) {
 }
 
 PoleDaty::PoleDaty(QWidget* rodzic) : PoleTekstu(rodzic) {
-    setMaxLength(kDlugoscDaty);
     connect(this, &QLineEdit::textEdited, this, &PoleDaty::maskuj);
     connect(this, &QLineEdit::textChanged, this, [this] { poprzednia_ = text().size(); });
 }

@@ -27,8 +27,8 @@ private:
     bool czekaNaPowrot_ = false; ///< the focus went to another window or a menu, the field was not left
 };
 
-/// A date as dd-mm-yyyy: day and month get their dashes while they are typed at the end, digits only
-/// otherwise. What is no date stays until the owner checks it on leaving.
+/// A date as dd-mm-yyyy: day and month get their dashes while they are typed at the end, unless a year may
+/// stand there ("2001-07-01" stays). What is no date stays until the owner checks it on leaving.
 class PoleDaty : public PoleTekstu {
     Q_OBJECT
 public:

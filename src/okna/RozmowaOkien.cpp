@@ -1,4 +1,5 @@
 #include "okna/RozmowaOkien.h"
+#include "okna/frmPytania.h"
 #include <limits>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -119,7 +120,8 @@ void RozmowaOkien::komunikat(const QString& tekst, Styl styl, const QString& tyt
     okno.exec();
 }
 
-bool RozmowaOkien::pytanie(const QString& tekst, const QString& tytul) {
+std::optional<bool> RozmowaOkien::zapytaj(const QString& tekst, const QString& tytul, Domyslny domyslny,
+                                          Wyjscie wyjscie) {
     const ZawieszenieKursora kursor;
     QMessageBox okno(nadCzym());
     przygotuj(okno, tekst, tytul);
@@ -128,10 +130,36 @@ bool RozmowaOkien::pytanie(const QString& tekst, const QString& tytul) {
         dodajPrzycisk(okno, QStringLiteral("&Tak"), QMessageBox::YesRole, QStringLiteral("cmdTak"));
     QPushButton* nie =
         dodajPrzycisk(okno, QStringLiteral("&Nie"), QMessageBox::NoRole, QStringLiteral("cmdNie"));
-    okno.setDefaultButton(tak);
-    okno.setEscapeButton(nie);
+    QPushButton* anuluj = wyjscie == Wyjscie::Nie
+                              ? nullptr
+                              : dodajPrzycisk(okno, QStringLiteral("&Anuluj"), QMessageBox::RejectRole,
+                                              QStringLiteral("cmdAnuluj"));
+    okno.setDefaultButton(domyslny == Domyslny::Tak ? tak : nie);
+    okno.setEscapeButton(anuluj ? anuluj : nie);
     okno.exec();
-    return okno.clickedButton() == tak;
+    if (okno.clickedButton() == tak) return true;
+    if (anuluj && okno.clickedButton() != nie) return std::nullopt;
+    return false;
+}
+
+bool RozmowaOkien::pytanie(const QString& tekst, const QString& tytul) {
+    return *zapytaj(tekst, tytul, Domyslny::Tak, Wyjscie::Nie);
+}
+
+bool RozmowaOkien::pytanieUsuwajace(const QString& tekst, const QString& tytul) {
+    return *zapytaj(tekst, tytul, Domyslny::Nie, Wyjscie::Nie);
+}
+
+std::optional<bool> RozmowaOkien::pytanieZAnulowaniem(const QString& tekst, const QString& tytul) {
+    return zapytaj(tekst, tytul, Domyslny::Tak, Wyjscie::Anuluj);
+}
+
+std::optional<QList<bool>> RozmowaOkien::pytania(const QString& tytul, const QList<PytanieAkcji>& pytania) {
+    if (pytania.isEmpty()) return QList<bool>();
+    const ZawieszenieKursora kursor;
+    frmPytania okno(tytul, pytania, nadCzym());
+    if (okno.exec() != QDialog::Accepted) return std::nullopt;
+    return okno.odpowiedzi();
 }
 
 std::optional<QString> RozmowaOkien::wprowadz(const QString& tekst, const QString& tytul,

@@ -16,6 +16,15 @@ public:
     void komunikat(const QString& tekst, Styl styl, const QString& tytul = domyslnyTytul()) override;
     /// Enter answers Yes, Escape and closing answer No.
     [[nodiscard]] bool pytanie(const QString& tekst, const QString& tytul = domyslnyTytul()) override;
+    /// Enter, Escape and closing answer No.
+    [[nodiscard]] bool pytanieUsuwajace(const QString& tekst,
+                                        const QString& tytul = domyslnyTytul()) override;
+    /// Enter answers Yes, Escape and closing cancel.
+    [[nodiscard]] std::optional<bool> pytanieZAnulowaniem(const QString& tekst,
+                                                          const QString& tytul = domyslnyTytul()) override;
+    /// All questions in one dialog (`frmPytania`).
+    [[nodiscard]] std::optional<QList<bool>> pytania(const QString& tytul,
+                                                     const QList<PytanieAkcji>& pytania) override;
     [[nodiscard]] std::optional<QString> wprowadz(const QString& tekst, const QString& tytul,
                                                   const QString& domyslna = {}) override;
     /// The window shows only if the work takes longer than 400 ms. Until then clicks wait; from then on the
@@ -23,6 +32,10 @@ public:
     [[nodiscard]] std::unique_ptr<Postep> postep(const QString& tytul, int ile) override;
 
 private:
+    enum class Domyslny { Tak, Nie };
+    enum class Wyjscie { Nie, Anuluj }; ///< what Escape and the window's cross are
+    [[nodiscard]] std::optional<bool> zapytaj(const QString& tekst, const QString& tytul, Domyslny domyslny,
+                                              Wyjscie wyjscie);
     [[nodiscard]] QWidget* nadCzym() const;
     std::function<QWidget*()> rodzic_;
 };

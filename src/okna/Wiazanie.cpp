@@ -2,6 +2,7 @@
 #include "common/Blad.h"
 #include "okna/Kontrolki.h"
 #include "okna/PoleTekstu.h"
+#include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
 #include "store/Recordset.h"
 #include <algorithm>
@@ -9,10 +10,13 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 #include <stdexcept>
+#include <utility>
 
 namespace tornel::okna {
 
@@ -106,7 +110,10 @@ void Wiazanie::dodaj(const Pole& pole, SiatkaPol& siatka) {
 
 void Wiazanie::podlacz(Kontrolka& k) {
     k.widzet->installEventFilter(this);
-    const auto zmiana = [this, &k] { emit zmienione(k.pole.nazwa); };
+    const auto zmiana = [this, &k] {
+        k.sprawdzona = false;
+        emit zmienione(k.pole.nazwa);
+    };
     // A click or a choice is a whole act: the field is changed and done with at once.
     const auto czyn = [this, &k] {
         emit zmienione(k.pole.nazwa);
@@ -133,19 +140,23 @@ bool Wiazanie::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
     case QEvent::FocusIn:
         // A field that a message took the focus from has not been left yet.
         if (wPracy_ && wPracy_ != &k) opusc(*wPracy_);
-        if (wPracy_ != &k) k.przyWejsciu = tekstKontrolki(*widzet);
+        if (wPracy_ != &k) {
+            k.przyWejsciu = tekstKontrolki(*widzet);
+            k.sprawdzona = false;
+        }
         wPracy_ = &k;
         break;
     case QEvent::FocusOut:
         if (wPracy_ == &k && opuszczaPole(static_cast<const QFocusEvent&>(*zdarzenie))) opusc(k);
         break;
-    case QEvent::Wheel:
-        // Scrolling over a screen must not change a choice under the pointer.
-        if (qobject_cast<QComboBox*>(obiekt) && !widzet->hasFocus()) {
-            zdarzenie->ignore();
-            return true;
-        }
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress: {
+        auto& klawisz = static_cast<QKeyEvent&>(*zdarzenie);
+        if (!klawisz.matches(QKeySequence::Undo) || !k.przedZmiana) break;
+        if (zdarzenie->type() == QEvent::KeyPress) return cofnij(k);
+        klawisz.accept();
         break;
+    }
     default:
         break;
     }
@@ -158,18 +169,61 @@ void Wiazanie::pokazTekst(Kontrolka& k, const QString& tekst) {
     k.przyWejsciu = k.wczytany;
 }
 
+void Wiazanie::zapomnij(Kontrolka& k) {
+    k.przedZmiana.reset();
+    powiedz(k, {});
+}
+
 void Wiazanie::opusc(Kontrolka& k) {
     if (wPracy_ == &k) wPracy_ = nullptr;
     const QString bylo = k.przyWejsciu;
-    QString tekst = uporzadkuj(k.pole, tekstKontrolki(*k.widzet));
+    const QString wpisany = tekstKontrolki(*k.widzet);
+    // A text that nobody touched stays as it is, whatever the field would make of it.
+    const bool wpisano = wpisany != bylo;
+    QString uwaga = wpisano ? nieZrozumiano(k.pole, wpisany) : QString();
+    QString tekst = wpisano ? uporzadkuj(k.pole, wpisany) : bylo;
+    const bool sprawdzona = std::exchange(k.sprawdzona, true);
+    if (k.sprawdzenie && (wpisano || !sprawdzona)) {
+        const Sprawdzony sprawdzony = k.sprawdzenie(tekst, bylo);
+        tekst = sprawdzony.tekst;
+        if (uwaga.isEmpty()) uwaga = sprawdzony.uwaga;
+    }
     k.przyWejsciu = tekst;
-    if (k.sprawdzenie && tekst != bylo) k.przyWejsciu = tekst = k.sprawdzenie(tekst, bylo);
     if (tekst != tekstKontrolki(*k.widzet)) wpiszDoKontrolki(*k.widzet, tekst);
-    if (tekst != bylo) emit opuszczone(k.pole.nazwa);
+    if (!uwaga.isEmpty() && !bylo.isEmpty() && bylo != tekst)
+        uwaga += QStringLiteral(" Ctrl+Z przywraca %1.").arg(bylo);
+    if (wpisano || !uwaga.isEmpty()) powiedz(k, uwaga);
+    if (tekst == bylo) return;
+    k.przedZmiana = bylo;
+    if (!wpisano) emit zmienione(k.pole.nazwa); // the check's doing
+    const QScopedValueRollback mowi(mowiOOpuszczeniu_, true);
+    emit opuszczone(k.pole.nazwa);
+}
+
+void Wiazanie::powiedz(Kontrolka& k, const QString& uwaga) {
+    if (uwaga.isEmpty() && !k.zUwaga) return;
+    k.zUwaga = !uwaga.isEmpty();
+    UwagaPola::ustaw(*k.widzet, uwaga);
+    if (!k.zUwaga) return;
+    wlasnieNieZrozumiano_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { wlasnieNieZrozumiano_ = false; }, Qt::QueuedConnection);
+}
+
+bool Wiazanie::cofnij(Kontrolka& k) {
+    const auto* linia = qobject_cast<QLineEdit*>(k.widzet);
+    // What is being typed the field undoes by itself.
+    if (!linia || linia->isReadOnly() || linia->isUndoAvailable()) return false;
+    const QString tekst = *k.przedZmiana;
+    zapomnij(k);
+    wpiszDoKontrolki(*k.widzet, tekst);
+    k.sprawdzona = false;
+    emit zmienione(k.pole.nazwa);
+    return true;
 }
 
 void Wiazanie::zakoncz() {
-    if (!wPracy_) return;
+    if (!wPracy_ || tekstKontrolki(*wPracy_->widzet) == wPracy_->przyWejsciu) return;
     Kontrolka& k = *wPracy_;
     opusc(k);
     if (!k.widzet->hasFocus() || wPracy_) return;
@@ -177,7 +231,7 @@ void Wiazanie::zakoncz() {
     if (auto* linia = qobject_cast<QLineEdit*>(k.widzet)) ZaznaczTekst(*linia);
 }
 
-void Wiazanie::wczytaj() {
+void Wiazanie::pokazWszystkie() {
     for (Kontrolka& k : kontrolki_) {
         pokazTekst(k, tekstWartosci(k.pole, zrodlo_.czytaj(k.pole)));
         if (auto* linia = qobject_cast<QLineEdit*>(k.widzet); linia && linia->hasFocus())
@@ -185,8 +239,19 @@ void Wiazanie::wczytaj() {
     }
 }
 
+void Wiazanie::wczytaj() {
+    if (!mowiOOpuszczeniu_)
+        for (Kontrolka& k : kontrolki_) zapomnij(k);
+    pokazWszystkie();
+}
+
+void Wiazanie::odswiez() { pokazWszystkie(); }
+
 void Wiazanie::czysc() {
-    for (Kontrolka& k : kontrolki_) pokazTekst(k, tekstWartosci(k.pole, Null));
+    for (Kontrolka& k : kontrolki_) {
+        zapomnij(k);
+        pokazTekst(k, tekstWartosci(k.pole, Null));
+    }
 }
 
 bool Wiazanie::zmieniona(const Kontrolka& k) const {

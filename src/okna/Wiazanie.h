@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <QHash>
 #include <QObject>
 #include <vector>
@@ -45,14 +46,25 @@ private:
 
 /// The fields of one screen. A name that no field has throws `std::out_of_range`.
 ///
+/// A field that could not take what was typed says so beside itself until its next good value. Undo (Ctrl+Z)
+/// in a field that was left brings back what it held before, also when that was stored at once.
+///
 /// A value goes back to its source only if its field was changed, so what a field cannot show (the third and
 /// fourth decimal, null against 0) stays as it was stored.
 class Wiazanie : public QObject {
     Q_OBJECT
 public:
-    /// What a field does beyond its kind when it is left after a change: takes the new text and the one it
-    /// held on entry, gives the text to show.
-    using Sprawdzenie = std::function<QString(const QString& tekst, const QString& przyWejsciu)>;
+    /// What a check makes of a text: the text to show, and what the field says beside it of the one that it
+    /// did not take; empty for nothing.
+    struct Sprawdzony {
+        Sprawdzony(const QString& doPokazania, const QString& zdanie = {})
+            : tekst(doPokazania), uwaga(zdanie) {}
+        QString tekst;
+        QString uwaga;
+    };
+    /// What a field does beyond its kind when it is left, also when nothing was typed: takes the text and the
+    /// one it held on entry.
+    using Sprawdzenie = std::function<Sprawdzony(const QString& tekst, const QString& przyWejsciu)>;
 
     explicit Wiazanie(ZrodloPol& zrodlo, QObject* rodzic = nullptr);
 
@@ -62,14 +74,22 @@ public:
     /// The same without frame and title.
     QWidget* siatka(const QList<Pole>& pola, int kolumn = 1, BezPodpisu bezPodpisu = BezPodpisu::PodPolami);
 
-    /// Shows the source's values. What was typed and not collected is dropped.
+    /// Shows the source's values as of another row: what was typed and not collected, what fields said of it
+    /// and what undo would bring back is dropped.
     void wczytaj();
+    /// Shows the source's values anew after they were computed or stored: what fields say and undo stay. A
+    /// handler of `opuszczone` that calls `wczytaj` gets this too.
+    void odswiez();
     /// Empties all fields, as for a list without rows; nothing counts as changed.
     void czysc();
     /// Leaves the field in work, then writes all changed fields to the source.
     void zbierz();
-    /// Does for the field in work what leaving it does: a mnemonic or Enter acts without the focus moving.
+    /// Does for the field in work, if something was typed into it, what leaving it does: a mnemonic or Enter
+    /// acts without the focus moving.
     void zakoncz();
+    /// Whether a field has had to say what it did not take only just now, in the same act of the clerk: what
+    /// shows the fields must stay then, or nobody could read it.
+    [[nodiscard]] bool wlasnieNieZrozumiano() const { return wlasnieNieZrozumiano_; }
     [[nodiscard]] bool jestZmiana() const;
     /// Locks or opens all fields that can be typed into.
     void blokuj(bool zablokowane);
@@ -112,13 +132,20 @@ private:
         int miejsce = 0;
         QString wczytany;
         QString przyWejsciu;
+        std::optional<QString> przedZmiana; ///< what undo brings back
         Sprawdzenie sprawdzenie;
+        bool sprawdzona = false; ///< since it was entered or last typed into
+        bool zUwaga = false;
     };
 
     void dodaj(const Pole& pole, SiatkaPol& siatka);
     void podlacz(Kontrolka& k);
     void pokazTekst(Kontrolka& k, const QString& tekst);
+    void pokazWszystkie();
+    void zapomnij(Kontrolka& k);
     void opusc(Kontrolka& k);
+    void powiedz(Kontrolka& k, const QString& uwaga);
+    [[nodiscard]] bool cofnij(Kontrolka& k);
     [[nodiscard]] bool zmieniona(const Kontrolka& k) const;
     [[nodiscard]] Kontrolka& znajdz(const QString& nazwa) const;
 
@@ -127,6 +154,8 @@ private:
     QHash<QString, Kontrolka*> poNazwie_;
     QHash<QObject*, Kontrolka*> poWidzecie_;
     Kontrolka* wPracy_ = nullptr; ///< has the focus and may hold a text that is not yet in order
+    bool mowiOOpuszczeniu_ = false;
+    bool wlasnieNieZrozumiano_ = false;
 };
 
 } // namespace tornel::okna

@@ -1,10 +1,14 @@
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
 #include <algorithm>
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QPainter>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
 
 namespace tornel::okna {
 
@@ -22,20 +26,113 @@ WidokListy::WidokListy(QList<KolumnaListy> kolumny, QList<int> udzialy, QWidget*
     header()->setSectionsMovable(false);
     header()->setHighlightSections(false);
     header()->setTextElideMode(Qt::ElideMiddle);
+    header()->setSortIndicatorClearable(true);
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    ustawRole(RolaListy::Lista);
+    connect(header(), &QHeaderView::sortIndicatorChanged, &model_, &ListaModel::sort);
+    connect(header(), &QHeaderView::sectionResized, this, &WidokListy::przyjmijSzerokosc);
+    connect(&model_, &ListaModel::layoutChanged, this, [this] { scrollTo(currentIndex()); });
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& indeks) { emit wejscie(model_.id(indeks.row())); });
 }
 
+void WidokListy::ustawRole(RolaListy rola) {
+    rola_ = rola;
+    const bool lista = rola == RolaListy::Lista;
+    header()->setSectionsClickable(lista);
+    header()->setSortIndicatorShown(lista);
+}
+
 void WidokListy::ustaw(QList<WierszListy> wiersze, qint64 id) {
+    const QList<qint64> zaznaczone =
+        selectionMode() == QAbstractItemView::SingleSelection ? QList<qint64>() : zaznaczeni();
     model_.ustaw(std::move(wiersze));
+    if (model_.filtrowana() && (model_.rowCount() == 0 || model_.wiersz(id) < 0)) zdejmijFiltr();
     if (model_.rowCount() == 0) return;
     if (!wybierz(id)) setCurrentIndex(model_.index(0, 0));
+    if (id >= 0) zaznacz(zaznaczone);
+}
+
+void WidokListy::zdejmijFiltr() {
+    model_.filtruj({});
+    emit filtrZdjety();
+}
+
+void WidokListy::zaznacz(const QList<qint64>& numery) {
+    QItemSelection zaznaczenie;
+    for (const qint64 id : numery)
+        if (const int nr = model_.wiersz(id); nr >= 0)
+            zaznaczenie.append({model_.index(nr, 0), model_.index(nr, model_.columnCount() - 1)});
+    selectionModel()->select(zaznaczenie, QItemSelectionModel::Select);
+}
+
+int WidokListy::filtruj(const ListaModel::Warunek& warunek) {
+    const int ile = warunek ? model_.ilePasuje(warunek) : static_cast<int>(model_.wszystkie().size());
+    if (ile == 0) return 0;
+    const qint64 id = wybrany();
+    model_.filtruj(warunek);
+    ustawBiezacy(id);
+    return ile;
+}
+
+void WidokListy::ustawBiezacy(qint64 id) {
+    const int nr = model_.wiersz(id);
+    if (nr < 0) return;
+    const QSignalBlocker cisza(this); // the same row as before
+    setCurrentIndex(model_.index(nr, 0));
+}
+
+void WidokListy::sortuj(int kolumna, Qt::SortOrder kierunek) {
+    header()->setSortIndicator(kolumna, kierunek);
+}
+
+void WidokListy::sortujKolejno(int kolumna) {
+    if (kolumna >= model_.columnCount()) return;
+    const bool taSama = header()->sortIndicatorSection() == kolumna;
+    if (taSama && header()->sortIndicatorOrder() == Qt::DescendingOrder)
+        return sortuj(-1, Qt::AscendingOrder);
+    sortuj(kolumna, taSama ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+QString WidokListy::zaznaczoneJakoTekst() const {
+    QList<int> wiersze;
+    for (const QItemSelectionRange& zakres : selectionModel()->selection())
+        for (int i = zakres.top(); i <= zakres.bottom(); ++i) wiersze.append(i);
+    std::ranges::sort(wiersze);
+    if (wiersze.isEmpty()) return {};
+    const int kolumn = model_.columnCount();
+    QStringList naglowki;
+    for (int k = 0; k < kolumn; ++k)
+        naglowki.append(model_.headerData(k, Qt::Horizontal, Qt::DisplayRole).toString());
+    QStringList linie{naglowki.join(QLatin1Char('\t'))};
+    for (const int i : std::as_const(wiersze)) {
+        QStringList teksty;
+        for (int k = 0; k < kolumn; ++k) {
+            // A break inside a text would break the table.
+            QString tekst = model_.data(model_.index(i, k), Qt::DisplayRole).toString();
+            for (const char16_t znak : {u'\t', u'\r', u'\n'}) tekst.replace(QChar(znak), QLatin1Char(' '));
+            teksty.append(tekst);
+        }
+        linie.append(teksty.join(QLatin1Char('\t')));
+    }
+    return linie.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
+void WidokListy::kopiuj() const {
+    if (const QString tekst = zaznaczoneJakoTekst(); !tekst.isEmpty())
+        QApplication::clipboard()->setText(tekst);
+}
+
+qint64 WidokListy::sasiad(qint64 id) const {
+    const int nr = model_.wiersz(id);
+    if (nr < 0) return -1;
+    return model_.id(nr + 1 < model_.rowCount() ? nr + 1 : nr - 1);
 }
 
 bool WidokListy::wybierz(qint64 id) {
-    const int nr = model_.wiersz(id);
-    if (nr < 0) return false;
-    setCurrentIndex(model_.index(nr, 0));
+    if (!model_.zawiera(id)) return false;
+    if (model_.wiersz(id) < 0) zdejmijFiltr();
+    setCurrentIndex(model_.index(model_.wiersz(id), 0));
     return true;
 }
 
@@ -67,11 +164,26 @@ void WidokListy::keyPressEvent(QKeyEvent* zdarzenie) {
         emit wejscie(wybrany());
         return;
     }
+    const bool lista = rola_ == RolaListy::Lista;
+    const int klawisz = zdarzenie->key();
+    if (lista && zdarzenie->matches(QKeySequence::Copy)) return kopiuj();
+    if (lista && zdarzenie->matches(QKeySequence::SelectAll) && model_.rowCount() > 0)
+        return selectionModel()->select(
+            {model_.index(0, 0), model_.index(model_.rowCount() - 1, model_.columnCount() - 1)},
+            QItemSelectionModel::Select);
+    if (lista && zdarzenie->modifiers() == Qt::ControlModifier && klawisz >= Qt::Key_1 &&
+        klawisz <= Qt::Key_9)
+        return sortujKolejno(klawisz - Qt::Key_1);
     QTreeView::keyPressEvent(zdarzenie);
 }
 
 void WidokListy::resizeEvent(QResizeEvent* zdarzenie) {
     QTreeView::resizeEvent(zdarzenie);
+    rozlozKolumny();
+}
+
+void WidokListy::rozlozKolumny() {
+    const QScopedValueRollback rozklada(rozklada_, true);
     const int ostatnia = model_.columnCount() - 1;
     int reszta = viewport()->width();
     for (int k = 0; k < ostatnia && k < udzialy_.size(); ++k) {
@@ -81,6 +193,20 @@ void WidokListy::resizeEvent(QResizeEvent* zdarzenie) {
     }
     // The header stretches its last section only when it grows, not when the others do.
     if (udzialy_.size() >= ostatnia) setColumnWidth(ostatnia, reszta);
+}
+
+void WidokListy::przyjmijSzerokosc() {
+    // Sections change by themselves too while the list is being built and laid out.
+    if (rozklada_ || !isVisible() || viewport()->width() <= 0) return;
+    if (!header()->underMouse() && !header()->hasFocus()) return;
+    for (int k = 0; k < udzialy_.size(); ++k) udzialy_[k] = columnWidth(k) * 100 / viewport()->width();
+}
+
+void WidokListy::ustawUdzialy(const QList<int>& udzialy) {
+    const bool zaWaska = std::ranges::any_of(udzialy, [](int udzial) { return udzial < 1; });
+    if (udzialy.size() != udzialy_.size() || zaWaska) return;
+    udzialy_ = udzialy;
+    rozlozKolumny();
 }
 
 void WidokListy::paintEvent(QPaintEvent* zdarzenie) {

@@ -167,6 +167,9 @@ QPushButton[doPrzeliczenia="true"], QToolButton[doPrzeliczenia="true"] { backgro
 QLineEdit[obliczane="true"], QPlainTextEdit[obliczane="true"] { background: palette(alternate-base);
     border: 1px solid palette(alternate-base); border-radius: 2px; padding: 1px 0;
     min-height: 22px; }
+QLineEdit[blad="true"] { border: 2px solid rgb(198,40,40); border-radius: 2px; padding: 0 1px; min-height: 22px; }
+QLabel[uwagaPola="true"] { background: rgb(255,235,238); color: rgb(136,14,14); border: 1px solid rgb(198,40,40);
+                           border-radius: 3px; padding: 3px 6px; }
 QLineEdit[glowne="true"] { font-weight: bold; }
 QLabel[baner="true"] { background: palette(highlight); color: palette(highlighted-text); padding: 6px 8px;
                        border-radius: 4px; }
@@ -266,6 +269,8 @@ void oznaczDoPrzeliczenia(QAbstractButton& przycisk, bool doPrzeliczenia) {
 }
 
 void oznaczObliczane(QWidget& pole) { oznacz(pole, "obliczane", true); }
+
+void oznaczBlad(QWidget& pole, bool blad) { oznacz(pole, "blad", blad); }
 
 void oznaczGlowne(QWidget& pole) { oznacz(pole, "glowne", true); }
 

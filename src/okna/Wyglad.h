@@ -39,6 +39,9 @@ void oznaczDoPrzeliczenia(QAbstractButton& przycisk, bool doPrzeliczenia);
 /// Marks a field as computed: it looks unlike one that is typed into.
 void oznaczObliczane(QWidget& pole);
 
+/// Frames a field that did not understand what was typed into it, or takes the frame off.
+void oznaczBlad(QWidget& pole, bool blad);
+
 /// Marks a field as one of the few amounts that the eye looks for first.
 void oznaczGlowne(QWidget& pole);
 

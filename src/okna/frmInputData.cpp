@@ -1,8 +1,10 @@
 #include "okna/frmInputData.h"
 #include "common/Daty.h"
+#include "okna/Pole.h"
 #include "okna/PoleMiesiaca.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
+#include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
 #include <QFormLayout>
 #include <QPushButton>
@@ -11,8 +13,7 @@
 namespace tornel::okna {
 
 frmInputData::frmInputData(Tryb tryb, const QString& tytul, QDate wstepna, QWidget* rodzic)
-    : QDialog(rodzic), tryb_(tryb) {
-    setObjectName(QStringLiteral("frmInputData"));
+    : Okno(QStringLiteral("frmInputData"), rodzic), tryb_(tryb) {
     setWindowTitle(tytul);
     setMinimumWidth(40 * Wyglad::kSiatka);
     auto* uklad = new QVBoxLayout(this);
@@ -40,12 +41,15 @@ QWidget* frmInputData::polaDaty(QDate wstepna) {
 
 QDate frmInputData::data() const {
     if (tryb_ == Tryb::Miesiac) return miesiac_->pierwszyDzien();
-    return CzytajDate(SprawdzDate(dtData_->text())).value_or(QDate());
+    return CzytajWpisanaDate(dtData_->text()).value_or(QDate());
 }
 
 void frmInputData::accept() {
     if (!data().isValid()) {
         // As on leaving any date field: what is no date is taken away, and the dialog waits for one.
+        UwagaPola::ustaw(*dtData_,
+                         nieZrozumiano({.nazwa = {}, .podpis = {}, .kolumna = {}, .rodzaj = Rodzaj::Data},
+                                       dtData_->text()));
         dtData_->clear();
         dtData_->setFocus();
         return;

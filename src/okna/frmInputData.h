@@ -1,15 +1,15 @@
 // Asks for a month or for a day.
 #pragma once
 #include "common/Przestrzenie.h"
+#include "okna/Okno.h"
 #include <QDate>
-#include <QDialog>
 
 namespace tornel::okna {
 
 class PoleDaty;
 class PoleMiesiaca;
 
-class frmInputData : public QDialog {
+class frmInputData : public Okno {
     Q_OBJECT
 public:
     enum class Tryb { Miesiac, Data };

@@ -1,20 +1,17 @@
 #include "okna/frmListaPol.h"
-#include "common/Blad.h"
 #include "common/Rozmowa.h"
-#include "okna/Aplikacja.h"
 #include "okna/PoleSzukania.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
 #include <algorithm>
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QShortcut>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 namespace tornel::okna {
@@ -29,18 +26,16 @@ constexpr int kNajmniejszaWysokosc = 50 * Wyglad::kSiatka;
 
 frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
                          QWidget* rodzic)
-    : QDialog(rodzic), rozmowa_(rozmowa), zrodlo_(std::move(zrodlo)), wiazanie_(*zrodlo_),
-      lvwLista_(new WidokListy(opis.kolumny, opis.udzialy)), labZmiana_(new QLabel),
+    : OknoEdycji(opis.nazwa, rozmowa, Zamykanie::Zapis, rodzic), zrodlo_(std::move(zrodlo)),
+      wiazanie_(*zrodlo_), lvwLista_(new WidokListy(opis.kolumny, opis.udzialy)), labZmiana_(new QLabel),
       cmdNowy_(przycisk(QStringLiteral("cmdNowy"), opis.nowy, u"nowy")),
       cmdUsun_(przycisk(QStringLiteral("cmdUsun"), opis.usun, u"usun")),
       cmdAnuluj_(przycisk(QStringLiteral("cmdAnuluj"), opis.powrot, u"powrot")) {
-    setObjectName(opis.nazwa);
     setWindowTitle(opis.tytul);
     auto* uklad = new QVBoxLayout(this);
-    auto* srodek = new QHBoxLayout;
-    srodek->addWidget(lewaStrona(opis));
-    srodek->addWidget(prawaStrona(opis), 1);
-    uklad->addLayout(srodek, 1);
+    uklad->addWidget(
+        dzielnik(lewaStrona(opis), opis.szerokosc > 0 ? opis.szerokosc : kSzerokoscListy, prawaStrona(opis)),
+        1);
     uklad->addWidget(dol());
     budujSkroty();
     resize(kSzerokosc, std::max(kNajmniejszaWysokosc, sizeHint().height()));
@@ -49,8 +44,6 @@ frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, co
     connect(lvwLista_, &WidokListy::wejscie, this, &frmListaPol::doPierwszegoPola);
     connect(&wiazanie_, &Wiazanie::zmienione, this, &frmListaPol::pokazZmiane);
     connect(&wiazanie_, &Wiazanie::opuszczone, this, &frmListaPol::pokazZmiane);
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
-        connect(program, &Aplikacja::danePrzeczytane, this, &frmListaPol::pokazPonownie);
 }
 
 frmListaPol::~frmListaPol() = default;
@@ -64,7 +57,6 @@ QWidget* frmListaPol::lewaStrona(const OpisListyPol& opis) {
     txtSzukaj_ = new PoleSzukania(*lvwLista_, opis.kolumnaNumeru, opis.kolumnaNazwy);
     txtSzukaj_->setPlaceholderText(opis.szukaj);
     auto* lewa = new QWidget;
-    lewa->setFixedWidth(opis.szerokosc > 0 ? opis.szerokosc : kSzerokoscListy);
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(txtSzukaj_);
@@ -177,9 +169,14 @@ void frmListaPol::Wypisz(qint64 id) {
     pokazZmiane();
 }
 
-bool frmListaPol::Wpisz() {
+bool frmListaPol::zakonczWpisywanie() {
     wiazanie_.zakoncz();
-    if (biezacy_ < 0 || !wiazanie_.jestZmiana()) return true;
+    return biezacy_ < 0 || !wiazanie_.wlasnieNieZrozumiano();
+}
+
+bool frmListaPol::Wpisz() {
+    if (!zakonczWpisywanie()) return false;
+    if (!jestZmiana()) return true;
     QHash<QString, QString> wpisane;
     for (const QString& pole : pola_) wpisane.insert(pole, wiazanie_.tekst(pole));
     try {
@@ -215,9 +212,8 @@ void frmListaPol::pokazPonownie() {
 }
 
 void frmListaPol::pokazZmiane() {
-    labZmiana_->setText(biezacy_ >= 0 && wiazanie_.jestZmiana()
-                            ? QStringLiteral("●  Zmieniono. Zapis nastąpi przy opuszczeniu pozycji.")
-                            : QString());
+    labZmiana_->setText(jestZmiana() ? QStringLiteral("●  Zmieniono. Zapis nastąpi przy opuszczeniu pozycji.")
+                                     : QString());
 }
 
 void frmListaPol::doPierwszegoPola() {
@@ -242,40 +238,8 @@ void frmListaPol::nowy() {
 
 void frmListaPol::usun() {
     if (biezacy_ < 0) return;
-    const ListaModel& lista = lvwLista_->lista();
-    const int wiersz = lista.wiersz(biezacy_);
-    const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
+    const qint64 sasiad = lvwLista_->sasiad(biezacy_);
     if (skasuj(biezacy_)) Wczytaj(sasiad);
-}
-
-// --- closing and keys
-// --------------------------------------------------------------------------------------------
-
-void frmListaPol::done(int wynik) {
-    try {
-        if (!Wpisz()) return;
-    } catch (const Blad& blad) {
-        if (!rozmowa_.pytanie(blad.komunikat() +
-                              QStringLiteral("\r\n\r\nCzy zamknąć okno bez zapisania zmian ?")))
-            return;
-    }
-    QDialog::done(wynik);
-}
-
-void frmListaPol::closeEvent(QCloseEvent* zdarzenie) {
-    // Refused in advance: should the row not be stored, the screen has to stay.
-    zdarzenie->ignore();
-    reject();
-    zdarzenie->setAccepted(!isVisible());
-}
-
-void frmListaPol::keyPressEvent(QKeyEvent* zdarzenie) {
-    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
-    if (!enter) return QDialog::keyPressEvent(zdarzenie);
-    if (auto* cmd = qobject_cast<QPushButton*>(focusWidget()))
-        cmd->click();
-    else
-        focusNextChild();
 }
 
 } // namespace tornel::okna

@@ -2,10 +2,10 @@
 #pragma once
 #include "common/Rozmowa.h"
 #include "okna/ListaModel.h"
+#include "okna/Okno.h"
 #include "okna/Wiazanie.h"
 #include <memory>
 #include <optional>
-#include <QDialog>
 
 class QLabel;
 class QPushButton;
@@ -41,18 +41,14 @@ struct OpisListyPol {
 };
 
 /// A changed row is stored before it is left and before the screen closes. Keys: Insert a new row, Delete in
-/// the list deletes with a question, Ctrl+F or typing in the list finds, Enter goes to the next field, Escape
-/// closes.
+/// the list deletes with a question, Ctrl+F or typing in the list filters, Enter goes to the next field,
+/// Escape closes.
 ///
 /// A screen gives the functions below and calls `Wczytaj` at the end of its constructor.
-class frmListaPol : public QDialog {
+class frmListaPol : public OknoEdycji {
     Q_OBJECT
 public:
     ~frmListaPol() override;
-
-    /// Stores the row first. The screen stays open if that is refused; if it fails, the clerk is told why and
-    /// asked whether to close without storing.
-    void done(int wynik) override;
 
 protected:
     frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
@@ -77,17 +73,20 @@ protected:
 
     /// Fills the list and shows row `id`, else the first. What was typed and not stored is dropped.
     void Wczytaj(qint64 id = -1);
-    /// Stores the row shown if something was changed. False if it was refused; on a failure the exception
-    /// passes through. In both cases the fields keep what was typed.
+    /// Stores the row shown if something was changed. False if it was refused, or if a field has just had to
+    /// say that it did not understand what was typed; on a failure the exception passes through. In all these
+    /// cases the fields keep what was typed.
     bool Wpisz();
     [[nodiscard]] qint64 biezacy() const { return biezacy_; }
     [[nodiscard]] Wiazanie& wiazanie() { return wiazanie_; }
-    [[nodiscard]] Rozmowa& rozmowa() { return rozmowa_; }
     /// Puts a widget below the frames of the fields.
     void dodaj(QWidget* widzet);
 
-    void closeEvent(QCloseEvent* zdarzenie) override;
-    void keyPressEvent(QKeyEvent* zdarzenie) override;
+    [[nodiscard]] bool zakonczWpisywanie() override;
+    [[nodiscard]] bool jestZmiana() const override { return biezacy_ >= 0 && wiazanie_.jestZmiana(); }
+    [[nodiscard]] bool zapiszZmiany() override { return Wpisz(); }
+    void porzucZmiany() override { porzuc(); }
+    void pokazPonownie() override;
 
 private:
     [[nodiscard]] QWidget* lewaStrona(const OpisListyPol& opis);
@@ -97,13 +96,11 @@ private:
     void wybierzWiersz(qint64 id);
     void Wypisz(qint64 id);
     void przywroc(const QHash<QString, QString>& wpisane);
-    void pokazPonownie();
     void pokazZmiane();
     void doPierwszegoPola();
     void nowy();
     void usun();
 
-    Rozmowa& rozmowa_;
     std::unique_ptr<ZrodloPol> zrodlo_;
     Wiazanie wiazanie_;
     QStringList pola_; ///< names of the fields that can be typed into

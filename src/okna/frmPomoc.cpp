@@ -68,9 +68,8 @@ QPushButton* przyciskPaska(QDialog& okno, const QString& nazwa, const QString& n
 } // namespace
 
 frmPomoc::frmPomoc(const QString& podrecznik, QWidget* rodzic)
-    : QDialog(rodzic), txtSzukaj_(new QLineEdit), labSzukaj_(new QLabel), lstSpis_(new QTreeWidget),
-      txtPomoc_(new TekstPomocy) {
-    setObjectName(QStringLiteral("frmPomoc"));
+    : Okno(QStringLiteral("frmPomoc"), rodzic), txtSzukaj_(new QLineEdit), labSzukaj_(new QLabel),
+      lstSpis_(new QTreeWidget), txtPomoc_(new TekstPomocy) {
     setWindowTitle(QStringLiteral("Pomoc"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     buduj();

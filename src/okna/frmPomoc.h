@@ -1,7 +1,7 @@
 // The handbook: its contents at the left, its text with search at the right.
 #pragma once
 #include "common/Przestrzenie.h"
-#include <QDialog>
+#include "okna/Okno.h"
 #include <QHash>
 #include <QTextDocument>
 
@@ -16,7 +16,7 @@ namespace tornel::okna {
 
 /// Never modal: the screen below it stays in work. Keys: Ctrl+F finds, Enter or F3 the next place, Shift+F3
 /// the one before, Alt+Left and Alt+Right go through the pages read, Escape closes.
-class frmPomoc : public QDialog {
+class frmPomoc : public Okno {
     Q_OBJECT
 public:
     /// `podrecznik`: HTML. Headings of the first three levels that have an id make the contents: chapters,

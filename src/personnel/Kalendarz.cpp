@@ -154,14 +154,14 @@ bool Kalendarz::Usun(const MiesiacKalendarza& miesiac) {
             ? QStringLiteral("Czy na pewno chcesz usunąć miesiąc z listy dni wolnych ?")
             : QStringLiteral(
                   "Czy na pewno chcesz usunąć miesiąc z listy dni wolnych dla wybranego pracownika ?");
-    if (!o_.rozmowa.pytanie(pytanie)) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(pytanie)) return false;
     rs.Delete();
     rs.UpdateBatch(QStringLiteral("Usunięcie dni wolnych %1").arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
     return true;
 }
 
 bool Kalendarz::UsunPracownika(qint64 prcId) {
-    if (!o_.rozmowa.pytanie(
+    if (!o_.rozmowa.pytanieUsuwajace(
             QStringLiteral("Czy na pewno chcesz usunąć wszystkie miesiące z listy dni wolnych "
                            "dla wybranego pracownika ?")))
         return false;

@@ -152,7 +152,7 @@ void KartotekaPracownika::Porzuc() {
 }
 
 bool KartotekaPracownika::Anuluj() {
-    if (!o_.rozmowa.pytanie(QStringLiteral("Czy anulować wporwadzone zmiany ?"))) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(QStringLiteral("Czy anulować wporwadzone zmiany ?"))) return false;
     for (auto wpis = dziennik_.begin(); wpis != dziennik_.end();) {
         const auto& [klucz, zmiana] = *wpis;
         Recordset& rs = *tabele_[klucz.tabela];

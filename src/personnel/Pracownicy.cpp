@@ -200,7 +200,8 @@ void Pracownicy::dodajRekordy(const DaneNowegoPracownika& dane, int oiZua) {
 
 bool Pracownicy::UsunPracownika(qint64 prcId) {
     if (!istnieje(prcId)) throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
-    if (!o_.rozmowa.pytanie(QStringLiteral("Czy na pewno usunąć wybranego pracownika ?"))) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(QStringLiteral("Czy na pewno usunąć wybranego pracownika ?")))
+        return false;
 
     Sesja& s = o_.sesja;
     Recordset rodzina(schemat::RODZINA);
@@ -216,7 +217,7 @@ bool Pracownicy::UsunPracownika(qint64 prcId) {
         QStringLiteral(
             "Upewnij się czy usuwany pracownik nie jest wpisany na liscie plac lub dni wolnych itp. ") +
         QStringLiteral("Czy kontynuować ?");
-    if (!o_.rozmowa.pytanie(ostrzezenie, QStringLiteral("Ostrzeżenie !"))) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(ostrzezenie, QStringLiteral("Ostrzeżenie !"))) return false;
 
     Transakcja transakcja(s.cnPlace, QStringLiteral("Usunięcie pracownika nr %1").arg(prcId));
     while (rodzina.RecordCount() > 0) {

@@ -68,7 +68,7 @@ void RejestrNieobecnosci::Wpisz() {
 }
 
 bool RejestrNieobecnosci::Usun() {
-    if (!o_.rozmowa.pytanie(teksty_.usunac.toString())) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(teksty_.usunac.toString())) return false;
     try {
         uchwyt_.Delete();
         uchwyt_.UpdateBatch(u"Usunięcie z rejestru nieobecności");

@@ -1,8 +1,10 @@
 #include "personnel/frmData.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
+#include "okna/Pole.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
+#include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
 #include <algorithm>
 #include <QComboBox>
@@ -14,8 +16,8 @@ namespace tornel::personnel {
 
 frmData::frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStringView> rodzaje,
                  QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), dtOd_(new PoleDaty), dtDo_(new PoleDaty), cboRodzaj_(new QComboBox) {
-    setObjectName(QStringLiteral("frmData"));
+    : Okno(QStringLiteral("frmData"), rodzic), o_(otoczenie), dtOd_(new PoleDaty), dtDo_(new PoleDaty),
+      cboRodzaj_(new QComboBox) {
     setWindowTitle(QStringLiteral("Data"));
     setMinimumWidth(40 * Wyglad::kSiatka);
     dtOd_->setObjectName(QStringLiteral("dtOd"));
@@ -59,9 +61,7 @@ frmData::frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStri
 }
 
 ZakresDat frmData::zakres() const {
-    const auto dzien = [](const PoleDaty& pole) {
-        return CzytajDate(SprawdzDate(pole.text())).value_or(QDate());
-    };
+    const auto dzien = [](const PoleDaty& pole) { return CzytajWpisanaDate(pole.text()).value_or(QDate()); };
     return {dzien(*dtOd_), dzien(*dtDo_)};
 }
 
@@ -78,8 +78,14 @@ void frmData::sprawdzKoniec() {
 void frmData::accept() {
     const ZakresDat z = zakres();
     for (const auto& [pole, dzien] : {std::pair{dtOd_, z.od}, {dtDo_, z.dokad}}) {
-        if (dzien.isValid()) continue;
+        if (dzien.isValid()) {
+            UwagaPola::ustaw(*pole, {});
+            continue;
+        }
         // As on leaving any date field: what is no date is taken away, and the dialog waits for one.
+        UwagaPola::ustaw(
+            *pole,
+            nieZrozumiano({.nazwa = {}, .podpis = {}, .kolumna = {}, .rodzaj = Rodzaj::Data}, pole->text()));
         pole->clear();
         pole->setFocus();
         return;

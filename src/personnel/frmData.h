@@ -1,7 +1,7 @@
 // "Data": asks for the range of an absence.
 #pragma once
+#include "okna/Okno.h"
 #include "personnel/RejestrNieobecnosci.h"
-#include <QDialog>
 #include <span>
 
 class QComboBox;
@@ -12,7 +12,7 @@ class PoleDaty;
 
 namespace tornel::personnel {
 
-class frmData : public QDialog {
+class frmData : public Okno {
     Q_OBJECT
 public:
     /// `kto`: whose absence it is, as the clerk reads it. `rodzaje`: kinds to choose from, none for an

@@ -13,11 +13,9 @@ namespace tornel::personnel {
 
 namespace {
 
-enum KolumnaPrac { WolneNumer, WolneNazwisko };
+enum KolumnaWolnych { WolneNumer, WolneNazwisko };
 
 constexpr int kSzerokoscPracownikow = 26 * Wyglad::kSiatka;
-constexpr int kTrybPracujacy = 1;
-
 } // namespace
 
 frmDniWolnePr::frmDniWolnePr(Otoczenie& otoczenie, QWidget* rodzic)
@@ -109,9 +107,7 @@ void frmDniWolnePr::nowyPracownik() {
 void frmDniWolnePr::usunPracownika() {
     const qint64 prcId = czyj();
     if (prcId <= 0) return;
-    const ListaModel& lista = lvwPrac_->lista();
-    const int wiersz = lista.wiersz(prcId);
-    const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
+    const qint64 sasiad = lvwPrac_->sasiad(prcId);
     if (kalendarz().UsunPracownika(prcId)) WczytajPracownikow(sasiad, std::optional(biezacy()));
 }
 

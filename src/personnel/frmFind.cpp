@@ -8,8 +8,7 @@
 namespace tornel::personnel {
 
 frmFind::frmFind(std::function<bool(const QString& tekst)> szukaj, QWidget* rodzic)
-    : QDialog(rodzic), szukaj_(std::move(szukaj)), txtSzukany_(new PoleTekstu) {
-    setObjectName(QStringLiteral("frmFind"));
+    : Okno(QStringLiteral("frmFind"), rodzic), szukaj_(std::move(szukaj)), txtSzukany_(new PoleTekstu) {
     setWindowTitle(QStringLiteral("Szukanie pracownika"));
     setMinimumWidth(46 * Wyglad::kSiatka);
     txtSzukany_->setObjectName(QStringLiteral("txtSzukany"));

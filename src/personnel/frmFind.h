@@ -1,8 +1,8 @@
 // Asks for the number or the name of somebody on the list.
 #pragma once
 #include "common/Przestrzenie.h"
+#include "okna/Okno.h"
 #include <functional>
-#include <QDialog>
 
 namespace tornel::okna {
 class PoleTekstu;
@@ -10,7 +10,7 @@ class PoleTekstu;
 
 namespace tornel::personnel {
 
-class frmFind : public QDialog {
+class frmFind : public Okno {
     Q_OBJECT
 public:
     /// `szukaj`: shows whom a text finds; false for nobody, and the dialog stays.

@@ -1,18 +1,13 @@
 #include "personnel/frmKalendarz.h"
-#include "common/Blad.h"
 #include "common/Daty.h"
-#include "common/Rozmowa.h"
-#include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
 #include "personnel/frmDniMiesiaca.h"
 #include <algorithm>
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -40,16 +35,17 @@ QLabel* licznik(const QString& nazwa) {
 
 frmKalendarz::frmKalendarz(Otoczenie& otoczenie, const QString& nazwa, const QList<QPushButton*>& dodatkowe,
                            QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), kalendarz_(otoczenie), listy_(new QHBoxLayout),
-      lvwMies_(
-          new WidokListy({{QStringLiteral("MIES.")}, {QStringLiteral("ROK"), Qt::AlignRight}}, {64, 36})),
+    : OknoEdycji(nazwa, otoczenie.rozmowa, Zamykanie::Zapis, rodzic), o_(otoczenie), kalendarz_(otoczenie),
+      listy_(new QHBoxLayout),
+      lvwMies_(new WidokListy(
+          {{QStringLiteral("MIES."), Qt::AlignLeft, Porzadek::Data}, {QStringLiteral("ROK"), Qt::AlignRight}},
+          {64, 36})),
       dni_(new DniMiesiaca), labZmiana_(new QLabel), labDni_(licznik(QStringLiteral("labDni"))),
       labWolne_(licznik(QStringLiteral("labWolne"))),
       cmdNowy_(przycisk(QStringLiteral("cmdNowy"), QStringLiteral("&Nowy"), u"nowy")),
       cmdSwieta_(przycisk(QStringLiteral("cmdSwieta"), QStringLiteral("Święta us&tawowe"), u"dniwolne")),
       cmdUsun_(przycisk(QStringLiteral("cmdUsun"), QStringLiteral("&Usuń"), u"usun")),
       cmdAnuluj_(przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Powrót"), u"powrot")) {
-    setObjectName(nazwa);
     lvwMies_->setObjectName(QStringLiteral("lvwMies"));
     lvwMies_->setAccessibleName(QStringLiteral("Miesiące"));
     lvwMies_->setFixedWidth(kSzerokoscMiesiecy);
@@ -68,8 +64,6 @@ frmKalendarz::frmKalendarz(Otoczenie& otoczenie, const QString& nazwa, const QLi
     connect(lvwMies_, &WidokListy::wybrano, this, &frmKalendarz::wybierzMiesiac);
     connect(lvwMies_, &WidokListy::wejscie, dni_, &DniMiesiaca::wejdz);
     connect(dni_, &DniMiesiaca::zmienione, this, &frmKalendarz::policz);
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
-        connect(program, &Aplikacja::danePrzeczytane, this, &frmKalendarz::pokazPonownie);
 }
 
 // --- building
@@ -173,25 +167,26 @@ void frmKalendarz::policz() {
     labWolne_->setText(QString::number(dni.ile(DniKalendarza::Wolny, 1, wMiesiacu)));
 }
 
-void frmKalendarz::zapisz() {
-    if (!biezacy_ || !dni_->jestZmiana()) return;
+bool frmKalendarz::jestZmiana() const { return biezacy_ && dni_->jestZmiana(); }
+
+bool frmKalendarz::zapiszZmiany() {
     kalendarz_.ZapiszDni(*biezacy_, dni_->tresc());
     dni_->przyjmij();
+    return true;
 }
 
 void frmKalendarz::poZapisie(const std::function<void()>& dalej) {
+    bool zapisane = false;
     {
-        bool zapisane = false;
         // Not at once, since a list is still in the middle of its own change.
         const auto powrot = qScopeGuard([&] {
             if (!zapisane)
                 QMetaObject::invokeMethod(
                     this, [this] { cofnijListy(); }, Qt::QueuedConnection);
         });
-        zapisz();
-        zapisane = true;
+        zapisane = rozstrzygnijZmiany();
     }
-    dalej();
+    if (zapisane) dalej();
 }
 
 void frmKalendarz::cofnijListy() {
@@ -217,9 +212,7 @@ void frmKalendarz::nowyMiesiac(qint64 prcId) {
 
 void frmKalendarz::usun() {
     if (!biezacy_) return;
-    const ListaModel& lista = lvwMies_->lista();
-    const int wiersz = lista.wiersz(idMiesiaca(*biezacy_));
-    const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
+    const qint64 sasiad = lvwMies_->sasiad(idMiesiaca(*biezacy_));
     const MiesiacKalendarza usuwany = *biezacy_;
     if (kalendarz_.Usun(usuwany))
         odswiez({usuwany.prcId, static_cast<int>(sasiad / 100), static_cast<int>(sasiad % 100)});
@@ -230,32 +223,6 @@ void frmKalendarz::zaznaczSwieta() {
     poZapisie([this] {
         if (kalendarz_.SwietaRoku(biezacy_->prcId, biezacy_->rok)) WypiszDni(std::optional(biezacy_));
     });
-}
-
-// --- closing and keys
-
-void frmKalendarz::done(int wynik) {
-    try {
-        zapisz();
-    } catch (const Blad& blad) {
-        if (!o_.rozmowa.pytanie(blad.komunikat() +
-                                QStringLiteral("\r\n\r\nCzy zamknąć okno bez zapisania zmian ?")))
-            return;
-    }
-    QDialog::done(wynik);
-}
-
-void frmKalendarz::closeEvent(QCloseEvent* zdarzenie) {
-    // Refused in advance: should the days not be stored, the screen has to stay.
-    zdarzenie->ignore();
-    reject();
-    zdarzenie->setAccepted(!isVisible());
-}
-
-void frmKalendarz::keyPressEvent(QKeyEvent* zdarzenie) {
-    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
-    if (auto* cmd = qobject_cast<QPushButton*>(focusWidget()); enter && cmd) return cmd->click();
-    QDialog::keyPressEvent(zdarzenie);
 }
 
 } // namespace tornel::personnel

@@ -1,9 +1,9 @@
 // What the two screens of calendars do alike: the list of months at the left, the days of the chosen one at
 // the right, stored when another month is chosen or the screen closes.
 #pragma once
+#include "okna/Okno.h"
 #include "personnel/Kalendarz.h"
 #include <functional>
-#include <QDialog>
 
 class QGroupBox;
 class QHBoxLayout;
@@ -19,12 +19,8 @@ namespace tornel::personnel {
 class DniMiesiaca;
 
 /// A screen gives the functions below and calls `WczytajMiesiace` at the end of its constructor.
-class frmKalendarz : public QDialog {
+class frmKalendarz : public OknoEdycji {
     Q_OBJECT
-public:
-    /// Stores the days first. If that fails, the clerk is told why and asked whether to close without.
-    void done(int wynik) override;
-
 protected:
     /// `dodatkowe`: buttons of the screen's own, between those for a month and "&Powrót".
     frmKalendarz(Otoczenie& otoczenie, const QString& nazwa, const QList<QPushButton*>& dodatkowe,
@@ -61,8 +57,10 @@ protected:
     void dodajListe(QWidget* lista);
     void ustawTytulDni(const QString& tytul);
 
-    void closeEvent(QCloseEvent* zdarzenie) override;
-    void keyPressEvent(QKeyEvent* zdarzenie) override;
+    [[nodiscard]] bool jestZmiana() const override;
+    [[nodiscard]] bool zapiszZmiany() override;
+    void porzucZmiany() override { porzuc(); }
+    void pokazPonownie() override;
 
 private:
     [[nodiscard]] QWidget* ramkaDni();
@@ -70,8 +68,6 @@ private:
     void budujSkroty();
     void wybierzMiesiac(qint64 id);
     void WypiszDni(const std::optional<MiesiacKalendarza>& miesiac);
-    void zapisz();
-    void pokazPonownie();
     void policz();
     void usun();
     void zaznaczSwieta();

@@ -13,8 +13,8 @@ namespace tornel::personnel {
 
 using schemat::PRACDP;
 
-frmNowyPrc::frmNowyPrc(Otoczenie& otoczenie, QWidget* rodzic) : QDialog(rodzic), o_(otoczenie) {
-    setObjectName(QStringLiteral("frmNowyPrc"));
+frmNowyPrc::frmNowyPrc(Otoczenie& otoczenie, QWidget* rodzic)
+    : Okno(QStringLiteral("frmNowyPrc"), rodzic), o_(otoczenie) {
     setWindowTitle(QStringLiteral("Rejestracja nowego pracownika"));
     auto* linie = new LinieDialogu;
     const auto dodaj = [&](const QString& nazwa, const QString& podpis, int dlugosc) {

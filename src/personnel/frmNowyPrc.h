@@ -1,7 +1,7 @@
 // Asks for number and name of a new employee.
 #pragma once
+#include "okna/Okno.h"
 #include "personnel/Pracownicy.h"
-#include <QDialog>
 
 namespace tornel::okna {
 class PoleTekstu;
@@ -9,7 +9,7 @@ class PoleTekstu;
 
 namespace tornel::personnel {
 
-class frmNowyPrc : public QDialog {
+class frmNowyPrc : public Okno {
     Q_OBJECT
 public:
     /// Suggests the number after the highest one.

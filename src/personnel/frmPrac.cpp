@@ -1,8 +1,9 @@
 #include "personnel/frmPrac.h"
+#include "common/Blad.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
-#include "okna/Aplikacja.h"
 #include "okna/Klepsydra.h"
+#include "okna/PamiecOkien.h"
 #include "okna/PoleSzukania.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
@@ -12,14 +13,13 @@
 #include "personnel/frmPracZakladki.h"
 #include "store/Schemat.h"
 #include <algorithm>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 namespace tornel::personnel {
@@ -39,19 +39,16 @@ QString uwagaWiersza(const Osoba& o) { return o.zwolniony ? QStringLiteral("Zwol
 } // namespace
 
 frmPrac::frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), filtr_(filtr), pracownicy_(otoczenie), kartoteka_(otoczenie),
+    : OknoEdycji(QStringLiteral("frmPrac"), otoczenie.rozmowa, Zamykanie::Pytanie, rodzic), o_(otoczenie),
+      filtr_(filtr), pracownicy_(otoczenie), kartoteka_(otoczenie),
       lvwPrac_(
           new WidokListy({{QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("NAZWISKO")}}, {22, 78})),
       cboSort_(new QComboBox), labIlu_(new QLabel), zakladki_(new ZakladkiPracownika(otoczenie, kartoteka_)) {
     const Klepsydra klepsydra;
-    setObjectName(QStringLiteral("frmPrac"));
     setWindowTitle(QStringLiteral("Pracownicy[*]"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* srodek = new QHBoxLayout;
-    srodek->addWidget(lewaStrona());
-    srodek->addWidget(zakladki_, 1);
     auto* uklad = new QVBoxLayout(this);
-    uklad->addLayout(srodek, 1);
+    uklad->addWidget(dzielnik(lewaStrona(), kSzerokoscListy, zakladki_), 1);
     uklad->addWidget(rzad());
     budujSkroty();
     resize(158 * Wyglad::kSiatka, 92 * Wyglad::kSiatka);
@@ -64,8 +61,7 @@ frmPrac::frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic)
         zakladki_->Zapisz();
         WczytajListePrac(filtr_, lvwPrac_->wybrany());
     });
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
-        connect(program, &Aplikacja::danePrzeczytane, this, &frmPrac::pokazPonownie);
+    pamiecOkien::pamietajZakladke(*zakladki_);
     WczytajListePrac(filtr_, -1);
     lvwPrac_->setFocus();
 }
@@ -94,7 +90,6 @@ QWidget* frmPrac::lewaStrona() {
     labIlu_->setObjectName(QStringLiteral("labIlu"));
 
     auto* lewa = new QWidget;
-    lewa->setFixedWidth(kSzerokoscListy);
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(tytul);
@@ -165,7 +160,13 @@ void frmPrac::WczytajListePrac(FiltrPracownikow filtr, qint64 zaznacz) {
 }
 
 void frmPrac::wybierz(qint64 prcId) {
-    zakladki_->Zapisz();
+    if (prcId == kartoteka_.pracownik()) return;
+    if (!zakonczWpisywanie()) {
+        // Not at once, since the view is still in the middle of its own change.
+        QMetaObject::invokeMethod(
+            this, [this] { lvwPrac_->wybierz(kartoteka_.pracownik().value_or(-1)); }, Qt::QueuedConnection);
+        return;
+    }
     kartoteka_.Ustaw(prcId);
     zakladki_->Pokaz();
     pokazStan();
@@ -236,7 +237,7 @@ void frmPrac::NowyPracownik() {
             Styl::Informacja);
         return;
     }
-    rozstrzygnijZmiany();
+    if (!zakonczWpisywanie() || !rozstrzygnijZmiany()) return;
     frmNowyPrc okno(o_, this);
     while (okno.exec() == Accepted) {
         const DaneNowegoPracownika dane = okno.dane();
@@ -256,11 +257,8 @@ void frmPrac::NowyPracownik() {
 
 void frmPrac::UsunPracownika() {
     const auto prcId = kartoteka_.pracownik();
-    if (!prcId) return;
-    rozstrzygnijZmiany();
-    const ListaModel& lista = lvwPrac_->lista();
-    const int wiersz = lvwPrac_->currentIndex().row();
-    const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
+    if (!prcId || !zakonczWpisywanie() || !rozstrzygnijZmiany()) return;
+    const qint64 sasiad = lvwPrac_->sasiad(*prcId);
     if (!pracownicy_.UsunPracownika(*prcId)) return;
     kartoteka_.Ustaw({});
     WczytajListePrac(filtr_, sasiad);
@@ -279,38 +277,32 @@ void frmPrac::zapisz() {
     pokazStan();
 }
 
-void frmPrac::rozstrzygnijZmiany() {
+bool frmPrac::zakonczWpisywanie() {
     zakladki_->Zapisz();
-    if (!kartoteka_.zmieniony()) return;
-    if (o_.rozmowa.pytanie(QStringLiteral("Czy zapisać zmiany ?"), QStringLiteral("Pytanie"))) {
+    return !zakladki_->wlasnieNieZrozumiano();
+}
+
+bool frmPrac::zapiszZmiany() {
+    try {
         kartoteka_.Zapisz();
-    } else {
-        kartoteka_.Porzuc();
-        zakladki_->Pokaz();
+    } catch (const Blad&) {
+        // The screen may stay: its changes wait on handles that know what the file holds now.
+        o_.sesja.OdswiezUchwyty();
+        kartoteka_.Ponow();
+        throw;
     }
+    odswiezWiersz();
+    return true;
+}
+
+void frmPrac::porzucZmiany() {
+    kartoteka_.Porzuc();
+    zakladki_->Pokaz();
     odswiezWiersz();
 }
 
-void frmPrac::done(int wynik) {
-    rozstrzygnijZmiany();
-    QDialog::done(wynik);
-}
-
-void frmPrac::closeEvent(QCloseEvent* zdarzenie) {
-    // Refused in advance: should the changes fail to be stored, the screen has to stay.
-    zdarzenie->ignore();
-    reject();
-    zdarzenie->setAccepted(!isVisible());
-}
-
-void frmPrac::keyPressEvent(QKeyEvent* zdarzenie) {
-    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
-    if (!enter) return QDialog::keyPressEvent(zdarzenie);
-    QWidget* tu = focusWidget();
-    if (auto* naPrzycisku = qobject_cast<QPushButton*>(tu))
-        naPrzycisku->click();
-    else if (zakladki_->isAncestorOf(tu))
-        zakladki_->nastepnePole();
+void frmPrac::nastepnePole() {
+    if (zakladki_->isAncestorOf(focusWidget())) zakladki_->nastepnePole();
 }
 
 } // namespace tornel::personnel

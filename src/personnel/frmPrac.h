@@ -1,9 +1,9 @@
 // The personnel file: the list of employees at the left, the eleven tabs of the one chosen at the right.
 #pragma once
+#include "okna/Okno.h"
 #include "personnel/KartotekaPracownika.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
-#include <QDialog>
 #include <QList>
 
 class QComboBox;
@@ -18,18 +18,19 @@ namespace tornel::personnel {
 
 class ZakladkiPracownika;
 
-class frmPrac : public QDialog {
+class frmPrac : public OknoEdycji {
     Q_OBJECT
 public:
     frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic = nullptr);
     ~frmPrac() override;
 
-    /// Asks what becomes of unsaved changes first; it stays open when they cannot be stored.
-    void done(int wynik) override;
-
 protected:
-    void closeEvent(QCloseEvent* zdarzenie) override;
-    void keyPressEvent(QKeyEvent* zdarzenie) override;
+    [[nodiscard]] bool zakonczWpisywanie() override;
+    [[nodiscard]] bool jestZmiana() const override { return kartoteka_.zmieniony(); }
+    [[nodiscard]] bool zapiszZmiany() override;
+    void porzucZmiany() override;
+    void pokazPonownie() override;
+    void nastepnePole() override;
 
 private:
     [[nodiscard]] QWidget* lewaStrona();
@@ -39,7 +40,6 @@ private:
     /// Fills the list by the filter and chooses the employee, else the first; empty, it clears the tabs.
     void WczytajListePrac(FiltrPracownikow filtr, qint64 zaznacz);
     void wybierz(qint64 prcId);
-    void pokazPonownie();
     void pokazStan();
     void odswiezWiersz();
     void przejdz(int oIle);
@@ -49,8 +49,6 @@ private:
     void UsunPracownika();
     void anuluj();
     void zapisz();
-    /// Asks whether to store what is unsaved, and stores or drops it.
-    void rozstrzygnijZmiany();
 
     Otoczenie& o_;
     FiltrPracownikow filtr_;

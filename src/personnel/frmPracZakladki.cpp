@@ -284,6 +284,10 @@ bool ZakladkiPracownika::jestZmiana() const {
            std::ranges::any_of(wiazania_, [](const auto& w) { return w->jestZmiana(); });
 }
 
+bool ZakladkiPracownika::wlasnieNieZrozumiano() const {
+    return wiazania_[static_cast<std::size_t>(biezaca_)]->wlasnieNieZrozumiano();
+}
+
 void ZakladkiPracownika::zaznaczSkladniki(bool (*dodatni)(const SkladnikiPlac&, int),
                                           bool (*ujemny)(const SkladnikiPlac&, int)) {
     const auto tekst = [](bool tak) { return tak ? QStringLiteral("T") : QStringLiteral("N"); };

@@ -45,6 +45,8 @@ public:
     void Zapisz();
     /// Something was typed that is not written yet.
     [[nodiscard]] bool jestZmiana() const;
+    /// Whether a field has just had to say that it did not understand what was typed.
+    [[nodiscard]] bool wlasnieNieZrozumiano() const;
     /// Goes to the first field of the current tab.
     void wejdz();
     /// Leaves the field in work for the next one of the tab, behind the last for the first.

@@ -10,8 +10,6 @@ namespace tornel::personnel {
 
 namespace {
 
-constexpr int kTrybPracujacy = 1;
-
 /// The row taken up, and what is worked out from it.
 class ZrodloRejestru final : public ZrodloPol {
 public:
@@ -43,8 +41,8 @@ frmRejestr::frmRejestr(Otoczenie& otoczenie, std::shared_ptr<RejestrNieobecnosci
 
 OpisListyPol frmRejestr::opisListy() {
     OpisListyPol opis;
-    opis.kolumny = {{QStringLiteral("Od...")},
-                    {QStringLiteral("Do...")},
+    opis.kolumny = {{QStringLiteral("Od..."), Qt::AlignLeft, Porzadek::Data},
+                    {QStringLiteral("Do..."), Qt::AlignLeft, Porzadek::Data},
                     {QStringLiteral("Nr"), Qt::AlignRight},
                     {QStringLiteral("Nazwisko")}};
     opis.udzialy = {22, 22, 13, 43};

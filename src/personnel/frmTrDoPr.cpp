@@ -29,13 +29,12 @@ QDate proponowany(Otoczenie& otoczenie) {
 } // namespace
 
 frmTrDoPr::frmTrDoPr(Otoczenie& otoczenie, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie),
+    : Okno(QStringLiteral("frmTrDoPr"), rodzic), o_(otoczenie),
       osoby_(Pracownicy(otoczenie).lista(FiltrPracownikow::Pracujacy, PorzadekPracownikow::Nazwiska)),
       lvwPrac_(new WidokListy(
           {{QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("NAZWISKO")}, {QStringLiteral("IMIE")}},
           {14, 48, 38})),
       miesiac_(new PoleMiesiaca(proponowany(otoczenie))), labZaznaczono_(new QLabel) {
-    setObjectName(QStringLiteral("frmTrDoPr"));
     setWindowTitle(QStringLiteral("Transport dni wolnych do pracowników"));
     lvwPrac_->setObjectName(QStringLiteral("lvwPrac"));
     lvwPrac_->setAccessibleName(QStringLiteral("Pracownicy"));

@@ -1,7 +1,7 @@
 // "Transport dni wolnych do pracowników": copies a month of the general calendar to the employees.
 #pragma once
+#include "okna/Okno.h"
 #include "personnel/Pracownicy.h"
-#include <QDialog>
 
 class QLabel;
 class QPushButton;
@@ -13,7 +13,7 @@ class WidokListy;
 
 namespace tornel::personnel {
 
-class frmTrDoPr : public QDialog {
+class frmTrDoPr : public Okno {
     Q_OBJECT
 public:
     /// Offers the working employees, and proposes the last month of the general calendar.

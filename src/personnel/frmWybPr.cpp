@@ -27,14 +27,14 @@ QList<WierszListy> wiersze(const QList<Osoba>& osoby) {
 } // namespace
 
 frmWybPr::frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic, qint64 zaznacz)
-    : QDialog(rodzic), o_(otoczenie), tryb_(tryb), osoby_(Pracownicy(otoczenie).doWyboru(tryb)),
+    : Okno(QStringLiteral("frmWybPr"), rodzic), o_(otoczenie), tryb_(tryb),
+      osoby_(Pracownicy(otoczenie).doWyboru(tryb)),
       lvwWybPr_(new WidokListy({{QStringLiteral("NR"), Qt::AlignRight},
                                 {QStringLiteral("NAZWISKO")},
                                 {QStringLiteral("IMIĘ")},
                                 {QStringLiteral("DZIAŁ")}},
                                {12, 36, 26, 26})),
       labZaznaczono_(new QLabel) {
-    setObjectName(QStringLiteral("frmWybPr"));
     setWindowTitle(QStringLiteral("Wybór pracownika"));
     lvwWybPr_->setObjectName(QStringLiteral("lvwWybPr"));
     labZaznaczono_->setObjectName(QStringLiteral("labZaznaczono"));
@@ -88,18 +88,19 @@ QList<qint64> frmWybPr::wybierz(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget
 }
 
 void frmWybPr::zaznaczDzial() {
+    const ListaModel& lista = lvwWybPr_->lista();
     const int biezacy = lvwWybPr_->currentIndex().row();
     if (biezacy < 0) return;
-    const QString dzial = osoby_.at(biezacy).dzial;
+    const auto dzial = [&](int nr) { return lista.widoczny(nr).teksty.at(WybDzial); };
+    const QString szukany = dzial(biezacy);
     // Whole stretches of rows: a range for each person would cost the square of their number.
     QItemSelection zaznaczenie;
-    const auto ile = static_cast<int>(osoby_.size());
+    const int ile = lista.rowCount();
     for (int od = 0; od < ile; ++od) {
-        if (osoby_.at(od).dzial != dzial) continue;
+        if (dzial(od) != szukany) continue;
         int dokad = od;
-        while (dokad + 1 < ile && osoby_.at(dokad + 1).dzial == dzial) ++dokad;
-        zaznaczenie.append(
-            {lvwWybPr_->model()->index(od, WybNumer), lvwWybPr_->model()->index(dokad, WybDzial)});
+        while (dokad + 1 < ile && dzial(dokad + 1) == szukany) ++dokad;
+        zaznaczenie.append({lista.index(od, WybNumer), lista.index(dokad, WybDzial)});
         od = dokad;
     }
     lvwWybPr_->selectionModel()->select(zaznaczenie, QItemSelectionModel::Select);

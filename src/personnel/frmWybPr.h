@@ -1,8 +1,8 @@
 // The person picker.
 #pragma once
+#include "okna/Okno.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
-#include <QDialog>
 
 class QLabel;
 
@@ -12,7 +12,10 @@ class WidokListy;
 
 namespace tornel::personnel {
 
-class frmWybPr : public QDialog {
+/// The mode of the picker that offers all working employees.
+inline constexpr int kTrybPracujacy = 1;
+
+class frmWybPr : public Okno {
     Q_OBJECT
 public:
     enum class Ilu { Jeden, Wielu };

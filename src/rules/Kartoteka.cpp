@@ -99,7 +99,7 @@ bool Kartoteka::Usun(qint64 numer) {
                              Styl::Wykrzyknik);
         return false;
     }
-    if (!o_.rozmowa.pytanie(def_.pytanie.toString())) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(def_.pytanie.toString())) return false;
     wymagaj(numer);
     Recordset& rs = tabela();
     try {

@@ -21,7 +21,7 @@ int liczbaKrotka(const QString& tekst) {
 // A boolean written as a number counts as well: anything but 0 is true.
 bool logicznaZTekstu(const QString& tekst) {
     const QString t = tekst.trimmed();
-    return t.compare(u"True", Qt::CaseInsensitive) == 0 || !KwotaAlboZero(t).zero();
+    return t.compare(u"True", Qt::CaseInsensitive) == 0 || !KwotaAlboZero(t, Zapis::Dane).zero();
 }
 
 // "<major>.<minor> (<revision>)"
@@ -118,7 +118,7 @@ void WartoscZTekstu(const StalaDef& stala, const QString& tekst, Stale& stale) {
     const Warianty zTekstu{
         [&](int& liczba) { liczba = liczbaKrotka(tekst); },
         [&](bool& wlaczona) { wlaczona = logicznaZTekstu(tekst); },
-        [&](Waluta& kwota) { kwota = KwotaAlboZero(tekst); },
+        [&](Waluta& kwota) { kwota = KwotaAlboZero(tekst, Zapis::Dane); },
         [&](QDate& data) { data = CzytajDate(tekst.trimmed()).value_or(QDate()); },
         [&](QString& napis) { napis = tekst; },
         [&]<typename T, std::size_t N>(std::array<T, N>& tablica) {

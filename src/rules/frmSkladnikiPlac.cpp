@@ -1,13 +1,10 @@
 #include "rules/frmSkladnikiPlac.h"
-#include "common/Rozmowa.h"
-#include "okna/Aplikacja.h"
 #include "okna/Klepsydra.h"
 #include "okna/Kontrolki.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
 #include "store/Sesja.h"
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -71,10 +68,10 @@ QLabel* naglowek(QStringView tekst, Qt::Alignment wyrownanie) {
 } // namespace
 
 frmSkladnikiPlac::frmSkladnikiPlac(Otoczenie& otoczenie, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), zakladki_(new QTabWidget) {
+    : OknoEdycji(QStringLiteral("frmSkladnikiPlac"), otoczenie.rozmowa, Zamykanie::Pytanie, rodzic),
+      o_(otoczenie), zakladki_(new QTabWidget) {
     static_assert(std::size(kKolumny) == kKolumn);
     const Klepsydra klepsydra;
-    setObjectName(QStringLiteral("frmSkladnikiPlac"));
     setWindowTitle(QStringLiteral("Składniki zmienne płac"));
     auto* uklad = new QVBoxLayout(this);
     zakladki_->setObjectName(QStringLiteral("zakladki"));
@@ -87,8 +84,6 @@ frmSkladnikiPlac::frmSkladnikiPlac(Otoczenie& otoczenie, QWidget* rodzic)
     connect(uaktywnienie, &QPushButton::clicked, this, &frmSkladnikiPlac::uaktywnij);
     connect(powrot, &QPushButton::clicked, this, &QDialog::reject);
     uklad->addWidget(rzadPrzyciskow({uaktywnienie, przyciskPomocy(), powrot}));
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
-        connect(program, &Aplikacja::danePrzeczytane, this, &frmSkladnikiPlac::pokazPonownie);
     pokaz();
     kontrolki_[0][0]->setFocus();
 }
@@ -179,29 +174,22 @@ void frmSkladnikiPlac::pokazPonownie() {
     if (!zmieniono_) pokaz();
 }
 
-void frmSkladnikiPlac::done(int wynik) {
-    if (zmieniono_ && o_.rozmowa.pytanie(QStringLiteral("Czy zapisać wprowadzone zmiany?"))) {
-        const Klepsydra klepsydra;
-        Zapisz_zmiany(o_, zbierz());
-    }
+bool frmSkladnikiPlac::zapiszZmiany() {
+    const Klepsydra klepsydra;
+    Zapisz_zmiany(o_, zbierz());
     zmieniono_ = false;
-    QDialog::done(wynik);
+    return true;
 }
 
-void frmSkladnikiPlac::closeEvent(QCloseEvent* zdarzenie) {
-    // Refused in advance: should the changes not be stored, the screen has to stay.
-    zdarzenie->ignore();
-    reject();
-    zdarzenie->setAccepted(!isVisible());
+OknoEdycji::PytanieOZmiany frmSkladnikiPlac::pytanieOZmiany() const {
+    return {QStringLiteral("Czy zapisać wprowadzone zmiany?"), Rozmowa::domyslnyTytul()};
 }
 
 bool frmSkladnikiPlac::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
-    if (zdarzenie->type() != QEvent::KeyPress) return QDialog::eventFilter(obiekt, zdarzenie);
+    if (zdarzenie->type() != QEvent::KeyPress) return OknoEdycji::eventFilter(obiekt, zdarzenie);
     const int klawisz = static_cast<QKeyEvent*>(zdarzenie)->key();
     const int oIle = klawisz == Qt::Key_Up ? -1 : klawisz == Qt::Key_Down ? 1 : 0;
-    const bool enter = klawisz == Qt::Key_Return || klawisz == Qt::Key_Enter;
-    if (enter) return focusNextChild();
-    if (oIle == 0) return QDialog::eventFilter(obiekt, zdarzenie);
+    if (oIle == 0) return OknoEdycji::eventFilter(obiekt, zdarzenie);
     // As in a table, the arrows keep the column.
     for (int n = 0; n < kWszystkich; ++n) {
         const auto& linia = kontrolki_[static_cast<std::size_t>(n)];
@@ -213,7 +201,7 @@ bool frmSkladnikiPlac::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
             Qt::TabFocusReason);
         return true;
     }
-    return QDialog::eventFilter(obiekt, zdarzenie);
+    return OknoEdycji::eventFilter(obiekt, zdarzenie);
 }
 
 } // namespace tornel::rules

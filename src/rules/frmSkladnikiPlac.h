@@ -1,26 +1,27 @@
 // "Składniki zmienne płac": the names, flags and codes of all payroll components on three tabs.
 #pragma once
+#include "okna/Okno.h"
 #include "rules/ZmianaSkladnikow.h"
 #include <array>
-#include <QDialog>
 
 class QTabWidget;
 
 namespace tornel::rules {
 
-class frmSkladnikiPlac : public QDialog {
+class frmSkladnikiPlac : public OknoEdycji {
     Q_OBJECT
 public:
     /// Reads the catalogue anew. Throws as `Wczytaj_skladniki`.
     explicit frmSkladnikiPlac(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
 
-    /// Asks whether to store what was changed. The screen stays open when that fails.
-    void done(int wynik) override;
-
     bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
 
 protected:
-    void closeEvent(QCloseEvent* zdarzenie) override;
+    [[nodiscard]] bool jestZmiana() const override { return zmieniono_; }
+    [[nodiscard]] bool zapiszZmiany() override;
+    void porzucZmiany() override { zmieniono_ = false; }
+    [[nodiscard]] PytanieOZmiany pytanieOZmiany() const override;
+    void pokazPonownie() override;
 
 private:
     static constexpr int kKolumn = 7;
@@ -32,7 +33,6 @@ private:
     void pokaz();
     [[nodiscard]] KatalogSkladnikow zbierz() const;
     void uaktywnij();
-    void pokazPonownie();
 
     Otoczenie& o_;
     QTabWidget* zakladki_;

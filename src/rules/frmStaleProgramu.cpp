@@ -52,11 +52,11 @@ QPushButton* przyciskBezWejscia(const QString& nazwa, const QString& napis) {
 } // namespace
 
 frmStaleProgramu::frmStaleProgramu(Otoczenie& otoczenie, PortyStalych porty, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), porty_(std::move(porty)), zrodlo_(otoczenie.stale),
-      sprawdzenia_(otoczenie, zrodlo_), wiazanie_(zrodlo_), lstKarty_(new QListWidget),
-      karty_(new QStackedWidget) {
+    : OknoEdycji(QStringLiteral("frmStaleProgramu"), otoczenie.rozmowa, Zamykanie::Pytanie, rodzic,
+                 PoEnterze::PrzyciskDomyslny),
+      o_(otoczenie), porty_(std::move(porty)), zrodlo_(otoczenie.stale), sprawdzenia_(otoczenie, zrodlo_),
+      wiazanie_(zrodlo_), lstKarty_(new QListWidget), karty_(new QStackedWidget) {
     const Klepsydra klepsydra;
-    setObjectName(QStringLiteral("frmStaleProgramu"));
     setWindowTitle(QStringLiteral("Konfiguracja stałych programu"));
     if (!porty_.wybierzFolder) porty_.wybierzFolder = zapytajOFolder;
     buduj();
@@ -78,7 +78,7 @@ void frmStaleProgramu::buduj() {
     QPushButton* ok = przyciskBezWejscia(QStringLiteral("Command1"), QStringLiteral("OK"));
     QPushButton* anuluj = przyciskBezWejscia(QStringLiteral("Command2"), QStringLiteral("&Anuluj"));
     connect(ok, &QPushButton::clicked, this, &frmStaleProgramu::accept);
-    connect(anuluj, &QPushButton::clicked, this, &QDialog::reject);
+    connect(anuluj, &QPushButton::clicked, this, &frmStaleProgramu::zamknijBezZapisu);
     uklad->addWidget(rzadPrzyciskow({ok, anuluj, przyciskPomocy()}));
     ok->setDefault(true);
     dodajSkroty();
@@ -203,13 +203,21 @@ void frmStaleProgramu::przesunKarte(int oIle) {
     if (pole) pole->setFocus(Qt::TabFocusReason);
 }
 
-void frmStaleProgramu::accept() {
+bool frmStaleProgramu::zakonczWpisywanie() {
     wiazanie_.zbierz();
+    return !wiazanie_.wlasnieNieZrozumiano();
+}
+
+bool frmStaleProgramu::zapiszZmiany() {
     const Stale nowe = zrodlo_.doZapisu();
     ZapiszKonfiguracje(o_.sesja, nowe);
     o_.stale = nowe;
     if (porty_.UstawDostepnoscMenu) porty_.UstawDostepnoscMenu();
-    QDialog::accept();
+    return true;
+}
+
+void frmStaleProgramu::accept() {
+    if (zakonczWpisywanie() && zapiszZmiany()) QDialog::accept();
 }
 
 } // namespace tornel::rules

@@ -1,11 +1,11 @@
 // "Stałe programu": all program constants on eighteen tabs, stored together as one action.
 #pragma once
+#include "okna/Okno.h"
 #include "okna/Wiazanie.h"
 #include "rules/frmStalePola.h"
 #include "rules/frmStaleSprawdzenia.h"
 #include "rules/Otoczenie.h"
 #include <functional>
-#include <QDialog>
 #include <QHash>
 
 class QListWidget;
@@ -26,7 +26,7 @@ struct PortyStalych {
     std::function<QString(QWidget* rodzic, const QString& wstepny)> wybierzFolder = {};
 };
 
-class frmStaleProgramu : public QDialog {
+class frmStaleProgramu : public OknoEdycji {
     Q_OBJECT
 public:
     /// Shows the constants in memory and the offices of `US`. Throws `BladBazy`.
@@ -37,6 +37,12 @@ public:
     void accept() override;
 
     void pokazKarte(KartaStalych karta);
+
+protected:
+    [[nodiscard]] bool zakonczWpisywanie() override;
+    [[nodiscard]] bool jestZmiana() const override { return zrodlo_.doZapisu() != o_.stale; }
+    [[nodiscard]] bool zapiszZmiany() override;
+    void porzucZmiany() override {} // nothing has left the screen's own copy
 
 private:
     void buduj();

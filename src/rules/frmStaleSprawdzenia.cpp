@@ -13,7 +13,22 @@ std::optional<int> numerSkladnika(const QString& tekst) {
     return numer ? std::optional(static_cast<int>(*numer)) : std::nullopt;
 }
 
-QString zaokraglenie(const QString& tekst) { return QString::number(CzytajLiczbe(tekst, 0, 2).value_or(2)); }
+/// The text in place of one that was not taken, and what the field says of that; an emptied field says
+/// nothing.
+Wiazanie::Sprawdzony zamiast(const QString& tekst, const QString& nowy, const QString& wymaganie) {
+    if (tekst.trimmed().isEmpty()) return nowy;
+    return {nowy, QStringLiteral("„%1” to nie %2. Przyjęto %3.").arg(tekst.trimmed(), wymaganie, nowy)};
+}
+
+Wiazanie::Sprawdzony zaokraglenie(const QString& tekst) {
+    if (const auto miejsca = CzytajLiczbe(tekst, 0, 2)) return QString::number(*miejsca);
+    return zamiast(tekst, QStringLiteral("2"), QStringLiteral("0, 1 ani 2"));
+}
+
+Wiazanie::Sprawdzony numer(const QString& tekst) {
+    if (const auto skladnik = numerSkladnika(tekst)) return QString::number(*skladnik);
+    return zamiast(tekst, QStringLiteral("0"), QStringLiteral("numer składnika od 0 do 30"));
+}
 
 /// A number becomes the whole number with its unit. What is no number, "5 zł" among it, stays, and so does
 /// one that is no denomination of any money.
@@ -36,9 +51,7 @@ Wiazanie::Sprawdzenie SprawdzeniaStalych::dla(const StalaDef& stala, std::size_t
     case Zaokraglenie:
         return [](const QString& tekst, const QString&) { return zaokraglenie(tekst); };
     case Numer:
-        return [](const QString& tekst, const QString&) {
-            return QString::number(numerSkladnika(tekst).value_or(0));
-        };
+        return [](const QString& tekst, const QString&) { return numer(tekst); };
     case NumerJedyny:
         return [this, &stala, element](const QString& tekst, const QString& przyWejsciu) {
             return numerJedyny(stala, element, tekst, przyWejsciu);
@@ -55,11 +68,13 @@ Wiazanie::Sprawdzenie SprawdzeniaStalych::dla(const StalaDef& stala, std::size_t
     }
 }
 
-QString SprawdzeniaStalych::numerJedyny(const StalaDef& stala, std::size_t element, const QString& tekst,
-                                        const QString& przyWejsciu) const {
-    const auto numer = numerSkladnika(tekst);
-    if (!numer || !NumerSkladnikaWolny(zrodlo_.stale(), stala.num, element, *numer)) return przyWejsciu;
-    return QString::number(*numer);
+Wiazanie::Sprawdzony SprawdzeniaStalych::numerJedyny(const StalaDef& stala, std::size_t element,
+                                                     const QString& tekst, const QString& przyWejsciu) const {
+    const auto skladnik = numerSkladnika(tekst);
+    if (!skladnik) return zamiast(tekst, przyWejsciu, QStringLiteral("numer składnika od 0 do 30"));
+    if (!NumerSkladnikaWolny(zrodlo_.stale(), stala.num, element, *skladnik))
+        return zamiast(tekst, przyWejsciu, QStringLiteral("wolny numer: inna stała już go ma"));
+    return QString::number(*skladnik);
 }
 
 QString SprawdzeniaStalych::wzor(const QString& tekst) {

@@ -19,8 +19,8 @@ public:
     [[nodiscard]] Wiazanie::Sprawdzenie dla(const StalaDef& stala, std::size_t element);
 
 private:
-    [[nodiscard]] QString numerJedyny(const StalaDef& stala, std::size_t element, const QString& tekst,
-                                      const QString& przyWejsciu) const;
+    [[nodiscard]] Wiazanie::Sprawdzony numerJedyny(const StalaDef& stala, std::size_t element,
+                                                   const QString& tekst, const QString& przyWejsciu) const;
     [[nodiscard]] QString wzor(const QString& tekst);
 
     const ZrodloStalych& zrodlo_;

@@ -42,11 +42,11 @@ QString tekstWartosci(const Wartosc& wartosc, Typ typ) {
 std::optional<Waluta> kwotaZTekstu(const QString& tekst) {
     // A dot may group thousands as well as mark decimals, so it is refused; so is a fifth decimal place.
     if (tekst.contains(QLatin1Char('.'))) return {};
-    auto liczba = RozbierzLiczbe(tekst, Zapis::Pole);
+    auto liczba = RozbierzLiczbe(tekst, Zapis::Dane);
     if (!liczba) return {};
     for (; liczba->wykladnik < -4 && liczba->cyfry.endsWith('0'); ++liczba->wykladnik) liczba->cyfry.chop(1);
     if (liczba->wykladnik < -4) return {};
-    const std::optional<Waluta> kwota = CzytajKwote(tekst);
+    const std::optional<Waluta> kwota = CzytajKwote(tekst, Zapis::Dane);
     if (!kwota || kwota->surowa() < zakresTypu(Typ::Currency).first) return {};
     return kwota;
 }

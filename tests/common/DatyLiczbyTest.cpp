@@ -57,19 +57,37 @@ TEST(Daty, FieldTexts) {
     const struct {
         const char *wpisany, *poWyjsciu;
     } pola[] = {
-        {"12/05/2001", "12/05/2001"},
+        {"12/05/2001", "12-05-2001"},
         {"12-05-2001", "12-05-2001"},
-        {"12/05/2001 x", "12/05/2001"},
+        {"12.05.2001", "12-05-2001"},
+        {" 12052001 ", "12-05-2001"},
+        {"2001-05-12", "12-05-2001"},
+        {"1/7/2001", "01-07-2001"},
+        {"12/05/2001 x", "12-05-2001"},
+        {"01-01-1900", "01-01-1900"},
+        {"31-12-2100", "31-12-2100"},
+        {"31-12-1899", ""},
+        {"01-01-2101", ""},
+        {"20010701", ""},
         {"31/02/2001", ""},
         {"12/05/201", ""},
         {"", ""},
         {"12/05/0001", ""},
         {"1a/05/2001", ""},
+        {"12-05/2001", ""},
+        {"2001/05/12", ""},
+        {"2001-5-12", ""},
+        {"12-05-20011", ""},
+        {"12-05", ""},
+        {"12-05-01", ""},
+        {"12-05-2001-1", ""},
+        {"120501", ""},
+        {"--2001", ""},
     };
     for (const auto& p : pola) EXPECT_EQ(SprawdzDate(u(p.wpisany)), u(p.poWyjsciu)) << p.wpisany;
 }
 
-TEST(Liczby, AmountsAreReadFromTheirDigits) {
+TEST(Liczby, StoredAmountsAreReadStrictlyFromTheirDigits) {
     const struct {
         const char* tekst;
         std::int64_t kwota;
@@ -82,6 +100,7 @@ TEST(Liczby, AmountsAreReadFromTheirDigits) {
         {",5", 5000},
         {"5,", 5'0000},
         {"-0", 0},
+        {"1.500", 1'5000},
         {"-0,00004", 0},
         {"0,00005", 0},
         {"0,00015", 2},
@@ -94,7 +113,7 @@ TEST(Liczby, AmountsAreReadFromTheirDigits) {
         {"-922337203685477,5808", std::numeric_limits<std::int64_t>::min()},
     };
     for (const auto& d : dobre) {
-        const auto kwota = CzytajKwote(u(d.tekst));
+        const auto kwota = CzytajKwote(u(d.tekst), Zapis::Dane);
         ASSERT_TRUE(kwota) << d.tekst;
         EXPECT_EQ(kwota->surowa(), d.kwota) << d.tekst;
     }
@@ -121,8 +140,53 @@ TEST(Liczby, AmountsAreReadFromTheirDigits) {
                             "922337203685477,5808",
                             "922337203685477,58075",
                             "999999999999999999999999999999"}) {
-        EXPECT_EQ(CzytajKwote(u(zly)), std::nullopt) << zly;
-        EXPECT_EQ(KwotaAlboZero(u(zly)), Waluta{}) << zly;
+        EXPECT_EQ(CzytajKwote(u(zly), Zapis::Dane), std::nullopt) << zly;
+        EXPECT_EQ(KwotaAlboZero(u(zly), Zapis::Dane), Waluta{}) << zly;
+    }
+}
+
+TEST(Liczby, AmountsAsTheClerkTypesThem) {
+    const struct {
+        const char* tekst;
+        std::int64_t kwota; ///< -1 for a text that is not understood
+    } wpisane[] = {
+        {"3 200,00", 3200'0000},
+        {"3\u00a0200,00", 3200'0000},
+        {"3\u202f200.00", 3200'0000},
+        {"1 500,50 zł", 1500'5000},
+        {"1.500,50", 1500'5000},
+        {"12zł", 12'0000},
+        {"12 ZŁ", 12'0000},
+        {"5-", -5'0000},
+        {"- 5", -5'0000},
+        {"1 234,5- zł", -1234'5000},
+        {"\u22125", -5'0000},
+        {"1.234.567,8", 1234567'8000},
+        {"1 234 567", 1234567'0000},
+        {"0.500", 5000},
+        {"1650.500", 1650'5000},
+        {"1.50", 1'5000},
+        {"1.5000", 1'5000},
+        {"1.500", -1},
+        {"-12.500 zł", -1},
+        {"1.500.000", -1},
+        {"1 500.000", -1},
+        {"1 50,00", -1},
+        {"1500 500", -1},
+        {"1 500 50", -1},
+        {" ,5 0", -1},
+        {"1 500.500,00", -1},
+        {"1..500,00", -1},
+        {".500,00", -1},
+        {"1,500.00", -1},
+        {"1,2,3", -1},
+        {"-5-", -1},
+        {"zł", -1},
+        {"5 zł zł", -1},
+    };
+    for (const auto& w : wpisane) {
+        const auto kwota = CzytajKwote(u(w.tekst));
+        EXPECT_EQ(kwota ? kwota->surowa() : -1, w.kwota) << w.tekst;
     }
 }
 

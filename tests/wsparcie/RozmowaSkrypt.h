@@ -19,7 +19,7 @@ inline void PrintTo(const QString& tekst, std::ostream* strumien) {
 }
 QT_END_NAMESPACE
 
-enum class Odpowiedz { Tak, Nie };
+enum class Odpowiedz { Tak, Nie, Anuluj };
 
 /// A text that is not the next expected one fails the test, and so does one that was never asked for. Texts
 /// are compared exactly; the title only where the script names it.
@@ -55,6 +55,11 @@ public:
     }
     [[nodiscard]] bool pytanie(const QString& tekst, const QString& tytul = domyslnyTytul()) override {
         return zdejmij<Odpowiedz>("question", tekst, tytul).value_or(Odpowiedz::Nie) == Odpowiedz::Tak;
+    }
+    [[nodiscard]] std::optional<bool> pytanieZAnulowaniem(const QString& tekst,
+                                                          const QString& tytul = domyslnyTytul()) override {
+        const auto odpowiedz = zdejmij<Odpowiedz>("question", tekst, tytul).value_or(Odpowiedz::Nie);
+        return odpowiedz == Odpowiedz::Anuluj ? std::nullopt : std::optional(odpowiedz == Odpowiedz::Tak);
     }
     [[nodiscard]] std::optional<QString> wprowadz(const QString& tekst, const QString& tytul,
                                                   const QString& = {}) override {

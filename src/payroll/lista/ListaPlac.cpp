@@ -278,8 +278,9 @@ RaportSerii ListaPlac::DodajPracownikow(const QList<qint64>& numery) {
 bool ListaPlac::Usun_prac() {
     wymagajOtwartego();
     if (!wiersz_) throw Blad(QStringLiteral("Nie wybrano pracownika z listy płac."));
-    if (!o_.rozmowa.pytanie(QStringLiteral("Czy na pewno usunąć pracownika o numerze ") +
-                            QString::number(wiersz_->prcId) + QStringLiteral(" z miesięcznej listy płac ?")))
+    if (!o_.rozmowa.pytanieUsuwajace(QStringLiteral("Czy na pewno usunąć pracownika o numerze ") +
+                                     QString::number(wiersz_->prcId) +
+                                     QStringLiteral(" z miesięcznej listy płac ?")))
         return false;
     CofnijWiersz();
     for (Recordset* rs : tabeleWiersza(o_.sesja))

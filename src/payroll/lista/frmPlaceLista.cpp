@@ -28,8 +28,6 @@ using schemat::PLA;
 
 namespace {
 
-constexpr int kTrybPracujacy = 1;
-
 enum KolumnaPlac { LpNazwisko, LpNumer, LpSymbol };
 
 QLabel* napis(const QString& nazwa) {
@@ -259,8 +257,7 @@ void frmPlaceLista::usun() {
     const auto klucz = biezacy();
     if (!klucz || !lista_.Usun_prac()) return;
     oznacz(*klucz, false);
-    const qint64 id = lvwPlace_->wybrany();
-    const qint64 sasiad = id + 1 < linie_.size() ? id + 1 : id - 1;
+    const qint64 sasiad = lvwPlace_->sasiad(lvwPlace_->wybrany());
     const auto zaznacz = sasiad >= 0 ? std::optional(linie_.at(sasiad).klucz) : std::nullopt;
     linie_ = lista_.Wczytaj_listep();
     pokazListe(zaznacz);

@@ -102,9 +102,9 @@ bool Miesiace::Usun_miesiac(RokMies miesiac) {
                              Styl::Wykrzyknik);
         return false;
     }
-    if (!o_.rozmowa.pytanie(QStringLiteral("Czy na pewno chcesz usunąć miesiąc ") +
-                            FormatMiesiaca(miesiac.mies) + QLatin1Char('-') + FormatRoku(miesiac.rok) +
-                            QStringLiteral(" z listy ?")))
+    if (!o_.rozmowa.pytanieUsuwajace(QStringLiteral("Czy na pewno chcesz usunąć miesiąc ") +
+                                     FormatMiesiaca(miesiac.mies) + QLatin1Char('-') +
+                                     FormatRoku(miesiac.rok) + QStringLiteral(" z listy ?")))
         return false;
     s.ZamknijMiesiac();
     try {

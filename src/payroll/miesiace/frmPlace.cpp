@@ -57,7 +57,9 @@ QStringList tekstyWiersza(const WierszMiesiaca& w) {
 frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic)
     : QDialog(rodzic), o_(otoczenie), miesiace_(otoczenie), zrodlo_{&otoczenie.sesja.rsPLACE},
       wiazanie_(zrodlo_),
-      lvwLista_(new WidokListy({{QStringLiteral("MIESIĄC")}, {QString()}, {QStringLiteral("STATUS")}},
+      lvwLista_(new WidokListy({{QStringLiteral("MIESIĄC"), Qt::AlignLeft, Porzadek::Data},
+                                {QString()},
+                                {QStringLiteral("STATUS")}},
                                {25, 35, 35})) {
     const Klepsydra klepsydra;
     setObjectName(QStringLiteral("frmPlace"));
@@ -155,7 +157,7 @@ void frmPlace::pokazPonownie() {
 void frmPlace::nowy() {
     zapiszOpis();
     const auto zapytaj = [this]() -> std::optional<RokMies> {
-        const qint64 ostatni = lvwLista_->lista().id(lvwLista_->lista().rowCount() - 1);
+        const qint64 ostatni = lvwLista_->lista().ostatni();
         const RokMies o = RokMies::zId(ostatni);
         const QDate wstepna = ostatni > 0 ? PierwszyDzien(o.rok, o.mies).addMonths(1) : QDate::currentDate();
         frmInputData okno(frmInputData::Tryb::Miesiac, QStringLiteral("Nowa lista płac"), wstepna, this);

@@ -287,7 +287,7 @@ RaportSerii ListaNadgodzin::NoweOsoby(QList<qint64> numery) {
 
 bool ListaNadgodzin::UsunOsobe() {
     wymagajOsoby();
-    if (!o_.rozmowa.pytanie(QStringLiteral("Czy na pewno usunąć zaznaczoną osobę ?"))) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(QStringLiteral("Czy na pewno usunąć zaznaczoną osobę ?"))) return false;
     zapisz([this] {
         ustawNaWierszu(0);
         if (osoby_.naWierszu()) osoby_.Delete();

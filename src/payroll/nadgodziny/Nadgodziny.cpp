@@ -70,7 +70,8 @@ bool Nadgodziny::UsunListe(RokMies miesiac) {
     if (!znajdz(miesiac))
         throw Blad(QStringLiteral("Nie ma listy nadgodzin za miesiąc %1.")
                        .arg(NapisMiesiaca(miesiac.rok, miesiac.mies)));
-    if (!o_.rozmowa.pytanie(QStringLiteral("Czy na pewno usunąć zaznaczony miesiąc ?"))) return false;
+    if (!o_.rozmowa.pytanieUsuwajace(QStringLiteral("Czy na pewno usunąć zaznaczony miesiąc ?")))
+        return false;
     Sesja& s = o_.sesja;
     try {
         Transakcja transakcja(s.cnPlace, QStringLiteral("Usunięcie listy nadgodzin %1").arg(miesiac.napis()));

@@ -25,7 +25,6 @@ namespace tornel::payroll {
 
 namespace {
 
-constexpr int kTrybPracujacy = 1;
 constexpr int kWierszyMiesiecy = 7;
 
 enum KolumnaOsoby { Numer, Nazwisko };
@@ -53,6 +52,7 @@ WidokListy* tabliczka(const QString& nazwa, QList<KolumnaListy> kolumny, const Q
                       int wierszy) {
     auto* widok = new WidokListy(std::move(kolumny), udzialy);
     widok->setObjectName(nazwa);
+    widok->ustawRole(RolaListy::Tabliczka);
     widok->setFocusPolicy(Qt::NoFocus);
     widok->setSelectionMode(QAbstractItemView::NoSelection);
     widok->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -81,7 +81,8 @@ WidokListy* tabliczkaRownan() {
 
 frmNadg::frmNadg(Otoczenie& otoczenie, QWidget* rodzic)
     : QDialog(rodzic), o_(otoczenie), nadgodziny_(otoczenie),
-      lvwLista_(new WidokListy({{QStringLiteral("MIESIĄC")}, {QString()}}, {35, 65})),
+      lvwLista_(new WidokListy({{QStringLiteral("MIESIĄC"), Qt::AlignLeft, Porzadek::Data}, {QString()}},
+                               {35, 65})),
       lvwOsoby_(new WidokListy({{QStringLiteral("NR"), Qt::AlignRight},
                                 {QStringLiteral("NAZWISKO")},
                                 {QStringLiteral("GODZ."), Qt::AlignRight},
@@ -293,7 +294,7 @@ void frmNadg::ustawDostepnosc() {
 void frmNadg::NowaLista() {
     siatka_->zakoncz();
     const auto zapytaj = [this]() -> std::optional<RokMies> {
-        const qint64 ostatni = lvwLista_->lista().id(lvwLista_->lista().rowCount() - 1);
+        const qint64 ostatni = lvwLista_->lista().ostatni();
         const RokMies o = RokMies::zId(ostatni);
         const QDate wstepna = ostatni > 0 ? PierwszyDzien(o.rok, o.mies).addMonths(1) : QDate::currentDate();
         frmInputData okno(frmInputData::Tryb::Miesiac, windowTitle(), wstepna, this);

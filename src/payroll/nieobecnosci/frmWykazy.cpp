@@ -3,6 +3,7 @@
 #include "common/Liczby.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
+#include "okna/UwagaPola.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
 #include <QFormLayout>
@@ -50,8 +51,8 @@ QList<WierszListy> wiersze(const QList<LiniaWykazu>& miesiace, Kwoty kwoty) {
 
 } // namespace
 
-frmWykaz::frmWykaz(const QString& tytul, WidokListy* lista, QWidget* rodzic)
-    : QDialog(rodzic), uklad_(new QVBoxLayout(this)), lvwMiesiace_(lista) {
+frmWykaz::frmWykaz(const QString& nazwa, const QString& tytul, WidokListy* lista, QWidget* rodzic)
+    : Okno(nazwa, rodzic), uklad_(new QVBoxLayout(this)), lvwMiesiace_(lista) {
     setWindowTitle(tytul);
     setMinimumSize(58 * Wyglad::kSiatka, 44 * Wyglad::kSiatka);
     uklad_->setContentsMargins(kMargines, kMargines, kMargines, kMargines);
@@ -72,18 +73,27 @@ PoleTekstu* frmWykaz::poleSredniej(const QString& nazwa, const QString& podpis, 
     connect(cmdDalej, &QPushButton::clicked, this, &QDialog::accept);
     uklad_->addWidget(rzadPrzyciskow({cmdDalej}));
     sredniej->setFocus();
+    sredniej_ = sredniej;
     return sredniej;
+}
+
+void frmWykaz::accept() {
+    const QString tekst = sredniej_->text().trimmed();
+    const QString zdanie = QStringLiteral("„%1” nie jest kwotą. „Dalej” przyjmie 0,00.").arg(tekst);
+    const bool kwota = tekst.isEmpty() || CzytajKwote(tekst);
+    if (kwota || UwagaPola::zdanie(*sredniej_) == zdanie) return QDialog::accept();
+    UwagaPola::ustaw(*sredniej_, zdanie);
+    sredniej_->setFocus();
 }
 
 frmWykazPodstawL4::frmWykazPodstawL4(const QList<LiniaWykazu>& miesiace, Waluta sredniaBrutto,
                                      QWidget* rodzic)
-    : frmWykaz(QStringLiteral("Wykaz miesięcznych podstaw do L-4"),
+    : frmWykaz(QStringLiteral("frmWykazPodstawL4"), QStringLiteral("Wykaz miesięcznych podstaw do L-4"),
                new WidokListy({{QStringLiteral("MIESIĄC")},
                                {QStringLiteral("KWOTA"), Qt::AlignRight},
                                {QStringLiteral("PO SKŁADKACH"), Qt::AlignRight}},
                               {44, 28, 28}),
                rodzic) {
-    setObjectName(QStringLiteral("frmWykazPodstawL4"));
     lvwMiesiace_->ustaw(wiersze(miesiace, Kwoty::BruttoINetto));
     uklad_->addWidget(podpowiedz(QStringLiteral("Stawkę za dzień daje średnia po składkach. Zmieniona "
                                                 "średnia brutto jest pomniejszana o składki pracownika.")));
@@ -96,10 +106,9 @@ std::optional<Waluta> frmWykazPodstawL4::srednia() const { return CzytajKwote(tx
 frmWykazPodstaw::frmWykazPodstaw(const QList<LiniaWykazu>& miesiace, qint64 dni, Waluta stawkaDzienna,
                                  QWidget* rodzic)
     : frmWykaz(
-          QStringLiteral("Wykaz miesięcznych podstaw do urlopu"),
+          QStringLiteral("frmWykazPodstaw"), QStringLiteral("Wykaz miesięcznych podstaw do urlopu"),
           new WidokListy({{QStringLiteral("MIESIĄC")}, {QStringLiteral("KWOTA"), Qt::AlignRight}}, {60, 40}),
           rodzic) {
-    setObjectName(QStringLiteral("frmWykazPodstaw"));
     lvwMiesiace_->ustaw(wiersze(miesiace, Kwoty::Brutto));
     auto* labDni = new QLabel(QStringLiteral("Dni przepracowane w tych miesiącach: %1").arg(dni));
     labDni->setObjectName(QStringLiteral("labDni"));
@@ -111,8 +120,8 @@ frmWykazPodstaw::frmWykazPodstaw(const QList<LiniaWykazu>& miesiace, qint64 dni,
 std::optional<Waluta> frmWykazPodstaw::dniowka() const { return CzytajKwote(txtDniowka_->text()); }
 
 frmNrSkladnikaURL::frmNrSkladnikaURL(const OkresUrlopu& okres, int proponowany, QWidget* rodzic)
-    : QDialog(rodzic), txtSkl_(pole(QStringLiteral("txtSkl"), QString::number(proponowany))) {
-    setObjectName(QStringLiteral("frmNrSkladnikaURL"));
+    : Okno(QStringLiteral("frmNrSkladnikaURL"), rodzic),
+      txtSkl_(pole(QStringLiteral("txtSkl"), QString::number(proponowany))) {
     setWindowTitle(QStringLiteral("Wyliczanie urlopu"));
     setMinimumWidth(40 * Wyglad::kSiatka);
     auto* uklad = new QVBoxLayout(this);

@@ -1,8 +1,8 @@
 // The screens that open while one row's absences are priced: the lists of averages and the component of a
 // vacation period.
 #pragma once
+#include "okna/Okno.h"
 #include "payroll/nieobecnosci/WykazyPodstaw.h"
-#include <QDialog>
 
 class QLabel;
 class QVBoxLayout;
@@ -15,15 +15,22 @@ class WidokListy;
 namespace tornel::payroll {
 
 /// Months with their amounts, an average that may be changed, and "Dalej", which is what closing means here.
-class frmWykaz : public QDialog {
+class frmWykaz : public Okno {
     Q_OBJECT
+public:
+    /// "Dalej": a text that is no amount is told beside its field first, and counts as none the second time.
+    void accept() override;
+
 protected:
-    frmWykaz(const QString& tytul, WidokListy* lista, QWidget* rodzic);
+    frmWykaz(const QString& nazwa, const QString& tytul, WidokListy* lista, QWidget* rodzic);
 
     /// The line of the average under the list.
     PoleTekstu* poleSredniej(const QString& nazwa, const QString& podpis, Waluta srednia);
     QVBoxLayout* uklad_;
     WidokListy* lvwMiesiace_;
+
+private:
+    PoleTekstu* sredniej_ = nullptr;
 };
 
 /// "Wykaz miesięcznych podstaw do L-4".
@@ -51,7 +58,7 @@ private:
 };
 
 /// "Wyliczanie urlopu": which component a vacation period goes to. Rejected, the period is skipped.
-class frmNrSkladnikaURL : public QDialog {
+class frmNrSkladnikaURL : public Okno {
     Q_OBJECT
 public:
     frmNrSkladnikaURL(const OkresUrlopu& okres, int proponowany, QWidget* rodzic = nullptr);

@@ -1,0 +1,89 @@
+#include "okna/Okno.h"
+#include "common/Blad.h"
+#include "okna/Aplikacja.h"
+#include "okna/PamiecOkien.h"
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QSplitter>
+
+namespace tornel::okna {
+
+Okno::Okno(const QString& nazwa, QWidget* rodzic, PoEnterze poEnterze)
+    : QDialog(rodzic), poEnterze_(poEnterze) {
+    setObjectName(nazwa);
+    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
+        connect(program, &Aplikacja::danePrzeczytane, this, [this] { pokazPonownie(); });
+}
+
+QSplitter* Okno::dzielnik(QWidget* lewa, int szerokosc, QWidget* prawa) {
+    auto* dzielnik = new QSplitter;
+    dzielnik->setObjectName(QStringLiteral("dzielnik"));
+    dzielnik->setChildrenCollapsible(false);
+    for (QWidget* strona : {lewa, prawa}) dzielnik->addWidget(strona);
+    dzielnik->setStretchFactor(1, 1);
+    lewa->setMinimumWidth(szerokosc / 2);
+    dzielnik->setSizes({szerokosc, QWIDGETSIZE_MAX / 2});
+    return dzielnik;
+}
+
+void Okno::showEvent(QShowEvent* zdarzenie) {
+    if (!std::exchange(pokazane_, true)) pamiecOkien::przywroc(*this);
+    QDialog::showEvent(zdarzenie);
+}
+
+void Okno::done(int wynik) {
+    if (!moznaZamknac()) return;
+    if (pokazane_) pamiecOkien::zapamietaj(*this);
+    QDialog::done(wynik);
+}
+
+void Okno::closeEvent(QCloseEvent* zdarzenie) {
+    // Refused in advance: should something keep the window, it has to stay.
+    zdarzenie->ignore();
+    reject();
+    zdarzenie->setAccepted(!isVisible());
+}
+
+void Okno::keyPressEvent(QKeyEvent* zdarzenie) {
+    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
+    if (!enter || poEnterze_ == PoEnterze::PrzyciskDomyslny) return QDialog::keyPressEvent(zdarzenie);
+    if (auto* naPrzycisku = qobject_cast<QPushButton*>(focusWidget()))
+        naPrzycisku->click();
+    else
+        nastepnePole();
+}
+
+OknoEdycji::OknoEdycji(const QString& nazwa, Rozmowa& rozmowa, Zamykanie zamykanie, QWidget* rodzic,
+                       PoEnterze poEnterze)
+    : Okno(nazwa, rodzic, poEnterze), rozmowa_(rozmowa), zamykanie_(zamykanie) {}
+
+bool OknoEdycji::rozstrzygnijZmiany() {
+    if (!jestZmiana()) return true;
+    if (zamykanie_ == Zamykanie::Zapis) return zapiszZmiany();
+    const auto [tekst, tytul] = pytanieOZmiany();
+    const auto zapisac = rozmowa_.pytanieZAnulowaniem(tekst, tytul);
+    if (!zapisac) return false;
+    if (*zapisac) return zapiszZmiany();
+    porzucZmiany();
+    return true;
+}
+
+void OknoEdycji::zamknijBezZapisu() {
+    bezZapisu_ = true;
+    reject();
+}
+
+bool OknoEdycji::moznaZamknac() {
+    if (bezZapisu_) return true;
+    try {
+        return zakonczWpisywanie() && rozstrzygnijZmiany();
+    } catch (const Blad& blad) {
+        const QString pytanie = QStringLiteral("\r\n\r\nCzy zamknąć okno bez zapisania zmian ?");
+        if (!rozmowa_.pytanieUsuwajace(blad.komunikat() + pytanie)) return false;
+        porzucZmiany();
+        return true;
+    }
+}
+
+} // namespace tornel::okna

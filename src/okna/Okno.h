@@ -1,0 +1,89 @@
+// The one base of all screens and dialogs: closing, keys, what is remembered of a window, and what becomes of
+// changes that are not stored.
+#pragma once
+#include "common/Rozmowa.h"
+#include <QDialog>
+
+class QSplitter;
+
+namespace tornel::okna {
+
+/// What Enter does in a window's fields: presses the default button, or goes to the next field.
+enum class PoEnterze { PrzyciskDomyslny, NastepnePole };
+
+/// A window that remembers its size, place, splitters, columns and marked tabs (`pamiecOkien`). Whatever
+/// closes it, a button, Escape or the window's cross, comes through `done`, which asks `moznaZamknac` first.
+class Okno : public QDialog {
+    Q_OBJECT
+public:
+    void done(int wynik) override;
+
+protected:
+    /// `nazwa`: objectName of the screen, by which it is remembered and has its page of the handbook.
+    explicit Okno(const QString& nazwa, QWidget* rodzic = nullptr,
+                  PoEnterze poEnterze = PoEnterze::PrzyciskDomyslny);
+
+    /// False keeps the window open.
+    [[nodiscard]] virtual bool moznaZamknac() { return true; }
+    /// The handles were read anew: the screen shows its current row again.
+    virtual void pokazPonownie() {}
+    /// Where Enter leads from a field.
+    virtual void nastepnePole() { focusNextChild(); }
+
+    /// `lewa` at the left, `szerokosc` pixels wide until the clerk moves the border, and `prawa`, which takes
+    /// the rest.
+    [[nodiscard]] QSplitter* dzielnik(QWidget* lewa, int szerokosc, QWidget* prawa);
+
+    void showEvent(QShowEvent* zdarzenie) override;
+    void closeEvent(QCloseEvent* zdarzenie) override;
+    void keyPressEvent(QKeyEvent* zdarzenie) override;
+
+private:
+    PoEnterze poEnterze_;
+    bool pokazane_ = false;
+};
+
+/// What becomes of changes when their screen is closed: they are stored without asking, or the clerk is asked
+/// to store them, to drop them, or to stay.
+enum class Zamykanie { Zapis, Pytanie };
+
+/// A screen whose fields hold changes until they are stored. One policy for a failure: it is told, the clerk
+/// may close without storing, and else everything typed stays.
+class OknoEdycji : public Okno {
+    Q_OBJECT
+protected:
+    OknoEdycji(const QString& nazwa, Rozmowa& rozmowa, Zamykanie zamykanie, QWidget* rodzic = nullptr,
+               PoEnterze poEnterze = PoEnterze::NastepnePole);
+
+    /// Leaves the field in work; false if it could not take what was typed and has just said so, since the
+    /// screen must stay then.
+    [[nodiscard]] virtual bool zakonczWpisywanie() { return true; }
+    [[nodiscard]] virtual bool jestZmiana() const = 0;
+    /// Stores the changes. False if that was refused, after a message; throws `Blad` on a failure.
+    [[nodiscard]] virtual bool zapiszZmiany() = 0;
+    virtual void porzucZmiany() = 0;
+    struct PytanieOZmiany {
+        QString tekst;
+        QString tytul;
+    };
+    /// The question of `Zamykanie::Pytanie`.
+    [[nodiscard]] virtual PytanieOZmiany pytanieOZmiany() const {
+        return {QStringLiteral("Czy zapisać zmiany ?"), QStringLiteral("Pytanie")};
+    }
+
+    /// What a button does that says it drops the changes: closes at once, the field in work not even left.
+    void zamknijBezZapisu();
+
+    /// Stores or drops what was changed, as the screen's way is; false when the screen has to stay. Throws
+    /// `Blad`.
+    [[nodiscard]] bool rozstrzygnijZmiany();
+    [[nodiscard]] bool moznaZamknac() override;
+    [[nodiscard]] Rozmowa& rozmowa() { return rozmowa_; }
+
+private:
+    Rozmowa& rozmowa_;
+    Zamykanie zamykanie_;
+    bool bezZapisu_ = false;
+};
+
+} // namespace tornel::okna

@@ -1,0 +1,85 @@
+#include "okna/PamiecOkien.h"
+#include "okna/WidokListy.h"
+#include <algorithm>
+#include <QHeaderView>
+#include <QSettings>
+#include <QSplitter>
+#include <QTabWidget>
+
+namespace tornel::okna::pamiecOkien {
+
+namespace {
+
+constexpr auto kPamietana = "pamietana";
+
+QSettings ustawienia() {
+    return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tornel"), QStringLiteral("Tornel")};
+}
+
+/// A list's columns as text: the shares, and by which of them it is ordered.
+QString kluczKolumn(const WidokListy& lista) { return lista.objectName() + QStringLiteral("/kolumny"); }
+QString kluczPorzadku(const WidokListy& lista) { return lista.objectName() + QStringLiteral("/porzadek"); }
+
+void zapamietajListe(QSettings& pamiec, const WidokListy& lista) {
+    QStringList udzialy;
+    for (const int udzial : lista.udzialy()) udzialy.append(QString::number(udzial));
+    pamiec.setValue(kluczKolumn(lista), udzialy);
+    const int kolumna = lista.header()->sortIndicatorSection();
+    const bool malejaco = lista.header()->sortIndicatorOrder() == Qt::DescendingOrder;
+    if (kolumna < 0)
+        pamiec.remove(kluczPorzadku(lista));
+    else
+        pamiec.setValue(kluczPorzadku(lista), malejaco ? -kolumna - 1 : kolumna + 1);
+}
+
+void przywrocListe(const QSettings& pamiec, WidokListy& lista) {
+    QList<int> udzialy;
+    for (const QString& udzial : pamiec.value(kluczKolumn(lista)).toStringList())
+        udzialy.append(udzial.toInt());
+    if (!udzialy.isEmpty()) lista.ustawUdzialy(udzialy);
+    const int porzadek = pamiec.value(kluczPorzadku(lista)).toInt();
+    if (porzadek == 0 || std::abs(porzadek) > lista.lista().columnCount()) return;
+    lista.sortuj(std::abs(porzadek) - 1, porzadek < 0 ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+template <typename W, typename O>
+QList<W*> nazwane(O& okno) {
+    QList<W*> wynik;
+    for (W* w : okno.template findChildren<W*>())
+        if (!w->objectName().isEmpty() && w->window() == &okno) wynik.append(w);
+    return wynik;
+}
+
+} // namespace
+
+void pamietajZakladke(QWidget& zakladki) { zakladki.setProperty(kPamietana, true); }
+
+void zapamietaj(const QWidget& okno) {
+    if (okno.objectName().isEmpty()) return;
+    QSettings pamiec = ustawienia();
+    pamiec.beginGroup(okno.objectName());
+    pamiec.setValue(QStringLiteral("okno"), okno.saveGeometry());
+    for (const auto* dzielnik : nazwane<QSplitter>(okno))
+        pamiec.setValue(dzielnik->objectName(), dzielnik->saveState());
+    for (const auto* lista : nazwane<WidokListy>(okno)) zapamietajListe(pamiec, *lista);
+    for (const auto* zakladki : nazwane<QTabWidget>(okno))
+        if (zakladki->property(kPamietana).toBool())
+            pamiec.setValue(zakladki->objectName(), zakladki->currentIndex());
+}
+
+void przywroc(QWidget& okno) {
+    if (okno.objectName().isEmpty()) return;
+    QSettings pamiec = ustawienia();
+    pamiec.beginGroup(okno.objectName());
+    okno.restoreGeometry(pamiec.value(QStringLiteral("okno")).toByteArray());
+    for (auto* dzielnik : nazwane<QSplitter>(okno))
+        dzielnik->restoreState(pamiec.value(dzielnik->objectName()).toByteArray());
+    for (auto* lista : nazwane<WidokListy>(okno)) przywrocListe(pamiec, *lista);
+    for (auto* zakladki : nazwane<QTabWidget>(okno)) {
+        const int nr = pamiec.value(zakladki->objectName(), -1).toInt();
+        if (zakladki->property(kPamietana).toBool() && nr >= 0 && nr < zakladki->count())
+            zakladki->setCurrentIndex(nr);
+    }
+}
+
+} // namespace tornel::okna::pamiecOkien

@@ -1,0 +1,20 @@
+// What the desktop remembers of the windows from one time to the next: never the clerk's data, which is in
+// the database.
+#pragma once
+#include "common/Przestrzenie.h"
+
+class QWidget;
+
+namespace tornel::okna::pamiecOkien {
+
+/// Marks a QTabWidget inside a window as one whose last tab is remembered.
+void pamietajZakladke(QWidget& zakladki);
+
+/// Notes the window's size and place, its splitters, the widths and the order of its lists, and its marked
+/// tabs, under its objectName in the user's settings file (`Tornel.ini`). A window without a name is not
+/// noted.
+void zapamietaj(const QWidget& okno);
+/// Gives the window back what was noted; what is missing or does not fit is left as it was built.
+void przywroc(QWidget& okno);
+
+} // namespace tornel::okna::pamiecOkien
