@@ -4,6 +4,7 @@
 #include "rules/Otoczenie.h"
 #include <QDialog>
 
+class QCheckBox;
 class QLabel;
 
 namespace tornel::okna {
@@ -16,11 +17,13 @@ class frmWybPr : public QDialog {
     Q_OBJECT
 public:
     enum class Ilu { Jeden, Wielu };
+    /// Whether the clerk may have the dismissed shown as well.
+    enum class Przelacznik { Brak, TakzeZwolnieni };
 
     /// `tryb`: whom it offers, as in `Pracownicy::doWyboru`; `zaznacz`: who is chosen at first, if offered.
     /// Reads the personnel tables, whose handles stand elsewhere afterwards.
     frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu = Ilu::Wielu, QWidget* rodzic = nullptr,
-             qint64 zaznacz = -1);
+             qint64 zaznacz = -1, Przelacznik przelacznik = Przelacznik::Brak);
 
     /// With nobody to offer it gives the mode's message, if there is one, and is cancelled at once.
     int exec() override;
@@ -33,13 +36,16 @@ public:
 
 private:
     void buduj(Ilu ilu);
+    void wczytaj(qint64 zaznacz);
     void zaznaczDzial();
     void pokazIlu();
 
     Otoczenie& o_;
     int tryb_;
+    Przelacznik przelacznik_;
     QList<Osoba> osoby_;
     WidokListy* lvwWybPr_;
+    QCheckBox* chkZwolnieni_;
     QLabel* labZaznaczono_;
 };
 

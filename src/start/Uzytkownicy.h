@@ -12,8 +12,8 @@ void InitUzytkownicy(Sesja& sesja);
 inline void UtworzAdmina(Sesja& sesja) { InitUzytkownicy(sesja); }
 
 /// Whether the user `nazwa` (blanks around it do not count) exists and has the password `haslo`. Blanks
-/// around the typed password do not count, those of the stored one do, deliberately. Sets the session's user:
-/// the name, the password as typed, and the type, which is 0 for an unknown name. Reads `UZYTKOWNICY`, which
+/// around the typed and the stored password do not count. Sets the session's user: the name, the password as
+/// typed, and the type, which is 0 for an unknown name. Reads `UZYTKOWNICY`, which
 /// must be open.
 [[nodiscard]] bool SprawdzLogin(Sesja& sesja, const QString& nazwa, const QString& haslo);
 /// The same, by the name that start-up gives it.

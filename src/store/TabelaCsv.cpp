@@ -214,7 +214,7 @@ QList<TabelaPliku> tabeleWspolne(const TabelaPliku& tabela) {
 }
 
 void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const PlikCsv& plik,
-                    const QList<const Rekord*>& nowe) {
+                    const QList<const Rekord*>& nowe, const DomyslneWiersza& domyslne) {
     if (nowe.isEmpty()) return;
     for (const TabelaPliku& wspolna : tabeleWspolne(tabela)) {
         if (wspolna.def == tabela.def) continue;
@@ -226,6 +226,7 @@ void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const Pli
         for (const Rekord* rekord : nowe) {
             if (klucze.contains(rekord->klucz)) continue;
             rs.AddNewZero();
+            if (domyslne) domyslne(rs);
             for (const Kolumna& k : kluczowe)
                 for (qsizetype i = 0; i < plik.kolumny.size(); ++i)
                     if (teSameNazwy(plik.kolumny[i].def().nazwa, k.def().nazwa))
@@ -273,7 +274,8 @@ QByteArray EksportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela) {
     return wynik;
 }
 
-WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, const QByteArray& csv) {
+WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, const QByteArray& csv,
+                            const DomyslneWiersza& domyslne) {
     const PlikCsv plik = czytajPlik(*tabela.def, csv);
     const QList<Kolumna> kluczowe = kolumnyKlucza(*tabela.def);
     QHash<QString, const Rekord*> poKluczu;
@@ -300,7 +302,7 @@ WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, c
     }
     wynik.dodane = static_cast<int>(nowe.size());
     rs.UpdateBatch();
-    dodajPartnerow(polaczenie, tabela, plik, nowe);
+    dodajPartnerow(polaczenie, tabela, plik, nowe, domyslne);
     transakcja.zatwierdz();
     return wynik;
 }
