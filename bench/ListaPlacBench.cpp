@@ -229,8 +229,13 @@ BENCHMARK(WsadGrudzien)->Apply(rozmiaryFirmy);
 BENCHMARK(NieobecnosciStyczen)->Apply(rozmiaryFirmy);
 BENCHMARK(NieobecnosciGrudzien)->Apply(rozmiaryFirmy);
 BENCHMARK(StartProgramu)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
-BENCHMARK(EkranMiesiaca)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
-BENCHMARK(EkranKadr)->Arg(10000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(EkranMiesiaca)
+    ->Arg(10000)
+    ->Arg(50000)
+    ->UseManualTime()
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(EkranKadr)->Arg(10000)->Arg(50000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(JedenPracownik)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -106,7 +106,7 @@ bool ListaUzytkownikow::Usun(const QString& nazwa) {
 }
 
 bool ListaUzytkownikow::Nowy(const QString& nazwa, const QString& haslo, const QString& powtorzenie) {
-    if (haslo != powtorzenie)
+    if (haslo.trimmed() != powtorzenie.trimmed())
         return odmow(QStringLiteral("Nowe hasło oraz hasło powtórzone są różne. Wpisz hasło jeszcze raz."));
     const QString nowa = nazwa.trimmed();
     if (!nazwaWolna(nowa)) return false;

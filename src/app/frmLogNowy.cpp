@@ -33,7 +33,8 @@ QString frmLogNowy::nazwa() const { return txtNazwa_->text().trimmed(); }
 
 void frmLogNowy::accept() {
     if (lista_.Nowy(txtNazwa_->text(), txtHaslo_->text(), txtPowtorzenie_->text())) return QDialog::accept();
-    (txtHaslo_->text() != txtPowtorzenie_->text() ? txtHaslo_ : txtNazwa_)->setFocus(Qt::TabFocusReason);
+    const bool rozne = txtHaslo_->text().trimmed() != txtPowtorzenie_->text().trimmed();
+    (rozne ? txtHaslo_ : txtNazwa_)->setFocus(Qt::TabFocusReason);
 }
 
 } // namespace tornel::app

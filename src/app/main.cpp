@@ -53,7 +53,7 @@ std::unique_ptr<Program> PStart(const QString& baza, Rozmowa& rozmowa) {
 bool zaloguj(Sesja& sesja, Rozmowa& rozmowa) {
     frmLogowanie logowanie;
     if (logowanie.exec() != QDialog::Accepted) return false;
-    if (SprawdzUzytkownika(sesja, logowanie.nazwa(), logowanie.haslo())) return true;
+    if (SprawdzLogin(sesja, logowanie.nazwa(), logowanie.haslo())) return true;
     rozmowa.komunikat(
         QStringLiteral("Podana nazwa użytkownika lub hasło są nieprawidłowe. Program nie zostanie "
                        "uruchomiony."),

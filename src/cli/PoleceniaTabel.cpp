@@ -1,5 +1,6 @@
 #include "cli/Pliki.h"
 #include "cli/Polecenia.h"
+#include "personnel/Pracownicy.h"
 #include "store/Sesja.h"
 #include "store/TabelaCsv.h"
 #include <QFileInfo>
@@ -24,7 +25,8 @@ int importuj(Wywolanie& w) {
     const QByteArray csv = CzytajPlik(plik);
     WynikImportu wynik;
     try {
-        wynik = ImportujTabele(sesja.cnPlace, tabela, csv);
+        wynik = ImportujTabele(sesja.cnPlace, tabela, csv,
+                               [&](Recordset& nowy) { Pracownicy(w.otoczenie()).WpiszDomyslne(nowy); });
     } catch (const BladBazy&) {
         throw;
     } catch (const Blad& blad) {

@@ -91,9 +91,6 @@ Wartosc KartotekaPracownika::wartosc(Kolumna kolumna) const {
     return wiersz ? wiersz->wartosc(kolumna) : Wartosc(Null);
 }
 
-// --- writing to the handles
-// --------------------------------------------------------------------------------------
-
 void KartotekaPracownika::ustaw(Kolumna kolumna, const Wartosc& wartosc) {
     const std::size_t tabela = ktoraTabela(kolumna);
     Recordset& rs = *tabele_[tabela];
@@ -116,7 +113,9 @@ KartotekaPracownika::Zmiany KartotekaPracownika::poprzedniaTozsamosc(const Zmian
             const Wartosc* wartoscPo = nowa(zmiany, p.kolumna);
             return wartoscPo && rozne(*wartoscPo, wartosc(p.kolumna));
         });
-        if (!zmieniona) continue;
+        const bool bylaPusta =
+            std::ranges::all_of(razem, [&](const Para& p) { return pusta(wartosc(p.kolumna)); });
+        if (!zmieniona || bylaPusta) continue;
         for (const Para& p : razem) wynik.append({p.druga, wartosc(p.kolumna)});
     }
     return wynik;
@@ -128,9 +127,6 @@ void KartotekaPracownika::ZapiszZakladke(const Zmiany& zmiany) {
     for (const auto& [kolumna, wartosc] : poprzedniaTozsamosc(zmiany)) ustaw(kolumna, wartosc);
     for (const auto& [kolumna, wartosc] : zmiany) ustaw(kolumna, wartosc);
 }
-
-// --- storing and dropping
-// ----------------------------------------------------------------------------------------
 
 bool KartotekaPracownika::zmienionyPracownik() const {
     const auto wpis = prcId_ ? dziennik_.lower_bound({*prcId_, 0, 0}) : dziennik_.end();
@@ -176,9 +172,6 @@ void KartotekaPracownika::Ponow() {
     }
     prcId_ = biezacy;
 }
-
-// --- rules of single fields
-// --------------------------------------------------------------------------------------
 
 QString KartotekaPracownika::SprawdzPesel(const QString& tekst) const {
     if (tekst.isEmpty() || tekst.size() >= kDlugoscPesel) return tekst;

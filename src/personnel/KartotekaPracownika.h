@@ -36,8 +36,9 @@ public:
     [[nodiscard]] Wartosc wartosc(Kolumna kolumna) const;
 
     /// Writes the changed fields of one tab to the handles as one write: where an identity column really
-    /// differs, the value before this write goes to its column of the previous identity; series and number of
-    /// the identity card go together. A record that is missing in one of the tables is added.
+    /// differs, the value before this write, unless it was empty, goes to its column of the previous
+    /// identity; series and number of the identity card go together. A record that is missing in one of the
+    /// tables is added.
     void ZapiszZakladke(const Zmiany& zmiany);
 
     /// Whether anything waits to be stored, of anybody and of the employee taken up.

@@ -2,6 +2,7 @@
 #include "common/Blad.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
+#include "personnel/ZapisyPracownika.h"
 #include "rules/SkladnikiPlac.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
@@ -28,6 +29,38 @@ constexpr Kolumna kFlagi[] = {
     PRACZUS("zwua_c"),     PRACZUS("zwua_w"),     PRACZUS("zwua_z"),
 };
 
+struct OpisFiltru {
+    FiltrPracownikow filtr;
+    QStringView tytul;
+    Kolumna flaga; ///< that must be "T"; without a table for none
+    Zwolnieni zwolnieni;
+};
+
+constexpr OpisFiltru kFiltry[] = {
+    {FiltrPracownikow::Wszyscy, u"Wszyscy pracownicy", {}, Zwolnieni::Takze},
+    {FiltrPracownikow::Pracujacy, u"Pracownicy pracujący", {}, Zwolnieni::Pominieci},
+    {FiltrPracownikow::Zwolnieni, u"Pracownicy zwolnieni", {}, Zwolnieni::Tylko},
+    {FiltrPracownikow::UmowaZlecenie, u"Pracownicy zatrudnieni na umowę zlecenie", PRACPR("umowa_zlec"),
+     Zwolnieni::Takze},
+    {FiltrPracownikow::UmowaODzielo, u"Pracownicy zatrudnieni na umowę o dzieło", PRACPR("umowa_o_dz"),
+     Zwolnieni::Takze},
+    {FiltrPracownikow::Honoraria, u"Pracownicy otrzymujący honoraria", PRACPR("honorarium"),
+     Zwolnieni::Takze},
+};
+
+const OpisFiltru& opisFiltru(FiltrPracownikow filtr) {
+    return *std::ranges::find(kFiltry, filtr, &OpisFiltru::filtr);
+}
+
+/// The rates that constants 20 to 25 suggest.
+constexpr struct {
+    Kolumna kolumna;
+    Waluta Stale::*stawka;
+} kStawki[] = {
+    {PRACZUS("wsk_fe"), &Stale::PFE}, {PRACZUS("wsk_fr"), &Stale::PFR}, {PRACZUS("wsk_fc"), &Stale::PFC},
+    {PRACZUS("Fp"), &Stale::PFP},     {PRACZUS("gsp"), &Stale::PFGSP},  {PRACZUS("wsk_ubzdr"), &Stale::PUBZD},
+};
+
 void sortujPoNazwiskach(QList<Osoba>& osoby) {
     QCollator porzadek(QLocale(QLocale::Polish, QLocale::Poland));
     std::vector<std::pair<QCollatorSortKey, Osoba>> klucze;
@@ -42,60 +75,29 @@ void sortujPoNazwiskach(QList<Osoba>& osoby) {
 
 } // namespace
 
-QList<Osoba> Pracownicy::wybierz(const Kolumna* flaga, const QString& wartosc, bool tylkoPracujacy,
-                                 PorzadekPracownikow porzadek) const {
+QList<Osoba> Pracownicy::wybierz(const Warunki& warunki) const {
     QList<Osoba> wynik;
+    wynik.reserve(o_.sesja.rsPRACDP.RecordCount());
     for (const Wiersz dp : o_.sesja.rsPRACDP.wiersze()) {
         const qint64 prcId = dp.liczba(PRACDP("prc_id"));
         const std::optional<Wiersz> pr = o_.sesja.rsPRACPR.szukaj(prcId);
-        const auto flagaPracownika = [&](Kolumna k) { return pr && pr->flaga(k); };
-        if (tylkoPracujacy && flagaPracownika(PRACPR("Zwoln"))) continue;
-        if (flaga && flagaPracownika(*flaga) != (wartosc == QLatin1String("T"))) continue;
+        const bool zwolniony = pr && pr->flaga(PRACPR("Zwoln"));
+        if (zwolniony && warunki.zwolnieni == Zwolnieni::Pominieci) continue;
+        if (!zwolniony && warunki.zwolnieni == Zwolnieni::Tylko) continue;
+        if (warunki.flaga.tabela && !(pr && pr->flaga(warunki.flaga))) continue;
         wynik.append({prcId, dp.tekst(PRACDP("Naz")), dp.tekst(PRACDP("Imie_1")),
-                      pr ? pr->tekst(PRACPR("dzial")) : QString(), flagaPracownika(PRACPR("Zwoln"))});
+                      pr ? pr->tekst(PRACPR("dzial")) : QString(), zwolniony});
     }
-    if (porzadek == PorzadekPracownikow::Nazwiska) sortujPoNazwiskach(wynik);
+    if (warunki.porzadek == PorzadekPracownikow::Nazwiska) sortujPoNazwiskach(wynik);
     return wynik;
 }
 
 QList<Osoba> Pracownicy::lista(FiltrPracownikow filtr, PorzadekPracownikow porzadek) const {
-    const QString tak = QStringLiteral("T"), nie = QStringLiteral("N");
-    static constexpr Kolumna zwolniony = PRACPR("Zwoln"), zlecenie = PRACPR("umowa_zlec"),
-                             dzielo = PRACPR("umowa_o_dz"), honoraria = PRACPR("honorarium");
-    switch (filtr) {
-    case FiltrPracownikow::Pracujacy:
-        return wybierz(&zwolniony, nie, false, porzadek);
-    case FiltrPracownikow::Zwolnieni:
-        return wybierz(&zwolniony, tak, false, porzadek);
-    case FiltrPracownikow::UmowaZlecenie:
-        return wybierz(&zlecenie, tak, false, porzadek);
-    case FiltrPracownikow::UmowaODzielo:
-        return wybierz(&dzielo, tak, false, porzadek);
-    case FiltrPracownikow::Honoraria:
-        return wybierz(&honoraria, tak, false, porzadek);
-    case FiltrPracownikow::Wszyscy:
-        break;
-    }
-    return wybierz(nullptr, {}, false, porzadek);
+    const OpisFiltru& opis = opisFiltru(filtr);
+    return wybierz({opis.flaga, opis.zwolnieni, porzadek});
 }
 
-QString Pracownicy::tytulListy(FiltrPracownikow filtr) {
-    switch (filtr) {
-    case FiltrPracownikow::Wszyscy:
-        return QStringLiteral("Wszyscy pracownicy");
-    case FiltrPracownikow::Pracujacy:
-        return QStringLiteral("Pracownicy pracujący");
-    case FiltrPracownikow::Zwolnieni:
-        return QStringLiteral("Pracownicy zwolnieni");
-    case FiltrPracownikow::UmowaZlecenie:
-        return QStringLiteral("Pracownicy zatrudnieni na umowę zlecenie");
-    case FiltrPracownikow::UmowaODzielo:
-        return QStringLiteral("Pracownicy zatrudnieni na umowę o dzieło");
-    case FiltrPracownikow::Honoraria:
-        return QStringLiteral("Pracownicy otrzymujący honoraria");
-    }
-    return {};
-}
+QString Pracownicy::tytulListy(FiltrPracownikow filtr) { return opisFiltru(filtr).tytul.toString(); }
 
 qint64 Pracownicy::szukaj(const QList<Osoba>& osoby, const QString& szukany) {
     const QString tekst = szukany.simplified();
@@ -113,11 +115,12 @@ qint64 Pracownicy::szukaj(const QList<Osoba>& osoby, const QString& szukany) {
     return wSrodku;
 }
 
-QList<Osoba> Pracownicy::doWyboru(int tryb) const {
-    static constexpr Kolumna zlecenie = PRACPR("umowa_zlec"), dzielo = PRACPR("umowa_o_dz"),
-                             honoraria = PRACPR("honorarium");
-    const Kolumna* flaga = (tryb & 2) ? &zlecenie : (tryb & 4) ? &dzielo : (tryb & 8) ? &honoraria : nullptr;
-    return wybierz(flaga, QStringLiteral("T"), true, PorzadekPracownikow::Nazwiska);
+QList<Osoba> Pracownicy::doWyboru(int tryb, Zwolnieni zwolnieni) const {
+    const Kolumna flaga = (tryb & 2)   ? PRACPR("umowa_zlec")
+                          : (tryb & 4) ? PRACPR("umowa_o_dz")
+                          : (tryb & 8) ? PRACPR("honorarium")
+                                       : Kolumna{};
+    return wybierz({flaga, zwolnieni, PorzadekPracownikow::Nazwiska});
 }
 
 QString Pracownicy::komunikatPustejListy(int tryb) {
@@ -171,31 +174,43 @@ void Pracownicy::NowyPracownik(const DaneNowegoPracownika& dane) {
     dodajRekordy(dane, zgloszenieDoUbezpieczen());
 }
 
+void Pracownicy::WpiszDomyslne(Recordset& nowy) const {
+    const TabelaDef* tabela = &nowy.tabela();
+    for (const Kolumna& flaga : kFlagi)
+        if (flaga.tabela == tabela) nowy.ustawFlage(flaga, false);
+    for (const auto& [kolumna, stawka] : kStawki)
+        if (kolumna.tabela == tabela) nowy.ustaw(kolumna, o_.stale.*stawka);
+    if (tabela == &schemat::PRACDP) nowy.ustaw(PRACDP("plec"), QStringLiteral("M"));
+    if (tabela == &schemat::PRACSK) {
+        const Maski maski = o_.skladniki.maski();
+        nowy.ustaw(PRACSK("dod"), static_cast<qint64>(maski.akt_sp));
+        nowy.ustaw(PRACSK("pot"), static_cast<qint64>(maski.akt_sm));
+    }
+}
+
 void Pracownicy::dodajRekordy(const DaneNowegoPracownika& dane, int oiZua) {
     Sesja& s = o_.sesja;
     s.kadry.AddNewZero(dane.prcId);
-    for (const Kolumna& flaga : kFlagi)
-        (flaga.tabela == &PRACPR ? s.rsPRACPR : s.rsPRACZUS).ustawFlage(flaga, false);
-
+    for (Recordset* rs : s.kadry) WpiszDomyslne(*rs);
     s.rsPRACDP.ustaw(PRACDP("Naz"), dane.nazwisko.trimmed());
     s.rsPRACDP.ustaw(PRACDP("Imie_1"), dane.imie.trimmed());
-    s.rsPRACDP.ustaw(PRACDP("plec"), QStringLiteral("M"));
-
-    s.rsPRACZUS.ustaw(PRACZUS("wsk_fe"), o_.stale.PFE);
-    s.rsPRACZUS.ustaw(PRACZUS("wsk_fr"), o_.stale.PFR);
-    s.rsPRACZUS.ustaw(PRACZUS("wsk_fc"), o_.stale.PFC);
-    s.rsPRACZUS.ustaw(PRACZUS("Fp"), o_.stale.PFP);
-    s.rsPRACZUS.ustaw(PRACZUS("gsp"), o_.stale.PFGSP);
-    s.rsPRACZUS.ustaw(PRACZUS("wsk_ubzdr"), o_.stale.PUBZD);
     s.rsPRACZUS.ustaw(PRACZUS("oi_zua"), oiZua);
-
-    const Maski maski = o_.skladniki.maski();
-    s.rsPRACSK.ustaw(PRACSK("dod"), static_cast<qint64>(maski.akt_sp));
-    s.rsPRACSK.ustaw(PRACSK("pot"), static_cast<qint64>(maski.akt_sm));
 
     Transakcja transakcja(s.cnPlace, QStringLiteral("Nowy pracownik nr %1").arg(dane.prcId));
     s.kadry.UpdateBatch(transakcja);
     transakcja.zatwierdz();
+}
+
+bool Pracownicy::mimoZapisow(qint64 prcId) const {
+    const ZapisyPracownika zapisy = ZnajdzZapisy(o_.sesja, prcId);
+    if (zapisy.puste()) return true;
+    return o_.rozmowa.pytanieUsuwajace(
+        QStringLiteral("Pracownik %1 o numerze %2 jest jeszcze w tych zapisach:\n\n%3\n\nZostaną one w bazie "
+                       "bez danych pracownika. Czy mimo to usunąć pracownika ?")
+            .arg(nazwisko(prcId))
+            .arg(prcId)
+            .arg(zapisy.opis()),
+        QStringLiteral("Ostrzeżenie !"));
 }
 
 bool Pracownicy::UsunPracownika(qint64 prcId) {
@@ -218,6 +233,7 @@ bool Pracownicy::UsunPracownika(qint64 prcId) {
             "Upewnij się czy usuwany pracownik nie jest wpisany na liscie plac lub dni wolnych itp. ") +
         QStringLiteral("Czy kontynuować ?");
     if (!o_.rozmowa.pytanieUsuwajace(ostrzezenie, QStringLiteral("Ostrzeżenie !"))) return false;
+    if (!mimoZapisow(prcId)) return false;
 
     Transakcja transakcja(s.cnPlace, QStringLiteral("Usunięcie pracownika nr %1").arg(prcId));
     while (rodzina.RecordCount() > 0) {

@@ -7,6 +7,10 @@
 #include <QList>
 #include <QString>
 
+namespace tornel::store {
+class Recordset;
+} // namespace tornel::store
+
 namespace tornel::personnel {
 
 /// The list's filter, by the menu that opened it.
@@ -14,6 +18,9 @@ enum class FiltrPracownikow { Wszyscy, Pracujacy, Zwolnieni, UmowaZlecenie, Umow
 
 /// "Według nazwisk" (Polish collation) or "Według numerów".
 enum class PorzadekPracownikow { Nazwiska, Numery };
+
+/// What becomes of the dismissed in a list of persons.
+enum class Zwolnieni { Pominieci, Takze, Tylko };
 
 struct Osoba {
     qint64 prcId = 0;
@@ -47,8 +54,9 @@ public:
     [[nodiscard]] static qint64 szukaj(const QList<Osoba>& osoby, const QString& szukany);
 
     /// Whom the person picker offers: mode 1 working employees; 2, 4 and 8 those of them with `umowa_zlec`,
-    /// `umowa_o_dz`, `honorarium` "T". By surname. Reads `PRACDP`, `PRACPR`.
-    [[nodiscard]] QList<Osoba> doWyboru(int tryb) const;
+    /// `umowa_o_dz`, `honorarium` "T"; the dismissed if they are wanted. By surname. Reads `PRACDP`,
+    /// `PRACPR`.
+    [[nodiscard]] QList<Osoba> doWyboru(int tryb, Zwolnieni zwolnieni = Zwolnieni::Pominieci) const;
     /// The message for an empty list of the picker, empty for a mode without one.
     [[nodiscard]] static QString komunikatPustejListy(int tryb);
 
@@ -66,16 +74,27 @@ public:
     /// `kNajwyzszyNumer` or one in use.
     void NowyPracownik(const DaneNowegoPracownika& dane);
 
-    /// Asks (twice, the second time warning of family members) and deletes the employee's records and his
-    /// rows of `RODZINA`. Month tables, calendars and registers keep their rows. False when the clerk said
-    /// No. Throws `Blad` for an unknown number.
+    /// Writes the defaults of a new employee into the current, newly added record of one of the five tables,
+    /// in memory.
+    void WpiszDomyslne(Recordset& nowy) const;
+
+    /// Asks (twice, the second time warning of family members; a third time where payroll lists, overtime or
+    /// contracts hold him, naming them) and deletes the employee's records and his rows of `RODZINA`. Month
+    /// tables, contracts, calendars and registers keep their rows. False when the clerk said No. Throws
+    /// `Blad` for an unknown number.
     bool UsunPracownika(qint64 prcId);
 
 private:
-    [[nodiscard]] QList<Osoba> wybierz(const Kolumna* flaga, const QString& wartosc, bool tylkoPracujacy,
-                                       PorzadekPracownikow porzadek) const;
+    struct Warunki {
+        Kolumna flaga; ///< that must be "T"; without a table for none
+        Zwolnieni zwolnieni;
+        PorzadekPracownikow porzadek;
+    };
+
+    [[nodiscard]] QList<Osoba> wybierz(const Warunki& warunki) const;
     [[nodiscard]] int zgloszenieDoUbezpieczen();
     void dodajRekordy(const DaneNowegoPracownika& dane, int oiZua);
+    [[nodiscard]] bool mimoZapisow(qint64 prcId) const;
 
     Otoczenie& o_;
 };

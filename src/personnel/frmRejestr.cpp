@@ -93,7 +93,8 @@ bool frmRejestr::zapisz(qint64 id) {
 
 std::optional<qint64> frmRejestr::utworz() {
     const qint64 obecny = biezacy() >= 0 ? wiersze_.value(biezacy()).prcId : -1;
-    frmWybPr wybor(o_, kTrybPracujacy, frmWybPr::Ilu::Jeden, this, obecny);
+    frmWybPr wybor(o_, kTrybPracujacy, frmWybPr::Ilu::Jeden, this, obecny,
+                   frmWybPr::Przelacznik::TakzeZwolnieni);
     if (wybor.exec() != Accepted || wybor.wybrani().isEmpty()) return std::nullopt;
     const qint64 prcId = wybor.wybrani().first();
     frmData dane(o_, FormatNumeru(prcId) + QLatin1Char(' ') + Pracownicy(o_).nazwisko(prcId), rodzaje(),

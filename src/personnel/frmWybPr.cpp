@@ -5,6 +5,7 @@
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -20,33 +21,47 @@ QList<WierszListy> wiersze(const QList<Osoba>& osoby) {
     QList<WierszListy> wynik;
     wynik.reserve(osoby.size());
     for (const Osoba& o : osoby)
-        wynik.append({o.prcId, {FormatNumeru(o.prcId), o.nazwisko, o.imie, o.dzial}});
+        wynik.append({o.prcId,
+                      {FormatNumeru(o.prcId), o.nazwisko, o.imie, o.dzial},
+                      o.zwolniony ? QStringLiteral("Zwolniony") : QString()});
     return wynik;
 }
 
 } // namespace
 
-frmWybPr::frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic, qint64 zaznacz)
-    : Okno(QStringLiteral("frmWybPr"), rodzic), o_(otoczenie), tryb_(tryb),
-      osoby_(Pracownicy(otoczenie).doWyboru(tryb)),
+frmWybPr::frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget* rodzic, qint64 zaznacz,
+                   Przelacznik przelacznik)
+    : Okno(QStringLiteral("frmWybPr"), rodzic), o_(otoczenie), tryb_(tryb), przelacznik_(przelacznik),
       lvwWybPr_(new WidokListy({{QStringLiteral("NR"), Qt::AlignRight},
                                 {QStringLiteral("NAZWISKO")},
                                 {QStringLiteral("IMIĘ")},
                                 {QStringLiteral("DZIAŁ")}},
                                {12, 36, 26, 26})),
-      labZaznaczono_(new QLabel) {
+      chkZwolnieni_(new QCheckBox(QStringLiteral("Ta&kże zwolnieni"))), labZaznaczono_(new QLabel) {
     setWindowTitle(QStringLiteral("Wybór pracownika"));
     lvwWybPr_->setObjectName(QStringLiteral("lvwWybPr"));
     labZaznaczono_->setObjectName(QStringLiteral("labZaznaczono"));
     buduj(ilu);
     resize(86 * Wyglad::kSiatka, 76 * Wyglad::kSiatka);
-    lvwWybPr_->ustaw(wiersze(osoby_), zaznacz);
-    pokazIlu();
+    wczytaj(zaznacz);
+    connect(chkZwolnieni_, &QCheckBox::toggled, this, [this] {
+        const QList<qint64> przedtem = wybrani();
+        wczytaj(przedtem.isEmpty() ? -1 : przedtem.first());
+    });
     connect(lvwWybPr_, &WidokListy::wejscie, this, &QDialog::accept);
     connect(lvwWybPr_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmWybPr::pokazIlu);
 }
 
+void frmWybPr::wczytaj(qint64 zaznacz) {
+    osoby_ =
+        Pracownicy(o_).doWyboru(tryb_, chkZwolnieni_->isChecked() ? Zwolnieni::Takze : Zwolnieni::Pominieci);
+    lvwWybPr_->ustaw(wiersze(osoby_), zaznacz);
+    pokazIlu();
+}
+
 void frmWybPr::buduj(Ilu ilu) {
+    chkZwolnieni_->setObjectName(QStringLiteral("chkZwolnieni"));
+    if (przelacznik_ == Przelacznik::Brak) chkZwolnieni_->hide();
     if (ilu == Ilu::Wielu) lvwWybPr_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto* cmdWszyscy = przycisk(QStringLiteral("cmdWszyscy"), QStringLiteral("Wszyscy"));
     auto* cmdDzial = przycisk(QStringLiteral("cmdDzial"), QStringLiteral("&Zaznacz dział"));
@@ -54,7 +69,7 @@ void frmWybPr::buduj(Ilu ilu) {
     auto* cmdAnuluj = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Anuluj"));
     for (QPushButton* p : {cmdWszyscy, cmdDzial}) {
         p->setAutoDefault(false);
-        p->setVisible(ilu == Ilu::Wielu);
+        if (ilu == Ilu::Jeden) p->hide();
     }
     connect(cmdWszyscy, &QPushButton::clicked, this, [this] { lvwWybPr_->selectAll(); });
     connect(cmdDzial, &QPushButton::clicked, this, &frmWybPr::zaznaczDzial);
@@ -65,6 +80,7 @@ void frmWybPr::buduj(Ilu ilu) {
     auto* gora = new QHBoxLayout;
     auto* txtSzukaj = new PoleSzukania(*lvwWybPr_, WybNumer, WybNazwisko);
     gora->addWidget(txtSzukaj);
+    gora->addWidget(chkZwolnieni_);
     gora->addWidget(labZaznaczono_);
     uklad->addLayout(gora);
     uklad->addWidget(lvwWybPr_, 1);
@@ -74,7 +90,9 @@ void frmWybPr::buduj(Ilu ilu) {
 }
 
 int frmWybPr::exec() {
-    if (!osoby_.isEmpty()) return QDialog::exec();
+    const bool nikogo = osoby_.isEmpty() && (przelacznik_ == Przelacznik::Brak ||
+                                             Pracownicy(o_).doWyboru(tryb_, Zwolnieni::Takze).isEmpty());
+    if (!nikogo) return QDialog::exec();
     if (const QString komunikat = Pracownicy::komunikatPustejListy(tryb_); !komunikat.isEmpty())
         o_.rozmowa.komunikat(komunikat, Styl::Informacja);
     return Rejected;

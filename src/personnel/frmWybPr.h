@@ -4,6 +4,7 @@
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
 
+class QCheckBox;
 class QLabel;
 
 namespace tornel::okna {
@@ -19,11 +20,13 @@ class frmWybPr : public Okno {
     Q_OBJECT
 public:
     enum class Ilu { Jeden, Wielu };
+    /// Whether the clerk may have the dismissed shown as well.
+    enum class Przelacznik { Brak, TakzeZwolnieni };
 
     /// `tryb`: whom it offers, as in `Pracownicy::doWyboru`; `zaznacz`: who is chosen at first, if offered.
     /// Reads the personnel tables, whose handles stand elsewhere afterwards.
     frmWybPr(Otoczenie& otoczenie, int tryb, Ilu ilu = Ilu::Wielu, QWidget* rodzic = nullptr,
-             qint64 zaznacz = -1);
+             qint64 zaznacz = -1, Przelacznik przelacznik = Przelacznik::Brak);
 
     /// With nobody to offer it gives the mode's message, if there is one, and is cancelled at once.
     int exec() override;
@@ -36,13 +39,16 @@ public:
 
 private:
     void buduj(Ilu ilu);
+    void wczytaj(qint64 zaznacz);
     void zaznaczDzial();
     void pokazIlu();
 
     Otoczenie& o_;
     int tryb_;
+    Przelacznik przelacznik_;
     QList<Osoba> osoby_;
     WidokListy* lvwWybPr_;
+    QCheckBox* chkZwolnieni_;
     QLabel* labZaznaczono_;
 };
 

@@ -143,15 +143,6 @@ void ZapiszKonfiguracje(Sesja& sesja, const Stale& stale) {
     utrwal(rs);
 }
 
-void CzytajStala(Sesja& sesja, Stale& stale, int num, const QString& folderProgramu) {
-    const StalaDef& stala = wymaganaStala(num);
-    Recordset& rs = otwarteStale(sesja);
-    Stale wczytane = stale;
-    czytaj(rs, stala, folderProgramu, wczytane);
-    utrwal(rs);
-    stale = wczytane;
-}
-
 void ZapiszStala(Sesja& sesja, const Stale& stale, int num) {
     const StalaDef& stala = wymaganaStala(num);
     Recordset& rs = otwarteStale(sesja);

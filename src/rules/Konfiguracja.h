@@ -22,10 +22,6 @@ void WczytajKonfiguracje(Sesja& sesja, Stale& stale, const QString& folderProgra
 /// Writes all constants as one action. Reads and writes KON. Throws `BladBazy`.
 void ZapiszKonfiguracje(Sesja& sesja, const Stale& stale);
 
-/// Reads the one constant `num` into `stale`; a missing record is added with its default. Reads and writes
-/// KON. Throws `Blad` for a number that no constant has, `BladBazy`.
-void CzytajStala(Sesja& sesja, Stale& stale, int num, const QString& folderProgramu);
-
 /// Writes the one constant `num`. Reads and writes KON. Throws `Blad` for a number that no constant has,
 /// `BladBazy`.
 void ZapiszStala(Sesja& sesja, const Stale& stale, int num);

@@ -113,13 +113,4 @@ const Skladnik& SkladnikiPlac::dodatni(int n) const {
 
 const Skladnik& SkladnikiPlac::ujemny(int n) const { return wybrany(ujemne_, n, QStringLiteral("ujemnego")); }
 
-Maski MaskiListy(const SkladnikiPlac& katalog, const Recordset& rsPLACE, bool zablokowany) {
-    const Maski katalogowe = katalog.maski();
-    if (!zablokowany) return katalogowe;
-    Maski maski = Maski::zMiesiaca(rsPLACE);
-    maski.akt_sp &= katalogowe.akt_sp;
-    maski.akt_sm &= katalogowe.akt_sm;
-    return maski;
-}
-
 } // namespace tornel::rules

@@ -61,27 +61,15 @@ public:
     [[nodiscard]] const Skladnik& ujemny(int n) const;
 
     [[nodiscard]] bool SkAkt(int n) const { return dodatni(n).akt; }
-    [[nodiscard]] bool SkBrutto(int n) const { return dodatni(n).brutto; }
-    [[nodiscard]] bool SkZus(int n) const { return dodatni(n).zus; }
-    [[nodiscard]] bool SkUbzdr(int n) const { return dodatni(n).ubzdr; }
     [[nodiscard]] const QString& SkNazwa(int n) const { return dodatni(n).nazwa; }
     [[nodiscard]] const QString& SkKodZUS(int n) const { return dodatni(n).kodZUS; }
-    [[nodiscard]] const QString& SkKodSwPrz(int n) const { return dodatni(n).kodSwPrz; }
 
     [[nodiscard]] bool SkUAkt(int n) const { return ujemny(n).akt; }
-    [[nodiscard]] bool SkUBrutto(int n) const { return ujemny(n).brutto; }
-    [[nodiscard]] bool SkUZus(int n) const { return ujemny(n).zus; }
-    [[nodiscard]] bool SkUUbzdr(int n) const { return ujemny(n).ubzdr; }
     [[nodiscard]] const QString& SkUNazwa(int n) const { return ujemny(n).nazwa; }
 
 private:
     std::array<Skladnik, kDodatnich> dodatnie_;
     std::array<Skladnik, kUjemnych> ujemne_;
 };
-
-/// The flags by which a month's list works: those of the catalogue for an open month; for a blocked one those
-/// that the current `PLACE` row has kept, where a component is active only if the catalogue has it active
-/// too.
-[[nodiscard]] Maski MaskiListy(const SkladnikiPlac& katalog, const Recordset& rsPLACE, bool zablokowany);
 
 } // namespace tornel::rules

@@ -41,12 +41,6 @@ QString ZnajdzBaze(const QString& folderProgramu, Rozmowa& rozmowa) {
     return folder.filePath(QStringLiteral("Tornel.mdb"));
 }
 
-int StylDaty() {
-    const QString wzor = QStringLiteral("13-01-2000");
-    const auto data = CzytajDate(wzor);
-    return data && FormatDaty(*data) == wzor ? 2 : 1;
-}
-
 BladStartu::BladStartu(int krok, const QString& przyczyna)
     : Blad(QStringLiteral("Procedura 'PStart': błąd w lini: ") + QString::number(krok) +
            QStringLiteral("\n\n") + przyczyna) {}
@@ -60,7 +54,7 @@ Program::Program(const QString& sciezka, const QString& folderProgramu, Rozmowa&
         ++krok;
         WczytajKonfiguracje(*sesja_, stale_, folderProgramu);
         ++krok;
-        UtworzAdmina(*sesja_);
+        InitUzytkownicy(*sesja_);
     } catch (const Blad& blad) {
         throw BladStartu(krok, blad.komunikat());
     }

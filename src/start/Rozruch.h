@@ -26,9 +26,6 @@ struct Przelaczniki {
 /// one (otherwise a critical message), else `Tornel.mdb` in that folder.
 [[nodiscard]] QString ZnajdzBaze(const QString& folderProgramu, Rozmowa& rozmowa);
 
-/// `StylDaty`: 2 if the short date in which the program writes "13-01-2000" reads just so, otherwise 1.
-[[nodiscard]] int StylDaty();
-
 /// Everything that lives from start to end: the session, the constants, the catalogue, and the user's side.
 class Program {
 public:

@@ -28,7 +28,7 @@ bool SprawdzLogin(Sesja& sesja, const QString& nazwa, const QString& haslo) {
     sesja.uzytkownik = {.nazwa = nazwa.trimmed(), .haslo = haslo, .typ = 0};
     if (!rs.Find({kNazwa, Kryterium::Operator::Rowne, sesja.uzytkownik.nazwa})) return false;
     sesja.uzytkownik.typ = static_cast<int>(rs.liczba(kTyp));
-    return rs.tekst(kHaslo) == haslo.trimmed();
+    return rs.tekst(kHaslo).trimmed() == haslo.trimmed();
 }
 
 ZmianaHasla SprHaslo(Otoczenie& otoczenie, const QString& stare, const QString& nowe,
@@ -41,7 +41,7 @@ ZmianaHasla SprHaslo(Otoczenie& otoczenie, const QString& stare, const QString& 
     if (stare.trimmed() != sesja.uzytkownik.haslo.trimmed())
         return odmow(QStringLiteral("Stare hasło jest nieprawidłowe! Nie można zmienić hasła."),
                      ZmianaHasla::ZleStare);
-    if (nowe != potwierdzone)
+    if (nowe.trimmed() != potwierdzone.trimmed())
         return odmow(QStringLiteral("Nowe hasło i hasło potwierdzone są różne! Nie można zmienić hasła."),
                      ZmianaHasla::RozneNowe);
     Recordset& rs = sesja.rsUZYTKOWNICY;

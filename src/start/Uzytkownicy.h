@@ -8,18 +8,12 @@ namespace tornel::start {
 /// Opens the users' table and, if it has no row, adds the administrator "Admin" with an empty password. Reads
 /// and writes `UZYTKOWNICY`. Throws `BladBazy`.
 void InitUzytkownicy(Sesja& sesja);
-/// The same, by the name that start-up gives it.
-inline void UtworzAdmina(Sesja& sesja) { InitUzytkownicy(sesja); }
 
 /// Whether the user `nazwa` (blanks around it do not count) exists and has the password `haslo`. Blanks
-/// around the typed password do not count, those of the stored one do, deliberately. Sets the session's user:
-/// the name, the password as typed, and the type, which is 0 for an unknown name. Reads `UZYTKOWNICY`, which
+/// around the typed and the stored password do not count. Sets the session's user: the name, the password as
+/// typed, and the type, which is 0 for an unknown name. Reads `UZYTKOWNICY`, which
 /// must be open.
 [[nodiscard]] bool SprawdzLogin(Sesja& sesja, const QString& nazwa, const QString& haslo);
-/// The same, by the name that start-up gives it.
-[[nodiscard]] inline bool SprawdzUzytkownika(Sesja& sesja, const QString& nazwa, const QString& haslo) {
-    return SprawdzLogin(sesja, nazwa, haslo);
-}
 
 enum class ZmianaHasla { Zmienione, ZleStare, RozneNowe, BrakUzytkownika };
 

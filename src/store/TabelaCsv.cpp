@@ -205,7 +205,8 @@ QList<TabelaPliku> tabeleWspolne(const TabelaPliku& tabela) {
 }
 
 void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const PlikCsv& plik,
-                    const QList<const Rekord*>& nowe, const Transakcja& akcja) {
+                    const QList<const Rekord*>& nowe, const DomyslneWiersza& domyslne,
+                    const Transakcja& akcja) {
     if (nowe.isEmpty()) return;
     for (const TabelaPliku& wspolna : tabeleWspolne(tabela)) {
         if (wspolna.def == tabela.def) continue;
@@ -217,6 +218,7 @@ void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const Pli
         for (const Rekord* rekord : nowe) {
             if (klucze.contains(rekord->klucz)) continue;
             rs.AddNewZero();
+            if (domyslne) domyslne(rs);
             for (const Kolumna& k : kluczowe)
                 for (qsizetype i = 0; i < plik.kolumny.size(); ++i)
                     if (teSameNazwy(plik.kolumny[i].def().nazwa, k.def().nazwa))
@@ -263,7 +265,8 @@ QByteArray EksportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela) {
     return wynik;
 }
 
-WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, const QByteArray& csv) {
+WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, const QByteArray& csv,
+                            const DomyslneWiersza& domyslne) {
     const PlikCsv plik = czytajPlik(*tabela.def, csv);
     const QList<Kolumna> kluczowe = kolumnyKlucza(*tabela.def);
     QHash<QString, const Rekord*> poKluczu;
@@ -290,7 +293,7 @@ WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, c
     }
     wynik.dodane = static_cast<int>(nowe.size());
     rs.UpdateBatch(transakcja);
-    dodajPartnerow(polaczenie, tabela, plik, nowe, transakcja);
+    dodajPartnerow(polaczenie, tabela, plik, nowe, domyslne, transakcja);
     transakcja.zatwierdz();
     return wynik;
 }

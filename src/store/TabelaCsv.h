@@ -5,10 +5,13 @@
 #pragma once
 #include "store/Polaczenie.h"
 #include "store/Tabela.h"
+#include <functional>
 #include <QByteArray>
 #include <QString>
 
 namespace tornel::store {
+
+class Recordset;
 
 /// A table of the open file.
 struct TabelaPliku {
@@ -30,11 +33,15 @@ struct WynikImportu {
     int zmienione = 0;
 };
 
+/// Gives the current, newly added row its defaults, in memory.
+using DomyslneWiersza = std::function<void(Recordset& nowy)>;
+
 /// Updates the rows whose key stands in `csv` and adds the others, all or nothing; columns that the header
 /// leaves out keep their values (0, empty and null in a new row). A table without a key only gets new rows.
-/// Tables whose rows correspond one to one (personnel, month tables, month headers) get an empty partner for
-/// each new row. Throws `Blad` that names line, column and value: unknown column, missing key, key given
-/// twice, a value that the column cannot hold as it stands.
-WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, const QByteArray& csv);
+/// Tables whose rows correspond one to one (personnel, month tables, month headers) get a partner for each
+/// new row: empty, but for what `domyslne` writes into it. Throws `Blad` that names line, column and value:
+/// unknown column, missing key, key given twice, a value that the column cannot hold as it stands.
+WynikImportu ImportujTabele(Polaczenie& polaczenie, const TabelaPliku& tabela, const QByteArray& csv,
+                            const DomyslneWiersza& domyslne = {});
 
 } // namespace tornel::store

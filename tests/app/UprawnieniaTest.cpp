@@ -137,8 +137,9 @@ TEST_F(LogowanieTest, NazwaIHasloDecyduja) {
         {QStringLiteral(" O'Hara "), QStringLiteral("  Tajne "), true, 2},
         {QStringLiteral("O'Hara"), QStringLiteral("tajne"), false, 2},
         {QStringLiteral("O'Hara"), QString(), false, 2},
-        {QStringLiteral("Kadrowa"), QStringLiteral("spacje"), false, 1},
-        {QStringLiteral("Kadrowa"), QStringLiteral(" spacje "), false, 1}, // only the typed side is trimmed
+        {QStringLiteral("Kadrowa"), QStringLiteral("spacje"), true, 1},
+        {QStringLiteral("Kadrowa"), QStringLiteral(" spacje "), true, 1},
+        {QStringLiteral("Kadrowa"), QStringLiteral("spa cje"), false, 1},
         {QStringLiteral("x' OR '1'='1"), QStringLiteral("Tajne"), false, 0},
         {QString(), QString(), false, 0},
     };

@@ -132,6 +132,11 @@ TEST_F(ImportEksportTest, RowsWithTheKeyChangeAndOthersAreAdded) {
     EXPECT_EQ(dp.tekst(schemat::PRACDP("Naz")), QStringLiteral("Kot; \"K\""));
     EXPECT_EQ(dp.data(schemat::PRACDP("data_ur")), QDate(1970, 3, 5));
     EXPECT_TRUE(dp.jestNull(schemat::PRACDP("dowod_dn")));
+    // ... with the defaults of a new employee, or nothing would be paid and withheld right.
+    EXPECT_EQ(sesja.rsPRACZUS.kwota(schemat::PRACZUS("wsk_fe")), Waluta::zLiczby(9.76));
+    EXPECT_EQ(sesja.rsPRACZUS.tekst(schemat::PRACZUS("podlega_fe")), QStringLiteral("N"));
+    EXPECT_EQ(sesja.rsPRACPR.tekst(schemat::PRACPR("Zwoln")), QStringLiteral("N"));
+    EXPECT_NE(sesja.rsPRACSK.liczba(schemat::PRACSK("dod")), 0);
 }
 
 TEST_F(ImportEksportTest, ARowAddedToAMonthGetsItsFourRecords) {

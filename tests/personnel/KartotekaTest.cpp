@@ -92,8 +92,20 @@ TEST_F(KartotekaTest, SeriaINumerDowoduIdaRazemAReszteZostawia) {
     wpisz(PRACDP("snip"), QStringLiteral("stary"));
     wpisz(PRACDP("Nip"), QString());
     EXPECT_EQ(tekst(PRACDP("snip")), QStringLiteral("stary"));
+    // What the insurer last knew is not overwritten by nothing; a card without a series is still a card.
     wpisz(PRACDP("Nip"), QStringLiteral("734-100-20-30"));
-    EXPECT_EQ(tekst(PRACDP("snip")), QString());
+    EXPECT_EQ(tekst(PRACDP("snip")), QStringLiteral("stary"));
+    wpisz(PRACDP("Nip"), QString());
+    EXPECT_EQ(tekst(PRACDP("snip")), QStringLiteral("734-100-20-30"));
+    kartoteka->ZapiszZakladke({{PRACDP("data_ur"), Null}, {PRACDP("sdata_ur"), QDate(1961, 3, 1)}});
+    kartoteka->ZapiszZakladke({{PRACDP("data_ur"), QDate(1961, 1, 3)}});
+    EXPECT_EQ(kartoteka->wartosc(PRACDP("sdata_ur")), Wartosc(QDate(1961, 3, 1)));
+    wpisz(PRACDP("dowod_ser"), QString());
+    wpisz(PRACDP("dowod_nr"), QString());
+    EXPECT_EQ(tekst(PRACDP("sdowod_ser")), QString());
+    EXPECT_EQ(tekst(PRACDP("sdowod_nr")), QStringLiteral("333"));
+    wpisz(PRACDP("dowod_nr"), QStringLiteral("444"));
+    EXPECT_EQ(tekst(PRACDP("sdowod_nr")), QStringLiteral("333"));
 }
 
 TEST_F(KartotekaTest, ZapisujePiecTabelIOdrzucaAlboCofaJednego) {

@@ -9,6 +9,7 @@
 #include "personnel/Kalendarz.h"
 #include "wsparcie/BazaTestowa.h"
 #include "wsparcie/Przestrzen.h"
+#include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -193,7 +194,18 @@ TEST_F(RejestryOknaTest, PokrycieIRezygnacjaNiczegoNieDopisuja) {
         klawisz(Qt::Key_Escape);
     });
     nowy();
-    potem<frmWybPr>([](frmWybPr&) { klawisz(Qt::Key_Escape); });
+    // A dismissed employee is offered only once the clerk asks for the dismissed.
+    ASSERT_TRUE(sesja().rsPRACPR.Znajdz(7));
+    sesja().rsPRACPR.ustawFlage(schemat::PRACPR("Zwoln"), true);
+    sesja().rsPRACPR.UpdateBatch();
+    potem<frmWybPr>([](frmWybPr& okno) {
+        EXPECT_EQ(okno.findChild<WidokListy*>()->lista().wiersz(7), -1);
+        okno.findChild<QCheckBox*>(u"chkZwolnieni"_s)->click();
+        EXPECT_EQ(okno.wybrani(), QList<qint64>{8}) << "still chosen";
+        EXPECT_TRUE(okno.findChild<WidokListy*>()->wybierz(7));
+        EXPECT_EQ(okno.wybrani(), QList<qint64>{7});
+        klawisz(Qt::Key_Escape);
+    });
     nowy();
 }
 

@@ -1,4 +1,5 @@
 #include "personnel/Pracownicy.h"
+#include "common/Daty.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
 #include <set>
@@ -15,6 +16,18 @@ const QString kSpoleczne = u"Został zarejestrowany nowy pracownik. Czy nastąpi
                            "ubezpieczeń społecznych ?"_s;
 const QString kZdrowotne = u"Czy nastąpi zgłoszenie pracownika do ubezpieczenia zdrowotnego ?"_s;
 const QString kUsunac = u"Czy na pewno usunąć wybranego pracownika ?"_s;
+
+const QString kOstrzezenie = u"Ostrzeżenie !"_s;
+
+/// The second question before a deletion, and the third, which names what is left behind.
+QString ostrzezenie(const QString& poczatek) {
+    return poczatek + u"Upewnij się czy usuwany pracownik nie jest wpisany na liscie plac lub dni wolnych "
+                      "itp. Czy kontynuować ?"_s;
+}
+QString zapisy(const QString& kto, const QString& gdzie) {
+    return u"Pracownik %1 jest jeszcze w tych zapisach:\n\n%2\n\nZostaną one w bazie bez danych "
+           "pracownika. Czy mimo to usunąć pracownika ?"_s.arg(kto, gdzie);
+}
 
 class PracownicyTest : public PlaceTestowe {
 protected:
@@ -136,6 +149,8 @@ TEST_F(PracownicyTest, FiltersAndThePickerGoByTheFlags) {
         EXPECT_EQ(numery(pracownicy().lista(filtr, PorzadekPracownikow::Numery)), wynik);
     const std::pair<int, QString> tryby[] = {{1, u"1,3,4,5"_s}, {2, u"3"_s}, {4, u"4"_s}, {8, u"5"_s}};
     for (const auto& [tryb, wynik] : tryby) EXPECT_EQ(numery(pracownicy().doWyboru(tryb)), wynik) << tryb;
+    EXPECT_EQ(numery(pracownicy().doWyboru(1, Zwolnieni::Takze)), u"1,2,3,4,5"_s);
+    EXPECT_EQ(numery(pracownicy().doWyboru(8, Zwolnieni::Takze)), u"2,5"_s);
 
     // The mode is taken as a plain index, deliberately.
     const std::pair<int, QString> komunikaty[] = {
@@ -173,23 +188,25 @@ TEST_F(PracownicyTest, DeletionAsksTwiceAndTakesTheFamily) {
     miesiac();
     (void)ListaPlac(otoczenie(), 2001, 7, u" "_s).DodajPracownikow({1});
 
-    const auto ostrzezenie = [](const QString& poczatek) {
-        return poczatek +
-               u"Upewnij się czy usuwany pracownik nie jest wpisany na liscie plac lub dni wolnych "
-               "itp. Czy kontynuować ?"_s;
-    };
     const QString zRodzina =
         ostrzezenie(u"Pracownik Łoś Anna o numerze 1 oraz zarejestrowani członkowie jego "
                     "rodziny zostaną usunięci z list. "_s);
-    const QString tytul = u"Ostrzeżenie !"_s;
     rozmowa_.spodziewaj(kUsunac, Odpowiedz::Nie);
     EXPECT_FALSE(pracownicy().UsunPracownika(1));
     rozmowa_.spodziewaj(kUsunac, Odpowiedz::Tak);
-    rozmowa_.spodziewaj(zRodzina, Odpowiedz::Nie, tytul);
+    rozmowa_.spodziewaj(zRodzina, Odpowiedz::Nie, kOstrzezenie);
     EXPECT_FALSE(pracownicy().UsunPracownika(1));
     EXPECT_EQ(wiersze(1), u"111112"_s);
     rozmowa_.spodziewaj(kUsunac, Odpowiedz::Tak);
-    rozmowa_.spodziewaj(zRodzina, Odpowiedz::Tak, tytul);
+    rozmowa_.spodziewaj(zRodzina, Odpowiedz::Tak, kOstrzezenie);
+    rozmowa_.spodziewaj(zapisy(u"Łoś Anna o numerze 1"_s, u"listy płac: 07.2001"_s), Odpowiedz::Nie,
+                        kOstrzezenie);
+    EXPECT_FALSE(pracownicy().UsunPracownika(1));
+    EXPECT_EQ(wiersze(1), u"111112"_s);
+    rozmowa_.spodziewaj(kUsunac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(zRodzina, Odpowiedz::Tak, kOstrzezenie);
+    rozmowa_.spodziewaj(zapisy(u"Łoś Anna o numerze 1"_s, u"listy płac: 07.2001"_s), Odpowiedz::Tak,
+                        kOstrzezenie);
     EXPECT_TRUE(pracownicy().UsunPracownika(1));
     EXPECT_EQ(wiersze(1), u"000000"_s);
     EXPECT_EQ(wiersze(2), u"111111"_s);
@@ -199,9 +216,49 @@ TEST_F(PracownicyTest, DeletionAsksTwiceAndTakesTheFamily) {
     dodajPracownika(3, u"Mak"_s);
     rozmowa_.spodziewaj(kUsunac, Odpowiedz::Tak);
     rozmowa_.spodziewaj(ostrzezenie(u"Pracownik Mak Anna o numerze 3 zostanie usunięty z listy. "_s),
-                        Odpowiedz::Tak, tytul);
+                        Odpowiedz::Tak, kOstrzezenie);
     EXPECT_TRUE(pracownicy().UsunPracownika(3));
     EXPECT_EQ(numery(pracownicy().lista(FiltrPracownikow::Wszyscy, PorzadekPracownikow::Nazwiska)), u"2"_s);
+}
+
+TEST_F(PracownicyTest, DeletionNamesTheMonthsAndContractsLeftBehind) {
+    pracownik(2, "", u"Żak"_s);
+    // Months in a row are named by their ends; what belongs to others does not count.
+    const auto wpisz = [this](const TabelaDef& tabela, const QString& nazwa,
+                              std::initializer_list<std::pair<Kolumna, Wartosc>> wartosci) {
+        Recordset rs(tabela);
+        rs.Open(sesja().cnPlace, nazwa);
+        rs.AddNewZero();
+        for (const auto& [kolumna, wartosc] : wartosci) rs.ustaw(kolumna, wartosc);
+        rs.UpdateBatch();
+    };
+    using namespace schemat;
+    for (const int mies : {12, 2, 1, 4}) {
+        const int rok = mies == 12 ? 2000 : 2001;
+        const QString nazwa = Sesja::nazwaMiesiaca("NADGN", rok, mies);
+        wpisz(NADG, {}, {{NADG("ROK"), QString::number(rok)}, {NADG("MIES"), FormatMiesiaca(mies)}});
+        UtworzTabele(sesja().cnPlace, NADGN, nazwa);
+        wpisz(NADGN, nazwa, {{NADGN("PRC_ID"), qint64{2}}});
+    }
+    const QDate dzien(2001, 7, 3);
+    wpisz(UZL, {},
+          {{UZL("UZLID"), qint64{1}},
+           {UZL("PRC_ID"), qint64{2}},
+           {UZL("uzl_nr"), u"1/2001"_s},
+           {UZL("data_zaw"), dzien}});
+    wpisz(UZL, {}, {{UZL("UZLID"), qint64{2}}, {UZL("PRC_ID"), qint64{3}}});
+    wpisz(UZL, {}, {{UZL("UZLID"), qint64{3}}, {UZL("PRC_ID"), qint64{2}}});
+    wpisz(UMOP, {}, {{UMOP("UMOPID"), qint64{7}}, {UMOP("PRC_ID"), qint64{2}}, {UMOP("data_zaw"), dzien}});
+    rozmowa_.spodziewaj(kUsunac, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(ostrzezenie(u"Pracownik Żak Anna o numerze 2 zostanie usunięty z listy. "_s),
+                        Odpowiedz::Tak, kOstrzezenie);
+    rozmowa_.spodziewaj(
+        zapisy(u"Żak Anna o numerze 2"_s,
+               u"nadgodziny: 12.2000 - 02.2001, 04.2001\numowy zlecenia: 1/2001 z 03-07-2001, "
+               "3\numowy o pracę: 7 z 03-07-2001"_s),
+        Odpowiedz::Nie, kOstrzezenie);
+    EXPECT_FALSE(pracownicy().UsunPracownika(2));
+    EXPECT_EQ(wiersze(2), u"111110"_s);
 }
 
 } // namespace

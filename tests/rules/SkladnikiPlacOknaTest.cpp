@@ -80,8 +80,8 @@ TEST_F(SkladnikiEkranTest, ZmienioneZapisujeSieRazemIWchodziDoPamieci) {
     EXPECT_EQ(wPliku(), oczekiwane);
     const SkladnikiPlac& s = otoczenie().skladniki;
     EXPECT_EQ(s.SkNazwa(1), u"O'Hara <b>; 1"_s);
-    EXPECT_TRUE(s.SkZus(30));
-    EXPECT_TRUE(s.SkUBrutto(15));
+    EXPECT_TRUE(s.dodatni(30).zus);
+    EXPECT_TRUE(s.ujemny(15).brutto);
 }
 
 TEST_F(SkladnikiEkranTest, BezZmianNieMaPytaniaAOdmowaJePorzuca) {

@@ -56,16 +56,16 @@ TEST_F(SkladnikiPlacTest, KatalogWchodziDoPamieci) {
     EXPECT_TRUE(katalog.SkAkt(30));
     EXPECT_FALSE(katalog.SkAkt(2));
     EXPECT_FALSE(katalog.SkAkt(3));
-    EXPECT_TRUE(katalog.SkBrutto(30));
-    EXPECT_TRUE(katalog.SkZus(5));
-    EXPECT_TRUE(katalog.SkUbzdr(6));
-    EXPECT_TRUE(katalog.SkUZus(1));
+    EXPECT_TRUE(katalog.dodatni(30).brutto);
+    EXPECT_TRUE(katalog.dodatni(5).zus);
+    EXPECT_TRUE(katalog.dodatni(6).ubzdr);
+    EXPECT_TRUE(katalog.ujemny(1).zus);
     EXPECT_TRUE(katalog.SkUAkt(15));
-    EXPECT_FALSE(katalog.SkUBrutto(15));
+    EXPECT_FALSE(katalog.ujemny(15).brutto);
     EXPECT_EQ(katalog.SkUNazwa(15), QStringLiteral("Składnik 45"));
     EXPECT_EQ(katalog.SkNazwa(7), QStringLiteral("Składnik 7"));
     EXPECT_EQ(katalog.SkKodZUS(7), QStringLiteral("11"));
-    EXPECT_EQ(katalog.SkKodSwPrz(7), QStringLiteral("331"));
+    EXPECT_EQ(katalog.dodatni(7).kodSwPrz, QStringLiteral("331"));
     for (const int n : {0, 31}) EXPECT_THROW((void)katalog.SkAkt(n), Blad) << n;
     for (const int n : {0, 16}) EXPECT_THROW((void)katalog.SkUAkt(n), Blad) << n;
 }
@@ -94,17 +94,11 @@ TEST_F(SkladnikiPlacTest, MiesiacTrzymaSwojeZnakiPoZmianieKatalogu) {
     ustaw(30, schemat::SZ_PL("naz_sk"), QStringLiteral("Nowa nazwa"));
     katalog.WczytajSkladnikiPlac(*sesja);
 
-    // A blocked month: its own flags, active only where the catalogue agrees.
-    const Maski blokada = MaskiListy(katalog, sesja->rsPLACE, true);
-    EXPECT_EQ(blokada.akt_sp, 1U << 29);
-    EXPECT_EQ(blokada.br_sp, 1U << 29);
-    EXPECT_EQ(MaskiListy(katalog, sesja->rsPLACE, false), katalog.maski());
-
     // A print of the month: its own flags alone, the catalogue's names.
     katalog.WczytajSkladnikiMiesiaca(*sesja);
     EXPECT_TRUE(katalog.SkAkt(1));
     EXPECT_FALSE(katalog.SkAkt(2));
-    EXPECT_TRUE(katalog.SkBrutto(30));
+    EXPECT_TRUE(katalog.dodatni(30).brutto);
     EXPECT_TRUE(katalog.SkUAkt(15));
     EXPECT_EQ(katalog.SkNazwa(30), QStringLiteral("Nowa nazwa"));
 }

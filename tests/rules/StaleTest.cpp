@@ -181,8 +181,7 @@ TEST_F(StaleTest, UszkodzonyTekstDajeWartoscPusta) {
 
 TEST_F(StaleTest, ElementyBezKawalkaZostajaJakByly) {
     stale.L4ZUS = {1, 2, 3, 4};
-    wpisz(105, QStringLiteral("8,9"));
-    CzytajStala(*sesja, stale, 105, kFolder);
+    RozbijTablice(QStringLiteral("8,9"), stale.L4ZUS);
     EXPECT_EQ(stale.L4ZUS, (Stale::Numery<4>{8, 9, 3, 4}));
 }
 

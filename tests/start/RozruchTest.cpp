@@ -29,7 +29,6 @@ TEST(RozruchTest, SwitchesOfTheCommandLine) {
         EXPECT_EQ(wynik.clrpwd, p.clrpwd) << QString::fromUtf16(p.wiersz).toStdString();
         EXPECT_EQ(wynik.aktua, p.aktua) << QString::fromUtf16(p.wiersz).toStdString();
     }
-    EXPECT_EQ(StylDaty(), 2);
 }
 
 TEST(RozruchTest, TheIniFileNamesTheDatabase) {
@@ -105,7 +104,7 @@ TEST_F(RozruchBazyTest, TheTemplateIsReadyForWork) {
     }
     EXPECT_EQ(stale().GranicaG12, zl(29624));
     EXPECT_EQ(stale().ArchPath, folder_.path()) << "folder constants begin with the program's folder";
-    EXPECT_TRUE(SprawdzUzytkownika(s, u"Admin"_s, {}));
+    EXPECT_TRUE(SprawdzLogin(s, u"Admin"_s, {}));
     EXPECT_EQ(s.uzytkownik.typ, 0);
     EXPECT_THROW(UtworzBazeZSzablonu(sciezka(), folder_.path(), rozmowa_), Blad)
         << "an existing file is refused";
@@ -134,7 +133,7 @@ TEST_F(RozruchBazyTest, TheNextStartKeepsWhatIsThereAndMendsWhatIsMissing) {
     sesja().rsUZYTKOWNICY.Delete();
     sesja().rsUZYTKOWNICY.UpdateBatch(u"Dane testu");
     otworzPonownie();
-    EXPECT_TRUE(SprawdzUzytkownika(sesja(), u"Admin"_s, {}));
+    EXPECT_TRUE(SprawdzLogin(sesja(), u"Admin"_s, {}));
 }
 
 } // namespace

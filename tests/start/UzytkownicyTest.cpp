@@ -129,7 +129,7 @@ TEST_F(UzytkownicyTest, ZmianaWlasnegoHasla) {
     zmien(u"sowa"_s, u"lis"_s, u"Lis"_s, rozne, ZmianaHasla::RozneNowe);
     EXPECT_EQ(wPliku(), poczatek_);
 
-    zmien(u"sowa"_s, u"lis"_s, u"lis"_s, u"Hasło zostało zmienione."_s, ZmianaHasla::Zmienione);
+    zmien(u"sowa"_s, u"lis "_s, u" lis"_s, u"Hasło zostało zmienione."_s, ZmianaHasla::Zmienione);
     zmien(u"sowa"_s, u"kos"_s, u"kos"_s, zleStare, ZmianaHasla::ZleStare);
     zmien(u"lis"_s, u"kos"_s, u"kos"_s, u"Hasło zostało zmienione."_s, ZmianaHasla::Zmienione);
     EXPECT_EQ(wPliku().at(1), u"Anna/kos/3"_s);
