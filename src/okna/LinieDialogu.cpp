@@ -10,7 +10,7 @@ namespace tornel::okna {
 
 namespace {
 
-constexpr int kSzerokosc = 30 * Wyglad::kSiatka;
+constexpr int kSzerokoscLinii = 30 * Wyglad::kSiatka;
 
 } // namespace
 
@@ -25,7 +25,7 @@ PoleTekstu* LinieDialogu::dodaj(const QString& nazwa, const QString& podpis, int
     linia->setObjectName(nazwa);
     linia->setAccessibleName(podpis);
     linia->setMaxLength(dlugosc);
-    linia->setMinimumWidth(kSzerokosc);
+    linia->setMinimumWidth(kSzerokoscLinii);
     linia->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     if (pisownia == Pisownia::Ukryta) linia->setEchoMode(QLineEdit::Password);
     linia->installEventFilter(this);

@@ -13,10 +13,9 @@ namespace tornel::personnel {
 
 namespace {
 
-enum KolumnaPrac { WolneNumer, WolneNazwisko };
+enum KolumnaWolnych { WolneNumer, WolneNazwisko };
 
 constexpr int kSzerokoscPracownikow = 26 * Wyglad::kSiatka;
-constexpr int kTrybPracujacy = 1;
 
 } // namespace
 

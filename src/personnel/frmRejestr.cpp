@@ -10,8 +10,6 @@ namespace tornel::personnel {
 
 namespace {
 
-constexpr int kTrybPracujacy = 1;
-
 /// The row taken up, and what is worked out from it.
 class ZrodloRejestru final : public ZrodloPol {
 public:

@@ -12,6 +12,9 @@ class WidokListy;
 
 namespace tornel::personnel {
 
+/// The mode of working employees.
+inline constexpr int kTrybPracujacy = 1;
+
 class frmWybPr : public QDialog {
     Q_OBJECT
 public:

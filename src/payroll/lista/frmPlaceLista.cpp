@@ -28,8 +28,6 @@ using schemat::PLA;
 
 namespace {
 
-constexpr int kTrybPracujacy = 1;
-
 enum KolumnaPlac { LpNazwisko, LpNumer, LpSymbol };
 
 QLabel* napis(const QString& nazwa) {

@@ -25,7 +25,6 @@ namespace tornel::payroll {
 
 namespace {
 
-constexpr int kTrybPracujacy = 1;
 constexpr int kWierszyMiesiecy = 7;
 
 enum KolumnaOsoby { Numer, Nazwisko };
