@@ -16,6 +16,7 @@ namespace {
 enum KolumnaWolnych { WolneNumer, WolneNazwisko };
 
 constexpr int kSzerokoscPracownikow = 26 * Wyglad::kSiatka;
+
 } // namespace
 
 frmDniWolnePr::frmDniWolnePr(Otoczenie& otoczenie, QWidget* rodzic)

@@ -7,7 +7,9 @@ using schemat::M_PRACY;
 
 namespace {
 
-Pole pole(const QString& nazwa, const QString& podpis, Kolumna kolumna) { return {nazwa, podpis, kolumna}; }
+Pole poleMiejsca(const QString& nazwa, const QString& podpis, Kolumna kolumna) {
+    return {nazwa, podpis, kolumna};
+}
 
 /// The marking is a text in this table.
 Pole poleZza() {
@@ -31,16 +33,16 @@ OpisListyPol opisMiejscPracy() {
         {QStringLiteral("MIEJSCE PRACY"),
          {{QStringLiteral("txtMPID"), QStringLiteral("Numer:"), M_PRACY("MP_ID"), Rodzaj::Liczba,
            Dostep::Odczyt},
-          pole(QStringLiteral("txtNazwa"), QStringLiteral("Nazwa:"), M_PRACY("Nazwa"))}},
+          poleMiejsca(QStringLiteral("txtNazwa"), QStringLiteral("Nazwa:"), M_PRACY("Nazwa"))}},
         {QStringLiteral("ADRES"),
-         {pole(QStringLiteral("txtUlica"), QStringLiteral("Ulica:"), M_PRACY("ulica")),
-          pole(QStringLiteral("txtNrDomu"), QStringLiteral("Nr domu:"), M_PRACY("nr_domu")),
-          pole(QStringLiteral("txtNrLokalu"), QStringLiteral("Nr lokalu:"), M_PRACY("nr_lokalu")),
-          pole(QStringLiteral("txtTelefon"), QStringLiteral("Telefon:"), M_PRACY("telefon")),
-          pole(QStringLiteral("txtKod"), QStringLiteral("Kod pocztowy:"), M_PRACY("Kod")),
-          pole(QStringLiteral("txtMiasto"), QStringLiteral("Miejscowość:"), M_PRACY("miasto")),
-          pole(QStringLiteral("txtGmina"), QStringLiteral("Gmina / Dzielnica:"), M_PRACY("gmina")),
-          pole(QStringLiteral("txtFaks"), QStringLiteral("Faks:"), M_PRACY("faks"))},
+         {poleMiejsca(QStringLiteral("txtUlica"), QStringLiteral("Ulica:"), M_PRACY("ulica")),
+          poleMiejsca(QStringLiteral("txtNrDomu"), QStringLiteral("Nr domu:"), M_PRACY("nr_domu")),
+          poleMiejsca(QStringLiteral("txtNrLokalu"), QStringLiteral("Nr lokalu:"), M_PRACY("nr_lokalu")),
+          poleMiejsca(QStringLiteral("txtTelefon"), QStringLiteral("Telefon:"), M_PRACY("telefon")),
+          poleMiejsca(QStringLiteral("txtKod"), QStringLiteral("Kod pocztowy:"), M_PRACY("Kod")),
+          poleMiejsca(QStringLiteral("txtMiasto"), QStringLiteral("Miejscowość:"), M_PRACY("miasto")),
+          poleMiejsca(QStringLiteral("txtGmina"), QStringLiteral("Gmina / Dzielnica:"), M_PRACY("gmina")),
+          poleMiejsca(QStringLiteral("txtFaks"), QStringLiteral("Faks:"), M_PRACY("faks"))},
          2},
         {QStringLiteral("DOKUMENTY ZUS"), {poleZza()}},
     };

@@ -7,7 +7,9 @@ using schemat::US;
 
 namespace {
 
-Pole pole(const QString& nazwa, const QString& podpis, Kolumna kolumna) { return {nazwa, podpis, kolumna}; }
+Pole poleUrzedu(const QString& nazwa, const QString& podpis, Kolumna kolumna) {
+    return {nazwa, podpis, kolumna};
+}
 
 OpisListyPol opisUrzedow() {
     OpisListyPol o;
@@ -21,19 +23,19 @@ OpisListyPol opisUrzedow() {
     o.grupy = {
         {QStringLiteral("URZĄD"),
          {{QStringLiteral("txtUSID"), QStringLiteral("Numer:"), US("US_ID"), Rodzaj::Liczba, Dostep::Odczyt},
-          pole(QStringLiteral("txtNazwa"), QStringLiteral("Nazwa:"), US("Nazwa"))}},
+          poleUrzedu(QStringLiteral("txtNazwa"), QStringLiteral("Nazwa:"), US("Nazwa"))}},
         {QStringLiteral("ADRES"),
-         {pole(QStringLiteral("txtUlica"), QStringLiteral("Ulica:"), US("ulica")),
-          pole(QStringLiteral("txtNrDomu"), QStringLiteral("Nr domu:"), US("nr_domu")),
-          pole(QStringLiteral("txtNrLokalu"), QStringLiteral("Nr lokalu:"), US("nr_lokalu")),
-          pole(QStringLiteral("txtTelefon"), QStringLiteral("Telefon:"), US("telefon")),
-          pole(QStringLiteral("txtKod"), QStringLiteral("Kod pocztowy:"), US("Kod")),
-          pole(QStringLiteral("txtMiasto"), QStringLiteral("Miejscowość:"), US("miasto")),
-          pole(QStringLiteral("txtFaks"), QStringLiteral("Faks:"), US("faks"))},
+         {poleUrzedu(QStringLiteral("txtUlica"), QStringLiteral("Ulica:"), US("ulica")),
+          poleUrzedu(QStringLiteral("txtNrDomu"), QStringLiteral("Nr domu:"), US("nr_domu")),
+          poleUrzedu(QStringLiteral("txtNrLokalu"), QStringLiteral("Nr lokalu:"), US("nr_lokalu")),
+          poleUrzedu(QStringLiteral("txtTelefon"), QStringLiteral("Telefon:"), US("telefon")),
+          poleUrzedu(QStringLiteral("txtKod"), QStringLiteral("Kod pocztowy:"), US("Kod")),
+          poleUrzedu(QStringLiteral("txtMiasto"), QStringLiteral("Miejscowość:"), US("miasto")),
+          poleUrzedu(QStringLiteral("txtFaks"), QStringLiteral("Faks:"), US("faks"))},
          2},
         {QStringLiteral("RACHUNEK BANKOWY"),
-         {pole(QStringLiteral("txtBank"), QStringLiteral("Nazwa banku:"), US("bank")),
-          pole(QStringLiteral("txtKonto"), QStringLiteral("Numer konta:"), US("konto"))}},
+         {poleUrzedu(QStringLiteral("txtBank"), QStringLiteral("Nazwa banku:"), US("bank")),
+          poleUrzedu(QStringLiteral("txtKonto"), QStringLiteral("Numer konta:"), US("konto"))}},
         {QStringLiteral("INFORMACJE OPISOWE"),
          {{QStringLiteral("txtOpis"), QString(), US("inf_opis"), Rodzaj::Notatka}}},
     };
