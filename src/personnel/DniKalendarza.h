@@ -1,7 +1,7 @@
 // The days of one month of a calendar of days off, by day of the month.
 #pragma once
 #include "common/Daty.h"
-#include "store/Schemat.h"
+#include "store/SchematKadr.h"
 #include <array>
 
 namespace tornel::store {

@@ -5,7 +5,7 @@
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
-#include "store/Schemat.h"
+#include "store/SchematKadr.h"
 #include <QPushButton>
 #include <QVBoxLayout>
 

@@ -11,7 +11,7 @@
 #include "personnel/frmFind.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPracZakladki.h"
-#include "store/Schemat.h"
+#include "store/SchematKadr.h"
 #include <algorithm>
 #include <QComboBox>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 // The rows from which the fields of the personnel file are made, tab by tab.
 #pragma once
 #include "okna/Pole.h"
-#include "store/Schemat.h"
+#include "store/SchematKadr.h"
 #include <QStringView>
 #include <span>
 

@@ -2,7 +2,7 @@
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
 #include "rules/SkladnikiPlac.h"
-#include "store/Schemat.h"
+#include "store/SchematKadr.h"
 #include <algorithm>
 #include <QApplication>
 #include <QCheckBox>

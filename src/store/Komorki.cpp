@@ -6,16 +6,16 @@
 namespace tornel::store {
 
 bool pasuje(const Wartosc& wartosc, Typ typ) {
-    switch (rodzaj(typ)) {
-    case Rodzaj::Kwota:
+    switch (rodzajWartosci(typ)) {
+    case RodzajWartosci::Kwota:
         return wartosc.index() == 0 || std::holds_alternative<Waluta>(wartosc);
-    case Rodzaj::Rzeczywista:
+    case RodzajWartosci::Rzeczywista:
         return wartosc.index() == 0 || std::holds_alternative<double>(wartosc);
-    case Rodzaj::Tekst:
+    case RodzajWartosci::Tekst:
         return wartosc.index() == 0 || std::holds_alternative<QString>(wartosc);
-    case Rodzaj::Data:
+    case RodzajWartosci::Data:
         return wartosc.index() == 0 || std::holds_alternative<QDate>(wartosc);
-    case Rodzaj::Calkowita:
+    case RodzajWartosci::Calkowita:
         break;
     }
     return wartosc.index() == 0 || std::holds_alternative<qint64>(wartosc);
@@ -44,22 +44,21 @@ TekstDnia::TekstDnia(qint64 dzien) {
     pisz(8, 2, d);
 }
 
-std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ) {
-    const int jest = instrukcja.typ(kolumna);
-    switch (rodzaj(typ)) {
-    case Rodzaj::Calkowita:
-    case Rodzaj::Kwota: {
+std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ, int jest) {
+    switch (rodzajWartosci(typ)) {
+    case RodzajWartosci::Calkowita:
+    case RodzajWartosci::Kwota: {
         if (jest != SQLITE_INTEGER) return std::nullopt;
         const qint64 liczba = instrukcja.liczba(kolumna);
         const auto [min, maks] = zakresTypu(typ);
         return liczba < min || liczba > maks ? std::nullopt : std::optional(liczba);
     }
-    case Rodzaj::Rzeczywista: // a whole number is kept as one
+    case RodzajWartosci::Rzeczywista: // a whole number is kept as one
         if (jest != SQLITE_FLOAT && jest != SQLITE_INTEGER) return std::nullopt;
         return std::bit_cast<qint64>(instrukcja.rzeczywista(kolumna));
-    case Rodzaj::Data:
+    case RodzajWartosci::Data:
         return jest == SQLITE_TEXT ? dzienZTekstu(instrukcja.utf8(kolumna)) : std::nullopt;
-    case Rodzaj::Tekst:
+    case RodzajWartosci::Tekst:
         break;
     }
     return std::nullopt;

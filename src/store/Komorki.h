@@ -25,8 +25,9 @@ private:
 };
 
 /// A number, money, a double by its bits, or the day number of a column that is neither null nor text.
-/// Nothing for a value that is not of the column's type.
-[[nodiscard]] std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ);
+/// Nothing for a value that is not of the column's type. `typWartosci` is its `Instrukcja::typ`.
+[[nodiscard]] std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ,
+                                          int typWartosci);
 
 /// Throws `UszkodzonaWartosc` that names table, row (by its key, as it stands) and column.
 [[noreturn]] void zglosUszkodzenie(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa,

@@ -71,7 +71,7 @@ void Recordset::czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierw
         std::optional<Komorka> wartosc = kNull;
         if (const int typ = instrukcja.typ(zrodlo); typ != SQLITE_NULL) {
             if (!jestTekstem(k.typ)) {
-                wartosc = slowo(instrukcja, zrodlo, k.typ);
+                wartosc = slowo(instrukcja, zrodlo, k.typ, typ);
             } else if (typ == SQLITE_TEXT) {
                 const std::string_view utf8 = instrukcja.utf8(zrodlo);
                 wartosc =
@@ -308,21 +308,21 @@ bool Wiersz::jestNull(Kolumna k) const {
 }
 
 double Wiersz::rzeczywista(Kolumna k) const {
-    return std::bit_cast<double>(komorka(k, Rodzaj::Rzeczywista).value_or(0));
+    return std::bit_cast<double>(komorka(k, RodzajWartosci::Rzeczywista).value_or(0));
 }
 
 QString Wiersz::tekst(Kolumna k) const {
-    const auto c = komorka(k, Rodzaj::Tekst);
+    const auto c = komorka(k, RodzajWartosci::Tekst);
     return c ? rs_->puli(*c) : QString();
 }
 
 QDate Wiersz::data(Kolumna k) const {
-    const auto c = komorka(k, Rodzaj::Data);
+    const auto c = komorka(k, RodzajWartosci::Data);
     return c ? QDate::fromJulianDay(*c) : QDate();
 }
 
 bool Wiersz::flaga(Kolumna k) const {
-    const auto c = komorka(k, Rodzaj::Tekst);
+    const auto c = komorka(k, RodzajWartosci::Tekst);
     return c && rs_->puli(*c).compare(QLatin1String("T"), Qt::CaseInsensitive) == 0;
 }
 
@@ -376,7 +376,7 @@ void Recordset::zapisz(Kolumna k, Komorka wartosc) {
 }
 
 void Recordset::ustaw(Kolumna k, Waluta kwota) {
-    wymagajKolumny(k, Rodzaj::Kwota);
+    wymagajKolumny(k, RodzajWartosci::Kwota);
     if (kwota.surowa() == kNull)
         throw Przepelnienie(QStringLiteral("Kwota przekracza zakres liczb programu."));
     zapisz(k, kwota.surowa());
@@ -385,7 +385,7 @@ void Recordset::ustaw(Kolumna k, Waluta kwota) {
 void Recordset::ustaw(Kolumna k, qint64 liczba) {
     wymagajKolumny(k);
     if (jestRzeczywista(k.def().typ)) return ustaw(k, static_cast<double>(liczba));
-    wymagajKolumny(k, Rodzaj::Calkowita);
+    wymagajKolumny(k, RodzajWartosci::Calkowita);
     const auto [min, maks] = zakresTypu(k.def().typ);
     if (liczba < min || liczba > maks)
         throw Przepelnienie(
@@ -394,18 +394,18 @@ void Recordset::ustaw(Kolumna k, qint64 liczba) {
 }
 
 void Recordset::ustaw(Kolumna k, double liczba) {
-    wymagajKolumny(k, Rodzaj::Rzeczywista);
+    wymagajKolumny(k, RodzajWartosci::Rzeczywista);
     zapisz(k, std::bit_cast<Komorka>(liczba));
 }
 
 void Recordset::ustaw(Kolumna k, const QString& tekst) {
-    wymagajKolumny(k, Rodzaj::Tekst);
+    wymagajKolumny(k, RodzajWartosci::Tekst);
     const int rozmiar = k.def().rozmiar;
     zapisz(k, tekstNaKomorke(rozmiar > 0 && tekst.size() > rozmiar ? tekst.left(rozmiar) : tekst));
 }
 
 void Recordset::ustaw(Kolumna k, QDate data) {
-    wymagajKolumny(k, Rodzaj::Data);
+    wymagajKolumny(k, RodzajWartosci::Data);
     zapisz(k, data.isValid() ? data.toJulianDay() : kNull);
 }
 

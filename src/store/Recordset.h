@@ -42,7 +42,7 @@ public:
 
 private:
     [[nodiscard]] std::optional<std::int64_t> komorka(Kolumna k,
-                                                      Rodzaj rodzajKolumny) const; // nothing for null
+                                                      RodzajWartosci rodzajKolumny) const; // nothing for null
     const Recordset* rs_;
     int wiersz_;
 };
@@ -213,9 +213,9 @@ private:
     void wymagajKolumny(Kolumna k) const {
         if (k.tabela != tabela_ || static_cast<unsigned>(k.nr) >= tabela_->kolumny.size()) obcaKolumna(k);
     }
-    void wymagajKolumny(Kolumna k, Rodzaj oczekiwany) const {
+    void wymagajKolumny(Kolumna k, RodzajWartosci oczekiwany) const {
         wymagajKolumny(k);
-        if (rodzaj(k.def().typ) != oczekiwany) obcaKolumna(k);
+        if (rodzajWartosci(k.def().typ) != oczekiwany) obcaKolumna(k);
     }
     [[noreturn]] void obcaKolumna(Kolumna k) const;
     void zapisz(Kolumna k, Komorka wartosc);
@@ -270,14 +270,14 @@ private:
     std::unique_ptr<Instrukcja> wstaw_, zmien_, czytaj_, usun_;
 };
 
-inline std::optional<std::int64_t> Wiersz::komorka(Kolumna k, Rodzaj rodzajKolumny) const {
+inline std::optional<std::int64_t> Wiersz::komorka(Kolumna k, RodzajWartosci rodzajKolumny) const {
     rs_->wymagajKolumny(k, rodzajKolumny);
     const std::int64_t c = rs_->komorka(wiersz_, k.nr);
     return c == Recordset::kNull ? std::nullopt : std::optional(c);
 }
 inline Waluta Wiersz::kwota(Kolumna k) const {
-    return Waluta::zSurowej(komorka(k, Rodzaj::Kwota).value_or(0));
+    return Waluta::zSurowej(komorka(k, RodzajWartosci::Kwota).value_or(0));
 }
-inline qint64 Wiersz::liczba(Kolumna k) const { return komorka(k, Rodzaj::Calkowita).value_or(0); }
+inline qint64 Wiersz::liczba(Kolumna k) const { return komorka(k, RodzajWartosci::Calkowita).value_or(0); }
 
 } // namespace tornel::store

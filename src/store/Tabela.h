@@ -29,27 +29,27 @@ constexpr std::pair<std::int64_t, std::int64_t> zakresTypu(Typ typ) {
 }
 
 /// The kinds of values; every type holds one of them.
-enum class Rodzaj : std::uint8_t { Calkowita, Kwota, Rzeczywista, Tekst, Data };
+enum class RodzajWartosci : std::uint8_t { Calkowita, Kwota, Rzeczywista, Tekst, Data };
 
-constexpr Rodzaj rodzaj(Typ typ) {
+constexpr RodzajWartosci rodzajWartosci(Typ typ) {
     switch (typ) {
     case Typ::Currency:
-        return Rodzaj::Kwota;
+        return RodzajWartosci::Kwota;
     case Typ::Single:
     case Typ::Double:
-        return Rodzaj::Rzeczywista;
+        return RodzajWartosci::Rzeczywista;
     case Typ::Text:
     case Typ::Char:
     case Typ::Memo:
-        return Rodzaj::Tekst;
+        return RodzajWartosci::Tekst;
     case Typ::Date:
-        return Rodzaj::Data;
+        return RodzajWartosci::Data;
     default:
-        return Rodzaj::Calkowita;
+        return RodzajWartosci::Calkowita;
     }
 }
-constexpr bool jestTekstem(Typ typ) { return rodzaj(typ) == Rodzaj::Tekst; }
-constexpr bool jestRzeczywista(Typ typ) { return rodzaj(typ) == Rodzaj::Rzeczywista; }
+constexpr bool jestTekstem(Typ typ) { return rodzajWartosci(typ) == RodzajWartosci::Tekst; }
+constexpr bool jestRzeczywista(Typ typ) { return rodzajWartosci(typ) == RodzajWartosci::Rzeczywista; }
 
 struct KolumnaDef {
     std::string_view nazwa;

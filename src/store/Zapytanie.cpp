@@ -85,7 +85,7 @@ void Zapytanie::sprawdz() const {
             zleZapytanie(k, QStringLiteral("kolumna innej tabeli niż %1").arg(napis(wzor_->nazwa)));
         for (const Zrodlo& z : zrodla_) {
             const int nr = z.tabela->numer(k.def().nazwa);
-            if (nr < 0 || rodzaj(z.tabela->nr(nr).def().typ) != rodzaj(k.def().typ))
+            if (nr < 0 || rodzajWartosci(z.tabela->nr(nr).def().typ) != rodzajWartosci(k.def().typ))
                 zleZapytanie(z.tabela->nr(nr), QStringLiteral("brak kolumny %1").arg(napis(k.def().nazwa)));
         }
     }
@@ -155,25 +155,25 @@ void PrzygotowaneZapytanie::zacznij(std::size_t ileWartosci) {
     if (instrukcja_) instrukcja_->od_nowa();
 }
 
-void PrzygotowaneZapytanie::wymagajRodzaju(int nr, Rodzaj oczekiwany) const {
-    if (rodzaj(typyParametrow_[static_cast<std::size_t>(nr)]) != oczekiwany)
+void PrzygotowaneZapytanie::wymagajRodzaju(int nr, RodzajWartosci oczekiwany) const {
+    if (rodzajWartosci(typyParametrow_[static_cast<std::size_t>(nr)]) != oczekiwany)
         throw Blad(QStringLiteral("Zapytanie do tabeli %1: wartość nr %2 innego rodzaju niż kolumna.")
                        .arg(napis(zapytanie_.tabela().nazwa))
                        .arg(nr));
 }
 
 void PrzygotowaneZapytanie::wiaz(int nr, qint64 liczba) {
-    wymagajRodzaju(nr, Rodzaj::Calkowita);
+    wymagajRodzaju(nr, RodzajWartosci::Calkowita);
     if (instrukcja_) instrukcja_->wiaz(nr, liczba);
 }
 
 void PrzygotowaneZapytanie::wiaz(int nr, const QString& tekst) {
-    wymagajRodzaju(nr, Rodzaj::Tekst);
+    wymagajRodzaju(nr, RodzajWartosci::Tekst);
     if (instrukcja_) instrukcja_->wiaz(nr, tekst);
 }
 
 void PrzygotowaneZapytanie::wiaz(int nr, QDate data) {
-    wymagajRodzaju(nr, Rodzaj::Data);
+    wymagajRodzaju(nr, RodzajWartosci::Data);
     if (instrukcja_) wiazWartosc(*instrukcja_, nr, data);
 }
 
@@ -194,8 +194,10 @@ int WierszeZapytania::miejsce(Kolumna k) const {
 std::optional<qint64> WierszeZapytania::slowoKolumny(Kolumna k) const {
     const int m = miejsce(k);
     const Instrukcja& i = *z_->instrukcja_;
-    const std::optional<qint64> wynik = slowo(i, m, k.def().typ);
-    if (!wynik && !i.jestNull(m)) uszkodzona(k);
+    const int typ = i.typ(m);
+    if (typ == SQLITE_NULL) return std::nullopt;
+    const std::optional<qint64> wynik = slowo(i, m, k.def().typ, typ);
+    if (!wynik) uszkodzona(k);
     return wynik;
 }
 

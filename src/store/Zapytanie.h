@@ -177,7 +177,7 @@ private:
     void wiaz(int nr, QDate data);
     template <typename T>
     void wiaz(int nr, const T&) = delete;
-    void wymagajRodzaju(int nr, Rodzaj oczekiwany) const;
+    void wymagajRodzaju(int nr, RodzajWartosci oczekiwany) const;
 
     Polaczenie* polaczenie_;
     Zapytanie zapytanie_;

@@ -1,7 +1,7 @@
 // The amounts of a payroll row that the clerk may type over, each with its column and what is computed after
 // it.
 #pragma once
-#include "store/Schemat.h"
+#include "store/SchematPlac.h"
 #include <QStringView>
 #include <span>
 

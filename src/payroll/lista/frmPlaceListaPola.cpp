@@ -1,7 +1,7 @@
 #include "payroll/lista/frmPlaceListaPola.h"
 #include "payroll/lista/PolaListy.h"
 #include "rules/SkladnikiPlac.h"
-#include "store/Schemat.h"
+#include "store/SchematPlac.h"
 
 namespace tornel::payroll {
 

@@ -1,6 +1,6 @@
 // The numbered columns of the overtime tables, by time group.
 #pragma once
-#include "store/Schemat.h"
+#include "store/SchematPlac.h"
 #include <array>
 
 namespace tornel::payroll {
