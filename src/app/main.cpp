@@ -80,10 +80,8 @@ static int Uruchom(int argc, char** argv) {
     const std::unique_ptr<Program> program = PStart(baza, rozmowa);
     Aplikacja::restoreOverrideCursor();
     if (!program) return 1;
-    aplikacja.ustawNaprawe([&](const QString& komunikat) {
-        rozmowa.komunikat(komunikat, Styl::Krytyczny);
-        program->sesja().OdswiezUchwyty();
-    });
+    aplikacja.ustawNaprawe([&](const QString& komunikat) { rozmowa.komunikat(komunikat, Styl::Krytyczny); });
+    aplikacja.ustawOdczyt([&] { program->sesja().OdswiezUchwyty(); });
     if (!zaloguj(program->sesja(), rozmowa)) return 0;
 
     frmMain okno(program->otoczenie());

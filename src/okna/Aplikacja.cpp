@@ -37,6 +37,11 @@ bool Aplikacja::notify(QObject* odbiorca, QEvent* zdarzenie) {
     return false;
 }
 
+void Aplikacja::odczytajPonownie() {
+    if (odczyt_) odczyt_();
+    emit danePrzeczytane();
+}
+
 void Aplikacja::napraw(const QString& komunikat) {
     while (overrideCursor()) restoreOverrideCursor();
     if (wNaprawie_ || !naprawa_) {
@@ -46,6 +51,7 @@ void Aplikacja::napraw(const QString& komunikat) {
     wNaprawie_ = true;
     try {
         naprawa_(komunikat);
+        if (odczyt_) odczyt_();
     } catch (const std::exception& utrata) {
         // The session itself is gone: nothing can be saved any more.
         qCritical("%s", utrata.what());

@@ -13,10 +13,14 @@ class Aplikacja : public QApplication {
 public:
     Aplikacja(int& argc, char** argv);
 
-    /// What a failed action does before screens are told: show `komunikat` and read the session's handles
-    /// again. It may throw; then the session itself is lost and the program ends.
+    /// How a failed action is told, before the handles are read again. It may throw; then the session itself
+    /// is lost and the program ends.
     using Naprawa = std::function<void(const QString& komunikat)>;
     void ustawNaprawe(Naprawa naprawa) { naprawa_ = std::move(naprawa); }
+    /// How the session's handles are read again; it may throw likewise.
+    void ustawOdczyt(std::function<void()> odczyt) { odczyt_ = std::move(odczyt); }
+    /// Reads the handles and tells the screens: after a failure that a screen has told by itself.
+    void odczytajPonownie();
 
     bool notify(QObject* odbiorca, QEvent* zdarzenie) override;
     /// Keeps the mouse wheel from changing a choice or a number that does not have the focus: it scrolls the
@@ -31,6 +35,7 @@ private:
     void napraw(const QString& komunikat);
 
     Naprawa naprawa_;
+    std::function<void()> odczyt_;
     bool wNaprawie_ = false;
 };
 

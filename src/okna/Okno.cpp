@@ -77,12 +77,15 @@ void OknoEdycji::zamknijBezZapisu() {
 bool OknoEdycji::moznaZamknac() {
     if (bezZapisu_) return true;
     try {
-        return zakonczWpisywanie() && rozstrzygnijZmiany();
+        return rozstrzygnijZmiany();
     } catch (const Blad& blad) {
         const QString pytanie = QStringLiteral("\r\n\r\nCzy zamknąć okno bez zapisania zmian ?");
-        if (!rozmowa_.pytanieUsuwajace(blad.komunikat() + pytanie)) return false;
-        porzucZmiany();
-        return true;
+        const bool bezZapisu = rozmowa_.pytanieUsuwajace(blad.komunikat() + pytanie);
+        if (bezZapisu)
+            porzucZmiany();
+        else if (auto* program = qobject_cast<Aplikacja*>(qApp))
+            program->odczytajPonownie();
+        return bezZapisu;
     }
 }
 

@@ -55,11 +55,10 @@ protected:
     OknoEdycji(const QString& nazwa, Rozmowa& rozmowa, Zamykanie zamykanie, QWidget* rodzic = nullptr,
                PoEnterze poEnterze = PoEnterze::NastepnePole);
 
-    /// Leaves the field in work; false if it could not take what was typed and has just said so, since the
-    /// screen must stay then.
-    [[nodiscard]] virtual bool zakonczWpisywanie() { return true; }
+    /// Whether something is not stored, what is being typed included.
     [[nodiscard]] virtual bool jestZmiana() const = 0;
-    /// Stores the changes. False if that was refused, after a message; throws `Blad` on a failure.
+    /// Leaves the field in work and stores. False if that was refused, after a message, or if a field has
+    /// just had to say that it did not understand what was typed; throws `Blad` on a failure.
     [[nodiscard]] virtual bool zapiszZmiany() = 0;
     virtual void porzucZmiany() = 0;
     struct PytanieOZmiany {

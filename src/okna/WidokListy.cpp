@@ -47,14 +47,15 @@ void WidokListy::ustaw(QList<WierszListy> wiersze, qint64 id) {
     const QList<qint64> zaznaczone =
         selectionMode() == QAbstractItemView::SingleSelection ? QList<qint64>() : zaznaczeni();
     model_.ustaw(std::move(wiersze));
-    if (model_.filtrowana() && (model_.rowCount() == 0 || model_.wiersz(id) < 0)) zdejmijFiltr();
+    if (model_.filtrowana() && (model_.rowCount() == 0 || model_.wiersz(id) < 0)) pokazWszystkie();
     if (model_.rowCount() == 0) return;
     if (!wybierz(id)) setCurrentIndex(model_.index(0, 0));
     if (id >= 0) zaznacz(zaznaczone);
 }
 
-void WidokListy::zdejmijFiltr() {
-    model_.filtruj({});
+void WidokListy::pokazWszystkie() {
+    if (!model_.filtrowana()) return;
+    filtruj({});
     emit filtrZdjety();
 }
 
@@ -131,7 +132,7 @@ qint64 WidokListy::sasiad(qint64 id) const {
 
 bool WidokListy::wybierz(qint64 id) {
     if (!model_.zawiera(id)) return false;
-    if (model_.wiersz(id) < 0) zdejmijFiltr();
+    if (model_.wiersz(id) < 0) pokazWszystkie();
     setCurrentIndex(model_.index(model_.wiersz(id), 0));
     return true;
 }

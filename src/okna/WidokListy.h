@@ -26,6 +26,8 @@ public:
     /// the list stays as it is, or shows all. The chosen row stays the chosen one while it is seen; nothing
     /// is told.
     int filtruj(const ListaModel::Warunek& warunek);
+    /// Takes the filter off, as for a command that means the whole list.
+    void pokazWszystkie();
     /// The row to choose once `id` is gone: the one below it, else the one above; -1 for none.
     [[nodiscard]] qint64 sasiad(qint64 id) const;
     void ustawRole(RolaListy rola);
@@ -49,7 +51,7 @@ signals:
     void wybrano(qint64 id);
     /// Enter or a double click on the row.
     void wejscie(qint64 id);
-    /// A filter went, since it hid the row to be chosen.
+    /// A filter went that nobody has emptied.
     void filtrZdjety();
 
 protected:
@@ -59,7 +61,6 @@ protected:
     void paintEvent(QPaintEvent* zdarzenie) override;
 
 private:
-    void zdejmijFiltr();
     void zaznacz(const QList<qint64>& numery);
     void ustawBiezacy(qint64 id);
     void sortujKolejno(int kolumna);

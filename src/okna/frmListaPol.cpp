@@ -169,14 +169,10 @@ void frmListaPol::Wypisz(qint64 id) {
     pokazZmiane();
 }
 
-bool frmListaPol::zakonczWpisywanie() {
-    wiazanie_.zakoncz();
-    return biezacy_ < 0 || !wiazanie_.wlasnieNieZrozumiano();
-}
-
 bool frmListaPol::Wpisz() {
-    if (!zakonczWpisywanie()) return false;
+    wiazanie_.zakoncz();
     if (!jestZmiana()) return true;
+    if (wiazanie_.wlasnieNieZrozumiano()) return false;
     QHash<QString, QString> wpisane;
     for (const QString& pole : pola_) wpisane.insert(pole, wiazanie_.tekst(pole));
     try {

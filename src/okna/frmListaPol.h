@@ -82,7 +82,6 @@ protected:
     /// Puts a widget below the frames of the fields.
     void dodaj(QWidget* widzet);
 
-    [[nodiscard]] bool zakonczWpisywanie() override;
     [[nodiscard]] bool jestZmiana() const override { return biezacy_ >= 0 && wiazanie_.jestZmiana(); }
     [[nodiscard]] bool zapiszZmiany() override { return Wpisz(); }
     void porzucZmiany() override { porzuc(); }

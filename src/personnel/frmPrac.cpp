@@ -1,5 +1,4 @@
 #include "personnel/frmPrac.h"
-#include "common/Blad.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
 #include "okna/Klepsydra.h"
@@ -161,7 +160,7 @@ void frmPrac::WczytajListePrac(FiltrPracownikow filtr, qint64 zaznacz) {
 
 void frmPrac::wybierz(qint64 prcId) {
     if (prcId == kartoteka_.pracownik()) return;
-    if (!zakonczWpisywanie()) {
+    if (!zapiszZakladke()) {
         // Not at once, since the view is still in the middle of its own change.
         QMetaObject::invokeMethod(
             this, [this] { lvwPrac_->wybierz(kartoteka_.pracownik().value_or(-1)); }, Qt::QueuedConnection);
@@ -194,7 +193,7 @@ void frmPrac::pokazPonownie() {
 void frmPrac::pokazStan() {
     const bool jest = kartoteka_.pracownik().has_value();
     const bool wpisane = zakladki_->jestZmiana();
-    const bool zmiany = kartoteka_.zmieniony() || wpisane;
+    const bool zmiany = jestZmiana();
     setWindowModified(zmiany);
     cmdZapisz_->setEnabled(zmiany);
     cmdAnuluj_->setEnabled(kartoteka_.zmienionyPracownik() || wpisane);
@@ -237,7 +236,7 @@ void frmPrac::NowyPracownik() {
             Styl::Informacja);
         return;
     }
-    if (!zakonczWpisywanie() || !rozstrzygnijZmiany()) return;
+    if (!rozstrzygnijZmiany()) return;
     frmNowyPrc okno(o_, this);
     while (okno.exec() == Accepted) {
         const DaneNowegoPracownika dane = okno.dane();
@@ -257,7 +256,7 @@ void frmPrac::NowyPracownik() {
 
 void frmPrac::UsunPracownika() {
     const auto prcId = kartoteka_.pracownik();
-    if (!prcId || !zakonczWpisywanie() || !rozstrzygnijZmiany()) return;
+    if (!prcId || !rozstrzygnijZmiany()) return;
     const qint64 sasiad = lvwPrac_->sasiad(*prcId);
     if (!pracownicy_.UsunPracownika(*prcId)) return;
     kartoteka_.Ustaw({});
@@ -271,26 +270,20 @@ void frmPrac::anuluj() {
 }
 
 void frmPrac::zapisz() {
-    zakladki_->Zapisz();
-    const Klepsydra klepsydra;
-    kartoteka_.Zapisz();
-    pokazStan();
+    if (!zapiszZmiany()) pokazStan();
 }
 
-bool frmPrac::zakonczWpisywanie() {
+bool frmPrac::zapiszZakladke() {
     zakladki_->Zapisz();
     return !zakladki_->wlasnieNieZrozumiano();
 }
 
+bool frmPrac::jestZmiana() const { return kartoteka_.zmieniony() || zakladki_->jestZmiana(); }
+
 bool frmPrac::zapiszZmiany() {
-    try {
-        kartoteka_.Zapisz();
-    } catch (const Blad&) {
-        // The screen may stay: its changes wait on handles that know what the file holds now.
-        o_.sesja.OdswiezUchwyty();
-        kartoteka_.Ponow();
-        throw;
-    }
+    if (!zapiszZakladke()) return false;
+    const Klepsydra klepsydra;
+    kartoteka_.Zapisz();
     odswiezWiersz();
     return true;
 }

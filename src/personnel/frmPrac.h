@@ -25,8 +25,7 @@ public:
     ~frmPrac() override;
 
 protected:
-    [[nodiscard]] bool zakonczWpisywanie() override;
-    [[nodiscard]] bool jestZmiana() const override { return kartoteka_.zmieniony(); }
+    [[nodiscard]] bool jestZmiana() const override;
     [[nodiscard]] bool zapiszZmiany() override;
     void porzucZmiany() override;
     void pokazPonownie() override;
@@ -49,6 +48,9 @@ private:
     void UsunPracownika();
     void anuluj();
     void zapisz();
+    /// Writes the current tab to the handles; false if a field has just had to say what it did not
+    /// understand.
+    [[nodiscard]] bool zapiszZakladke();
 
     Otoczenie& o_;
     FiltrPracownikow filtr_;

@@ -71,7 +71,10 @@ void frmWybPr::buduj(Ilu ilu) {
         p->setAutoDefault(false);
         if (ilu == Ilu::Jeden) p->hide();
     }
-    connect(cmdWszyscy, &QPushButton::clicked, this, [this] { lvwWybPr_->selectAll(); });
+    connect(cmdWszyscy, &QPushButton::clicked, this, [this] {
+        lvwWybPr_->pokazWszystkie();
+        lvwWybPr_->selectAll();
+    });
     connect(cmdDzial, &QPushButton::clicked, this, &frmWybPr::zaznaczDzial);
     connect(cmdWybierz, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdAnuluj, &QPushButton::clicked, this, &QDialog::reject);
@@ -106,6 +109,7 @@ QList<qint64> frmWybPr::wybierz(Otoczenie& otoczenie, int tryb, Ilu ilu, QWidget
 }
 
 void frmWybPr::zaznaczDzial() {
+    lvwWybPr_->pokazWszystkie();
     const ListaModel& lista = lvwWybPr_->lista();
     const int biezacy = lvwWybPr_->currentIndex().row();
     if (biezacy < 0) return;

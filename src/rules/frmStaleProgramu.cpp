@@ -203,12 +203,9 @@ void frmStaleProgramu::przesunKarte(int oIle) {
     if (pole) pole->setFocus(Qt::TabFocusReason);
 }
 
-bool frmStaleProgramu::zakonczWpisywanie() {
-    wiazanie_.zbierz();
-    return !wiazanie_.wlasnieNieZrozumiano();
-}
-
 bool frmStaleProgramu::zapiszZmiany() {
+    wiazanie_.zbierz();
+    if (wiazanie_.wlasnieNieZrozumiano()) return false;
     const Stale nowe = zrodlo_.doZapisu();
     ZapiszKonfiguracje(o_.sesja, nowe);
     o_.stale = nowe;
@@ -217,7 +214,7 @@ bool frmStaleProgramu::zapiszZmiany() {
 }
 
 void frmStaleProgramu::accept() {
-    if (zakonczWpisywanie() && zapiszZmiany()) QDialog::accept();
+    if (zapiszZmiany()) QDialog::accept();
 }
 
 } // namespace tornel::rules

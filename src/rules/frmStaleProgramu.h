@@ -39,8 +39,9 @@ public:
     void pokazKarte(KartaStalych karta);
 
 protected:
-    [[nodiscard]] bool zakonczWpisywanie() override;
-    [[nodiscard]] bool jestZmiana() const override { return zrodlo_.doZapisu() != o_.stale; }
+    [[nodiscard]] bool jestZmiana() const override {
+        return wiazanie_.jestZmiana() || zrodlo_.doZapisu() != o_.stale;
+    }
     [[nodiscard]] bool zapiszZmiany() override;
     void porzucZmiany() override {} // nothing has left the screen's own copy
 

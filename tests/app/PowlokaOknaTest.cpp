@@ -3,6 +3,7 @@
 #include "app/frmMain.h"
 #include "app/Uprawnienia.h"
 #include "okna/frmInputData.h"
+#include "okna/frmPytania.h"
 #include "okna/RozmowaOkien.h"
 #include "wsparcie/BazaTestowa.h"
 #include "wsparcie/Przestrzen.h"
@@ -285,15 +286,35 @@ void gdyOtworzy(std::function<void(Okno&)> reakcja) {
 TEST(RozmowaOkienTest, PytaniaIKomunikaty) {
     RozmowaOkien rozmowa;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const std::pair<Qt::Key, bool> klawisze[] = {
-        {Qt::Key_Return, true}, {Qt::Key_Escape, false}, {Qt::Key_T, true}, {Qt::Key_N, false}};
-    for (const auto& [klawisz, wynik] : klawisze) {
-        gdyOtworzy<QMessageBox>([k = klawisz](QMessageBox& okno) {
+    enum Rodzaj { Zwykle, Usuwajace, ZAnulowaniem };
+    const QString tekst = u"Usunąć <Kowalski> ?\r\nTeraz ?"_s;
+    const auto zapytaj = [&](Rodzaj rodzaj) -> std::optional<bool> {
+        if (rodzaj == ZAnulowaniem) return rozmowa.pytanieZAnulowaniem(tekst);
+        return rodzaj == Zwykle ? rozmowa.pytanie(tekst) : rozmowa.pytanieUsuwajace(tekst);
+    };
+    const struct {
+        Rodzaj rodzaj;
+        Qt::Key klawisz;
+        std::optional<bool> wynik;
+    } przypadki[] = {{Zwykle, Qt::Key_Return, true},
+                     {Zwykle, Qt::Key_Escape, false},
+                     {Zwykle, Qt::Key_T, true},
+                     {Zwykle, Qt::Key_N, false},
+                     {Usuwajace, Qt::Key_Return, false},
+                     {Usuwajace, Qt::Key_Escape, false},
+                     {Usuwajace, Qt::Key_T, true},
+                     {ZAnulowaniem, Qt::Key_Escape, std::nullopt},
+                     {ZAnulowaniem, Qt::Key_Return, true},
+                     {ZAnulowaniem, Qt::Key_N, false},
+                     {ZAnulowaniem, Qt::Key_A, std::nullopt}};
+    for (const auto& p : przypadki) {
+        gdyOtworzy<QMessageBox>([k = p.klawisz](QMessageBox& okno) {
             EXPECT_EQ(okno.text(), u"Usunąć <Kowalski> ?\nTeraz ?"_s);
             EXPECT_EQ(okno.textFormat(), Qt::PlainText);
-            QTest::keyClick(&okno, k, k == Qt::Key_T || k == Qt::Key_N ? Qt::AltModifier : Qt::NoModifier);
+            const bool mnemonik = k != Qt::Key_Return && k != Qt::Key_Escape;
+            QTest::keyClick(&okno, k, mnemonik ? Qt::AltModifier : Qt::NoModifier);
         });
-        EXPECT_EQ(rozmowa.pytanie(u"Usunąć <Kowalski> ?\r\nTeraz ?"_s), wynik) << klawisz;
+        EXPECT_EQ(zapytaj(p.rodzaj), p.wynik) << p.rodzaj << ' ' << p.klawisz;
     }
     ASSERT_NE(QApplication::overrideCursor(), nullptr) << "the hourglass comes back";
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
@@ -310,6 +331,40 @@ TEST(RozmowaOkienTest, PytaniaIKomunikaty) {
         });
         rozmowa.komunikat(u"Tekst"_s, styl, u"Tytuł"_s);
     }
+}
+
+TEST(RozmowaOkienTest, PytaniaAkcjiWJednymOknie) {
+    RozmowaOkien rozmowa;
+    // The third depends on the second, the fourth on the third.
+    const QList<PytanieAkcji> pytania{
+        {u"Czy przepisać ?"_s}, {u"Czy liczyć <dni> ?"_s}, {u"Z soboty ?"_s, 1}, {u"Z każdej ?"_s, 2}};
+    const struct {
+        const char* klawisze; ///< as pressed: an answer goes on to the next question that is open
+        std::optional<QList<bool>> wynik;
+    } przypadki[] = {
+        {"TTTT\r", QList<bool>{true, true, true, true}},
+        {"NTTN\r", QList<bool>{false, true, true, false}},
+        {"TTN\r", QList<bool>{true, true, false, false}},
+        {"TN\r", QList<bool>{true, false, false, false}},
+        {"TT\r\x1b", std::nullopt},
+        {"TTTT\x1b", std::nullopt},
+    };
+    for (const auto& p : przypadki) {
+        gdyOtworzy<frmPytania>([klawisze = p.klawisze](frmPytania& okno) {
+            EXPECT_EQ(okno.windowTitle(), u"Przelicz wszystkich"_s);
+            EXPECT_FALSE(okno.findChild<QPushButton*>(u"cmdDalej"_s)->isEnabled()) << "no answer in advance";
+            for (const char* k = klawisze; *k; ++k) {
+                QWidget* tu = QApplication::focusWidget();
+                ASSERT_NE(tu, nullptr);
+                const auto klawisz = *k == '\r'     ? Qt::Key_Return
+                                     : *k == '\x1b' ? Qt::Key_Escape
+                                                    : Qt::Key(*k);
+                QTest::keyClick(tu, klawisz);
+            }
+        });
+        EXPECT_EQ(rozmowa.pytania(u"Przelicz wszystkich"_s, pytania), p.wynik) << p.klawisze;
+    }
+    EXPECT_EQ(rozmowa.pytania(u"Nic"_s, {}), QList<bool>()) << "without questions no window";
 }
 
 TEST(RozmowaOkienTest, WprowadzonyTekstAlboNic) {

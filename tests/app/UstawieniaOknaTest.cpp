@@ -179,6 +179,15 @@ TEST_P(EkranKartoteki, SzukanieZKlawiatury) {
     QTest::keyClick(okno.get(), Qt::Key_F, Qt::ControlModifier);
     auto& szukaj = kontrolka(u"txtSzukaj"_s);
     ASSERT_TRUE(szukaj.hasFocus());
+    szukaj.setText(u"S"_s);
+    EXPECT_EQ(naLiscie(e.kolumnaListy), (QStringList{u"Nowy Sącz"_s}));
+    EXPECT_EQ(szukaj.accessibleDescription(), u"1 z 3"_s);
+    szukaj.setText(u"Sx"_s);
+    EXPECT_EQ(szukaj.accessibleDescription(), u"nie znaleziono"_s);
+    EXPECT_EQ(lista().wybrany(), 2) << "a text without a hit leaves the list alone";
+    QTest::keyClick(&szukaj, Qt::Key_Escape);
+    EXPECT_TRUE(okno->isVisible() && szukaj.text().isEmpty());
+    EXPECT_EQ(lista().lista().rowCount(), 3);
     szukaj.setText(u"ślem"_s);
     EXPECT_EQ(lista().wybrany(), 3);
     QTest::keyClick(&szukaj, Qt::Key_Return);

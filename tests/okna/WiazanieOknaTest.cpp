@@ -1,11 +1,9 @@
-#include "okna/ListaModel.h"
+#include "okna/UwagaPola.h"
 #include "okna/Wiazanie.h"
-#include "okna/WidokListy.h"
 #include "store/Sesja.h"
 #include "store/Struktura.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
-#include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -13,7 +11,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
@@ -134,7 +131,8 @@ TEST_F(WiazanieTest, KazdyRodzajPorzadkujeIZapisuje) {
         {u"txtPlaca"_s, u"-3,5"_s, u"-3,50"_s, zl(-350)},
         {u"txtPlaca"_s, u"abc"_s, u"0,00"_s, zl(0)},
         {u"txtPlaca"_s, u"1,2,3"_s, u"0,00"_s, zl(0)},
-        {u"txtPlaca"_s, u"1 234,00"_s, u"0,00"_s, zl(0)},
+        {u"txtPlaca"_s, u"1 234,00 zł"_s, u"1234,00"_s, zl(123400)},
+        {u"txtPlaca"_s, u"1.234"_s, u"0,00"_s, zl(0)},
         {u"txtPlaca"_s, u"1e300"_s, u"0,00"_s, zl(0)},
         {u"txtPlaca"_s, u"-0"_s, u"0,00"_s, zl(0)},
         {u"txtPlaca"_s, dlugi, u"0,00"_s, zl(0)},
@@ -149,10 +147,16 @@ TEST_F(WiazanieTest, KazdyRodzajPorzadkujeIZapisuje) {
         {u"txtDzieci"_s, u"2147483648"_s, u"0"_s, qint64{0}},
         {u"txtDzieci"_s, u"-0"_s, u"0"_s, qint64{0}},
         {u"txtDzieci"_s, u"1e3"_s, u"0"_s, qint64{0}},
+        {u"txtDzieci"_s, u"1 200"_s, u"1200"_s, qint64{1200}},
         {u"txtDzieci"_s, dlugi, u"0"_s, qint64{0}},
         {u"dtUr"_s, u"01072001"_s, u"01-07-2001"_s, QDate(2001, 7, 1)},
         {u"dtUr"_s, u"1/7/2001"_s, u"01-07-2001"_s, QDate(2001, 7, 1)},
         {u"dtUr"_s, u"29.02.2000"_s, u"29-02-2000"_s, QDate(2000, 2, 29)},
+        {u"dtUr"_s, u"2001-07-01"_s, u"01-07-2001"_s, QDate(2001, 7, 1)},
+        {u"dtUr"_s, u"20-07-2001"_s, u"20-07-2001"_s, QDate(2001, 7, 20)},
+        {u"dtUr"_s, u"19072001"_s, u"19-07-2001"_s, QDate(2001, 7, 19)},
+        {u"dtUr"_s, u"21/7/2001"_s, u"21-07-2001"_s, QDate(2001, 7, 21)},
+        {u"dtUr"_s, u"01-07-1850"_s, QString(), Null},
         {u"dtUr"_s, u"31-02-2001"_s, QString(), Null},
         {u"dtUr"_s, u"1-7-01"_s, QString(), Null},
         {u"dtUr"_s, u"ala ma"_s + emoji, QString(), Null},
@@ -243,16 +247,94 @@ TEST_F(WiazanieTest, OpuszczenieZmienionegoPolaMowiSieRaz) {
     EXPECT_EQ(opuszczone.size(), 2);
 }
 
-TEST_F(WiazanieTest, WlasneSprawdzeniePolaWidziTekstZWejscia) {
-    wiazanie->sprawdzaj(u"txtDzieci"_s, [](const QString& tekst, const QString& przyWejsciu) {
-        return tekst.toInt() > 10 ? przyWejsciu : tekst;
+TEST_F(WiazanieTest, CzegoPoleNieZrozumialoMowiObokAzDoDobrejWartosci) {
+    // As the payroll list does it: a left field is stored at once, and the row shown anew.
+    QObject::connect(wiazanie.get(), &Wiazanie::opuszczone, &okno, [this](const QString&) {
+        wiazanie->zbierz();
+        wiazanie->wczytaj();
     });
+    auto& placa = kontrolka(u"txtPlaca"_s);
+    const QRect dzieci = kontrolka(u"txtDzieci"_s).geometry();
+    wpiszDo(u"txtPlaca"_s, u"1.500"_s);
+    EXPECT_FALSE(wiazanie->wlasnieNieZrozumiano());
+    kontrolka(u"txtDzieci"_s).setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(wiazanie->wlasnieNieZrozumiano());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(wiazanie->wlasnieNieZrozumiano()) << "only in the act that left the field";
+    const QString zdanie =
+        u"„1.500” może znaczyć tysiące albo ułamek. Przyjęto 0,00. Ctrl+Z przywraca 1650,12."_s;
+    EXPECT_EQ(UwagaPola::zdanie(placa), zdanie);
+    EXPECT_EQ(placa.accessibleDescription(), zdanie);
+    EXPECT_EQ(stored(u"txtPlaca"_s), Wartosc(Waluta{}));
+    EXPECT_EQ(kontrolka(u"txtDzieci"_s).geometry(), dzieci) << "nothing moves";
+    const auto* uwaga = okno.findChild<UwagaPola*>();
+    ASSERT_TRUE(uwaga && uwaga->isVisible());
+    const QWidget* wPracy = QApplication::focusWidget();
+    EXPECT_FALSE(uwaga->geometry().intersects(QRect(wPracy->mapTo(&okno, QPoint()), wPracy->size())));
+
+    placa.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&placa, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(placa.text(), u"1650,12"_s);
+    EXPECT_EQ(UwagaPola::zdanie(placa), QString());
+    opusc();
+    EXPECT_EQ(stored(u"txtPlaca"_s), Wartosc(Waluta::zSurowej(16501200)))
+        << "what undo brings back is stored too";
+
+    const struct {
+        QString pole, wpisany, zdanie;
+    } przypadki[] = {
+        {u"txtPlaca"_s, u"abc"_s, u"„abc” nie jest kwotą. Przyjęto 0,00. Ctrl+Z przywraca 1650,12."_s},
+        {u"txtPlaca"_s, u"7"_s, {}},
+        {u"txtDzieci"_s, u"dwoje"_s, u"„dwoje” nie jest liczbą. Przyjęto 0."_s},
+        {u"txtDzieci"_s, u"99999999999"_s, u"„99999999999” nie mieści się w polu. Przyjęto 0."_s},
+        {u"txtDzieci"_s, u" "_s, {}},
+        {u"dtUr"_s, u"31-02-2001"_s, u"„31-02-2001” nie jest datą. Pole jest puste."_s},
+        {u"dtUr"_s, u"28-02-2001"_s, {}},
+        {u"dtUr"_s, u"28-02-201"_s,
+         u"„28-02-201” nie jest datą. Pole jest puste. Ctrl+Z przywraca 28-02-2001."_s},
+    };
+    for (const auto& p : przypadki) {
+        wpiszDo(p.pole, p.wpisany);
+        opusc();
+        EXPECT_EQ(UwagaPola::zdanie(kontrolka(p.pole)), p.zdanie) << p.wpisany.toStdString();
+    }
+    wiazanie->odswiez();
+    EXPECT_FALSE(UwagaPola::zdanie(kontrolka(u"dtUr"_s)).isEmpty()) << "the same row, computed anew";
+    wiazanie->wczytaj();
+    EXPECT_TRUE(UwagaPola::zdanie(kontrolka(u"dtUr"_s)).isEmpty()) << "another row";
+    auto& data = kontrolka(u"dtUr"_s);
+    data.setFocus();
+    QTest::keyClick(&data, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(data.text(), QString()) << "undo does not reach into the row before";
+}
+
+TEST_F(WiazanieTest, WlasneSprawdzenieBiegniePrzyKazdymOpuszczeniu) {
+    QStringList sprawdzone;
+    wiazanie->sprawdzaj(u"txtDzieci"_s,
+                        [&](const QString& tekst, const QString& przyWejsciu) -> Wiazanie::Sprawdzony {
+                            sprawdzone += tekst;
+                            if (tekst.toInt() <= 10) return tekst;
+                            return {przyWejsciu, u"za dużo"_s};
+                        });
     wpiszDo(u"txtDzieci"_s, u"4"_s);
     opusc();
     wpiszDo(u"txtDzieci"_s, u"44"_s);
+    QTest::keyClick(&kontrolka(u"txtDzieci"_s), Qt::Key_Return);
     opusc();
     EXPECT_EQ(wiazanie->tekst(u"txtDzieci"_s), u"4"_s);
     EXPECT_EQ(opuszczone.size(), 1) << "put back is not changed";
+    EXPECT_EQ(UwagaPola::zdanie(kontrolka(u"txtDzieci"_s)), u"za dużo"_s);
+    EXPECT_EQ(sprawdzone, (QStringList{u"4"_s, u"44"_s})) << "Enter and the way out are one leaving";
+
+    // What an import left is checked though nobody typed, and an odd date that nobody touched stays.
+    sesja->rsPRACDP.ustaw(PRACDP("il_dzieci"), 99);
+    sesja->rsPRACDP.ustaw(PRACDP("data_ur"), QDate(1850, 1, 1));
+    wiazanie->wczytaj();
+    for (const QString& nazwa : {u"txtDzieci"_s, u"dtUr"_s}) kontrolka(nazwa).setFocus(Qt::TabFocusReason);
+    opusc();
+    EXPECT_EQ(sprawdzone.last(), u"99"_s);
+    EXPECT_EQ(wiazanie->tekst(u"dtUr"_s), u"01-01-1850"_s);
+    EXPECT_FALSE(wiazanie->jestZmiana());
 }
 
 TEST_F(WiazanieTest, KlawiaturaBlokadaINazwy) {
@@ -279,40 +361,6 @@ TEST_F(WiazanieTest, KlawiaturaBlokadaINazwy) {
     wiazanie->pokaz({{u"txtSeria"_s, false}});
     EXPECT_FALSE(kontrolka(u"txtNrDowodu"_s).isVisible()) << "goes with the caption it shares";
     EXPECT_THROW((void)wiazanie->tekst(u"brak"_s), std::out_of_range);
-}
-
-TEST(ListaModelOknaTest, PrzechodziSprawdzianModeliIOtwieraDziesiecTysiecyWierszy) {
-    WidokListy widok({{u"NR"_s, Qt::AlignRight}, {u"NAZWISKO"_s}}, {20, 80});
-    ListaModel& model = widok.lista();
-    const QAbstractItemModelTester sprawdzian(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    QSignalSpy wybrano(&widok, &WidokListy::wybrano);
-    QSignalSpy wejscie(&widok, &WidokListy::wejscie);
-    widok.resize(300, 400);
-    widok.show();
-
-    widok.ustaw({});
-    EXPECT_EQ(widok.wybrany(), -1);
-    EXPECT_EQ(wybrano.count(), 0);
-    QList<WierszListy> wiersze;
-    for (int i = 0; i < 10'000; ++i) wiersze.append({20'000 - i, {QString::number(i), u"Nowak"_s}});
-    wiersze[3].teksty = {u"3"_s}; // a row with fewer texts than columns
-    widok.ustaw(wiersze, 12'345);
-    EXPECT_EQ(widok.wybrany(), 12'345);
-    EXPECT_EQ(wybrano.count(), 1);
-    EXPECT_EQ(model.data(model.index(7'655, 0), Qt::DisplayRole).toString(), u"7655"_s);
-    EXPECT_EQ(model.data(model.index(0, 0), Qt::TextAlignmentRole).toInt(),
-              Qt::AlignRight | Qt::AlignVCenter);
-    EXPECT_EQ(widok.columnWidth(0), widok.viewport()->width() / 5);
-
-    model.zmien(12'345, {u"x"_s, u"Kowal"_s});
-    EXPECT_EQ(model.index(model.wiersz(12'345), 1).data().toString(), u"Kowal"_s);
-    EXPECT_EQ(model.id(10'000), -1);
-    QTest::keyClick(&widok, Qt::Key_Down);
-    QTest::keyClick(&widok, Qt::Key_Return);
-    ASSERT_EQ(wejscie.count(), 1);
-    EXPECT_EQ(wejscie.at(0).at(0).toLongLong(), 12'344);
-    widok.ustaw(wiersze.mid(0, 2), 12'345);
-    EXPECT_EQ(widok.wybrany(), 20'000) << "a row that is gone gives way to the first";
 }
 
 } // namespace

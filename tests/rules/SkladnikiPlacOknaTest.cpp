@@ -94,6 +94,10 @@ TEST_F(SkladnikiEkranTest, BezZmianNieMaPytaniaAOdmowaJePorzuca) {
     for (const bool zamkniecie : {false, true}) {
         pokaz();
         wpisz(u"txtNazwa", 2, u"inna"_s);
+        rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Anuluj);
+        okno->close();
+        EXPECT_TRUE(okno->isVisible());
+        EXPECT_EQ(pole<QLineEdit>(u"txtNazwa", 2).text(), u"inna"_s);
         rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Nie);
         if (zamkniecie)
             EXPECT_TRUE(okno->close());
@@ -147,7 +151,11 @@ TEST_F(SkladnikiEkranTest, NieudanyZapisZostawiaEkranZTekstem) {
     obcy.ustaw(SZ_PL("naz_sk"), u"cudza"_s);
     obcy.UpdateBatch(u"Dane testu");
     rozmowa_.spodziewaj(kZapisacSkladniki, Odpowiedz::Tak);
-    EXPECT_THROW(okno->reject(), Konflikt);
+    rozmowa_.spodziewaj(
+        u"Wiersz tabeli SZ_PL został tymczasem zmieniony w bazie. Zmiany nie zapisano.\r\n\r\n"
+        u"Czy zamknąć okno bez zapisania zmian ?"_s,
+        Odpowiedz::Nie);
+    okno->reject();
     EXPECT_TRUE(okno->isVisible());
     EXPECT_EQ(pole<QLineEdit>(u"txtNazwa", 2).text(), u"inna"_s);
     EXPECT_EQ(otoczenie().skladniki.SkNazwa(2), u"Premia %"_s);

@@ -102,7 +102,7 @@ TEST_F(ListaPlacOknaTest, ZlosliweTekstyWPolachLiczb) {
     };
     const Przypadek przypadki[] = {
         {u"abc"_s, u"0,00"_s, u"0"_s},      {u"1,2,3"_s, u"0,00"_s, u"0"_s},
-        {u"1 650"_s, u"0,00"_s, u"0"_s},    {u" 17 "_s, u"17,00"_s, u"17"_s},
+        {u"1 650"_s, u"1650,00"_s, u"1650"_s},    {u" 17 "_s, u"17,00"_s, u"17"_s},
         {u"1e300"_s, u"0,00"_s, u"0"_s},    {u"-0"_s, u"0,00"_s, u"0"_s},
         {u"-5"_s, u"-5,00"_s, u"-5"_s},     {u"😀"_s, u"0,00"_s, u"0"_s},
         {u"٣٤"_s, u"0,00"_s, u"0"_s},       {u"0,125"_s, u"0,13"_s, u"0"_s},
