@@ -62,15 +62,17 @@ constexpr struct {
 };
 
 void sortujPoNazwiskach(QList<Osoba>& osoby) {
-    QCollator porzadek(QLocale(QLocale::Polish, QLocale::Poland));
-    std::vector<std::pair<QCollatorSortKey, Osoba>> klucze;
+    const QCollator porzadek(QLocale(QLocale::Polish, QLocale::Poland));
+    std::vector<std::pair<QCollatorSortKey, qsizetype>> klucze;
     klucze.reserve(static_cast<std::size_t>(osoby.size()));
-    for (Osoba& osoba : osoby)
-        klucze.emplace_back(porzadek.sortKey(osoba.nazwisko + QLatin1Char(' ') + osoba.imie),
-                            std::move(osoba));
+    for (qsizetype i = 0; i < osoby.size(); ++i)
+        klucze.emplace_back(porzadek.sortKey(osoby[i].nazwisko + QLatin1Char(' ') + osoby[i].imie), i);
     std::stable_sort(klucze.begin(), klucze.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
-    std::transform(klucze.begin(), klucze.end(), osoby.begin(), [](auto& k) { return std::move(k.second); });
+    QList<Osoba> wynik;
+    wynik.reserve(osoby.size());
+    for (const auto& [klucz, i] : klucze) wynik.append(std::move(osoby[i]));
+    osoby = std::move(wynik);
 }
 
 } // namespace

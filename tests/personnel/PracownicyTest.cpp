@@ -1,5 +1,6 @@
 #include "personnel/Pracownicy.h"
 #include "common/Daty.h"
+#include "store/Struktura.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
 #include <set>

@@ -6,8 +6,8 @@
 #include "payroll/lista/OdpowiedziSerii.h"
 #include "payroll/lista/PolaListy.h"
 #include "payroll/lista/Pozycje.h"
-#include "store/RaportSerii.h"
 #include "rules/Otoczenie.h"
+#include "store/RaportSerii.h"
 #include <functional>
 #include <QList>
 #include <QString>
