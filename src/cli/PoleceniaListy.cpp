@@ -1,6 +1,7 @@
 #include "cli/Polecenia.h"
 #include "common/Daty.h"
 #include "common/Liczby.h"
+#include "common/Rozmowa.h"
 #include "payroll/lista/ListaPlac.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
@@ -37,13 +38,8 @@ QList<LiniaListy> wierszeListy(const Wywolanie& w, Sesja& sesja, ListaPlac& list
     return lista.Wczytaj_listep();
 }
 
-/// Runs the batch and stores the month's sums with it, as one action; tells how it ended.
-int wykonajSerie(Wywolanie& w, ListaPlac& lista, const std::function<RaportSerii()>& seria) {
-    Transakcja transakcja(w.otoczenie().sesja.cnPlace, u"Seria na liście płac");
-    const RaportSerii raport = seria();
-    lista.ZapiszSumy();
-    transakcja.zatwierdz();
-
+/// Tells how a batch ended.
+int zakoncz(Wywolanie& w, const RaportSerii& raport) {
     QJsonArray niepowodzenia;
     for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia)
         niepowodzenia.append(
@@ -78,7 +74,7 @@ int dodaj(Wywolanie& w) {
         for (const Osoba& osoba :
              Pracownicy(w.otoczenie()).lista(FiltrPracownikow::Pracujacy, PorzadekPracownikow::Numery))
             numery.append(osoba.prcId);
-    return wykonajSerie(w, lista, [&] { return lista.DodajPracownikow(numery); });
+    return zakoncz(w, lista.DodajPracownikow(numery));
 }
 
 int przelicz(Wywolanie& w, Obliczenie obliczenie) {
@@ -91,12 +87,10 @@ int przelicz(Wywolanie& w, Obliczenie obliczenie) {
         klucze.removeIf([&](const KluczListy& k) { return !podani.contains(k.prcId); });
         for (const KluczListy& k : klucze) bezWiersza.removeAll(k.prcId);
     }
-    return wykonajSerie(w, lista, [&] {
-        RaportSerii raport = lista.PrzeliczSerie(obliczenie, klucze);
-        for (const qint64 prcId : bezWiersza)
-            raport.niepowodzenia.append({prcId, QStringLiteral("Nie ma go na liście płac.")});
-        return raport;
-    });
+    RaportSerii raport = lista.PrzeliczSerie(obliczenie, klucze);
+    for (const qint64 prcId : bezWiersza)
+        raport.niepowodzenia.append({prcId, QStringLiteral("Nie ma go na liście płac.")});
+    return zakoncz(w, raport);
 }
 
 int przeliczDni(Wywolanie& w) { return przelicz(w, Obliczenie::PoliczenieDni); }

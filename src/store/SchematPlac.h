@@ -182,7 +182,8 @@ inline constexpr auto PLD = polacz(
     }),
     przeplot(seria(NazwySOD, Date), seria(NazwySDO, Date)));
 
-/// Sick benefit of a list row, zł, by which the amount to pay is raised. A row without one has no record.
+/// Sick benefit of a list row, zł, which the clerk may take off the amount to pay. A row without days of the
+/// insurer needs no record.
 inline constexpr KolumnaDef ZASILEK[] = {
     {"ROKMIES", Text, 6, true}, // year and month, 200107
     {"PRC_ID", Short, 0, true},

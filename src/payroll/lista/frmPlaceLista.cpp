@@ -266,7 +266,7 @@ void frmPlaceLista::usun() {
 void frmPlaceLista::przelicz() {
     zakladki_->zakoncz();
     const Klepsydra klepsydra;
-    lista_.Przelicz1();
+    if (!lista_.Przelicz1()) return;
     zakladki_->przyjmijSumy();
     zakladki_->Wypisz_daneP();
     pokazNaglowek();
@@ -276,7 +276,7 @@ void frmPlaceLista::przelicz() {
 void frmPlaceLista::przepisz() {
     zakladki_->zakoncz();
     const Klepsydra klepsydra;
-    lista_.Przelicz2();
+    if (!lista_.Przelicz2()) return;
     zakladki_->porzucSumy();
     zakladki_->Wypisz_daneP();
     if (const auto klucz = biezacy()) oznacz(*klucz, true);
@@ -284,7 +284,7 @@ void frmPlaceLista::przepisz() {
 
 void frmPlaceLista::przeliczDni() {
     zakladki_->zakoncz();
-    lista_.Przelicz_Dni();
+    if (!lista_.Przelicz_Dni()) return;
     zakladki_->Wypisz_daneP();
     zakladki_->setCurrentIndex(ZakladkiListy::CzasPracy);
 }

@@ -129,8 +129,10 @@ TEST_F(ListaPlacTest, NobodyStandsTwiceOnOneList) {
     EXPECT_EQ(raport.pominiete, 2);
     EXPECT_EQ(raport.tekst(), u"Pracownik nr 99: Nie ma pracownika o numerze 99 w kadrach."_s);
     EXPECT_THROW(l->Nowy_prac(99), Blad);
+    rozmowa_.spodziewaj(pytania::naInnejLiscie, Styl::Wykrzyknik);
     dopisz(*lista(u"A"_s), 1);
-    EXPECT_EQ(wierszeWPliku(), "1 ,1A,2 ");
+    EXPECT_EQ(lista(u"B"_s)->DodajPracownikow({2}).tekst(), pytania::naInnejLiscie + u" (pracownik nr 2)"_s);
+    EXPECT_EQ(wierszeWPliku(), "1 ,1A,2 ,2B");
     oczekujCzystych();
 }
 
@@ -417,8 +419,9 @@ TEST_F(ListaPlacTest, ABlockedMonthIsReadAndNeverWritten) {
         [&] { l->WpiszDni(); },
     };
     for (const auto& zmiana : zmiany) EXPECT_THROW(zmiana(), Blad);
+    sesja().cnPlace.wykonaj("UPDATE PLACE SET sum_brutto = 50000");
     l->ZapiszSumy();
-    oczekujSum(kLipiec, "il_wyplat=0 sum_brutto=0");
+    oczekujSum(kLipiec, "il_wyplat=1 sum_brutto=5");
     EXPECT_EQ(wierszeWPliku(), "1 ");
 }
 
