@@ -2,6 +2,7 @@
 #include "common/Daty.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
+#include "payroll/lista/KontrolaWierszy.h"
 #include "payroll/lista/ListaPlac.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
@@ -192,10 +193,16 @@ QJsonObject wierszJson(const Sesja& s) {
 
 void wypiszJson(Wywolanie& w, ListaPlac& lista, const QList<LiniaListy>& linie) {
     const Sesja& s = w.otoczenie().sesja;
+    const KontrolaWierszy kontrola(lista.pozycje());
     QJsonArray wiersze;
     for (const LiniaListy& linia : linie) {
         (void)lista.Wypisz_daneP(linia.klucz);
-        wiersze.append(wierszJson(s));
+        QJsonObject wiersz = wierszJson(s);
+        if (const StanWiersza stan = kontrola.sprawdz(s.rsPLA.biezacyWiersz(),
+                                                      s.rsPLS.szukaj(linia.klucz.prcId, linia.klucz.lista));
+            stan.wymagaUwagi())
+            wiersz.insert(QStringLiteral("uwaga"), stan.opis());
+        wiersze.append(wiersz);
     }
     QJsonObject sumy;
     dopiszKolumny(sumy, s.rsPLACE);
@@ -203,6 +210,15 @@ void wypiszJson(Wywolanie& w, ListaPlac& lista, const QList<LiniaListy>& linie) 
                        {QStringLiteral("zablokowany"), lista.zablokowany()},
                        {QStringLiteral("wiersze"), wiersze},
                        {QStringLiteral("sumy"), sumy}});
+}
+
+/// What needs attention on the rows shown.
+QString doUwagi(Sesja& s, const ListaPlac& lista) {
+    QList<WierszDoUwagi> wiersze = PrzejrzyjWiersze(lista.pozycje(), s.rsPLA, s.rsPLS);
+    wiersze.removeIf([&](const WierszDoUwagi& u) {
+        return lista.symbol() != QLatin1String(" ") && u.lista != lista.symbol();
+    });
+    return OpisDoUwagi(wiersze);
 }
 
 int pokaz(Wywolanie& w) {
@@ -216,6 +232,8 @@ int pokaz(Wywolanie& w) {
     w.pisz(QString());
     wypiszWiersze(w, lista, linie);
     w.pisz(QString());
+    if (const QString uwagi = doUwagi(w.otoczenie().sesja, lista); !uwagi.isEmpty())
+        w.pisz(uwagi + QLatin1Char('\n'));
     wypiszPodsumowanie(w);
     return status::Wykonane;
 }

@@ -3,6 +3,7 @@
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
 #include "payroll/lista/KolumnyWiersza.h"
+#include "payroll/lista/WpisaneKwoty.h"
 #include "rules/SkladnikiPlac.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
@@ -19,9 +20,9 @@ namespace {
 const QString kWszystkieListy = QStringLiteral(" ");
 
 std::array<Recordset*, 4> tabeleWiersza(Sesja& s) { return {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD}; }
-/// With the one that not every row has a record in.
-std::array<Recordset*, 5> rekordyWiersza(Sesja& s) {
-    return {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD, &s.rsZASILEK};
+/// With those that not every row has a record in.
+std::array<Recordset*, 6> rekordyWiersza(Sesja& s) {
+    return {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD, &s.rsZASILEK, &s.rsWPISANE};
 }
 
 /// Calculations of one row: a failure names the employee.
@@ -42,7 +43,7 @@ auto zNazwiskiem(const Sesja& s, const Funkcja& obliczenie) {
 
 ListaPlac::ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol, WykazyPodstaw* wykazy)
     : o_(otoczenie), rok_(rok), mies_(mies), symbol_(symbol.isEmpty() ? kWszystkieListy : symbol.left(1)),
-      zrodla_(otoczenie, wykazy) {
+      zrodla_(otoczenie, wykazy), sumyMiesiaca_(otoczenie.sesja, {rok, mies}) {
     int wynik = 0;
     o_.sesja.OtworzMiesiac(rok, mies, wynik);
     if (wynik != 0)
@@ -57,14 +58,7 @@ void ListaPlac::Pobierz_Akt() {
     const Maski katalog = o_.skladniki.maski();
     // An open month goes by the catalogue, a blocked one by the masks that its header kept.
     const Maski miesiac = zablokowany_ ? Maski::zMiesiaca(o_.sesja.rsPLACE) : katalog;
-    for (int i = 1; i <= kDodatnich; ++i)
-        pozycje_.dodatnie[static_cast<std::size_t>(i - 1)] = {
-            maBit(miesiac.akt_sp, i), maBit(katalog.akt_sp, i), maBit(miesiac.br_sp, i),
-            maBit(miesiac.zus_sp, i), maBit(miesiac.ubzdr_sp, i)};
-    for (int i = 1; i <= kUjemnych; ++i)
-        pozycje_.ujemne[static_cast<std::size_t>(i - 1)] = {
-            maBit(miesiac.akt_sm, i), maBit(katalog.akt_sm, i), maBit(miesiac.br_sm, i),
-            maBit(miesiac.zus_sm, i), maBit(miesiac.ubzdr_sm, i)};
+    pozycje_ = PozycjeZMasek(miesiac, katalog);
 }
 
 QString ListaPlac::tytul() const {
@@ -144,7 +138,23 @@ void ListaPlac::CofnijWiersz() {
 }
 
 void ListaPlac::zapiszRekordy(const Transakcja& akcja) {
+    sumyMiesiaca_.dolicz();
     for (Recordset* rs : rekordyWiersza(o_.sesja)) rs->UpdateBatch(akcja);
+}
+
+void ListaPlac::zapiszSumyMiesiaca(const Transakcja& akcja) {
+    // Sums that leave the range of amounts keep nobody from his rows: they are told when the list is closed.
+    (void)sumyMiesiaca_.zapisz(akcja);
+}
+
+void ListaPlac::zSumami(const std::function<void()>& zapis) {
+    try {
+        zapis();
+    } catch (...) {
+        sumyMiesiaca_.uniewaznij();
+        o_.sesja.rsPLACE.CancelBatch();
+        throw;
+    }
 }
 
 void ListaPlac::zapiszWiersz(const KluczListy& klucz, const std::function<void()>& zmiana) {
@@ -153,8 +163,11 @@ void ListaPlac::zapiszWiersz(const KluczListy& klucz, const std::function<void()
         Transakcja transakcja(o_.sesja.cnPlace, QStringLiteral("Lista płac %1: pracownik nr %2")
                                                     .arg(NapisMiesiaca(rok_, mies_))
                                                     .arg(klucz.prcId));
-        zapiszRekordy(transakcja);
-        transakcja.zatwierdz();
+        zSumami([&] {
+            zapiszRekordy(transakcja);
+            zapiszSumyMiesiaca(transakcja);
+            transakcja.zatwierdz();
+        });
     } catch (...) {
         CofnijWiersz();
         throw;
@@ -271,6 +284,7 @@ ZbiorPytan ListaPlac::pytaniaWiersza(Obliczenie obliczenie, const WierszPlac& wi
     case Obliczenie::Przepisanie:
         zrodla_.dodajPytaniaSkladnikow(miesiac(), wiersz.klucz.prcId, moga);
         moga.dodaj(Pytanie::PomniejszycZasilek, false);
+        moga.dodaj(Pytanie::ZastapicWpisane, saWpisane(wiersz.klucz));
         break;
     case Obliczenie::Przeliczenie:
         moga = PytaniaPlacy(wiersz, ZasilekChorobowy(miesiac(), wiersz, zapisanyZasilek(wiersz.klucz)));
@@ -293,6 +307,17 @@ void ListaPlac::wykonajObliczenie(Obliczenie obliczenie, const AkcjaPlac& akcja,
     }
 }
 
+void ListaPlac::wpiszObliczenie(Obliczenie obliczenie, const WierszPlac& przedtem, const RachunekWiersza& r) {
+    ZapiszZmiany(o_.sesja, przedtem, r.wiersz);
+    wpiszZasilek(r);
+    if (obliczenie == Obliczenie::Przepisanie)
+        PrzepisanoSkladniki(o_.sesja, pozycje_, przedtem.klucz.prcId, przedtem.klucz.lista);
+}
+
+bool ListaPlac::saWpisane(const KluczListy& klucz) {
+    return SaWpisane(o_.sesja, pozycje_, klucz.prcId, klucz.lista);
+}
+
 bool ListaPlac::przelicz(Obliczenie obliczenie) {
     wymagajWiersza();
     if (obliczenie != Obliczenie::PoliczenieDni) wymagajPracownika(wiersz_->prcId);
@@ -303,15 +328,13 @@ bool ListaPlac::przelicz(Obliczenie obliczenie) {
 
 bool ListaPlac::przeliczWiersz(Obliczenie obliczenie) {
     const WierszPlac przedtem = WczytajWiersz(o_.sesja);
-    const auto odpowiedzi =
-        Zapytaj(o_.rozmowa, tytul(), pytaniaWiersza(obliczenie, przedtem), Zakres::Wiersz);
+    const ZbiorPytan moga = pytaniaWiersza(obliczenie, przedtem);
+    const auto odpowiedzi = Zapytaj(o_.rozmowa, tytul(), moga, Zakres::Wiersz);
     if (!odpowiedzi) return false;
+    if (moga.ma(Pytanie::ZastapicWpisane) && !odpowiedzi->ma(Pytanie::ZastapicWpisane)) return false;
     RachunekWiersza r{przedtem, zapisanyZasilek(przedtem.klucz)};
     wykonajObliczenie(obliczenie, {miesiac(), zrodla_, *odpowiedzi, Zakres::Wiersz}, r);
-    zapiszWiersz(przedtem.klucz, [&] {
-        ZapiszZmiany(o_.sesja, przedtem, r.wiersz);
-        wpiszZasilek(r);
-    });
+    zapiszWiersz(przedtem.klucz, [&] { wpiszObliczenie(obliczenie, przedtem, r); });
     if (obliczenie == Obliczenie::Przeliczenie) sumy_ = r.sumy;
     pokazUwagi(r.uwagi);
     return true;
@@ -360,7 +383,9 @@ bool ListaPlac::ZmienKwote(const PoleListy& pole, Waluta kwota) {
 
 void ListaPlac::WpiszSK() {
     wymagajWiersza();
-    o_.sesja.rsPLS.UpdateBatch(u"Składniki wiersza listy płac");
+    zapiszWiersz(*wiersz_, [this] {
+        ZaznaczWpisane(o_.sesja, wiersz_->prcId, wiersz_->lista, o_.sesja.rsPLS.zmienioneKolumny());
+    });
 }
 
 void ListaPlac::WpiszDatyGr() {
@@ -386,38 +411,13 @@ bool ListaPlac::DniZgodneZMiesiacem() const {
 
 void ListaPlac::ZapiszSumy() {
     if (zablokowany_) return; // a blocked month is never written
-    static constexpr std::pair<Kolumna, Kolumna> sumyA[] = {
-        {PLA("BRUTTO"), PLACE("sum_brutto")}, {PLA("PODATEK"), PLACE("sum_podat")},
-        {PLA("NETTO"), PLACE("sum_netto")},   {PLA("SKL_FP"), PLACE("sum_fp")},
-        {PLA("SKL_FGSP"), PLACE("sum_fgsp")}, {PLA("KUP"), PLACE("sum_kup")},
-        {PLA("PPD"), PLACE("sum_ppd")},       {PLA("DO_WYPLATY"), PLACE("do_wyplaty")},
-    };
-    static constexpr std::pair<Kolumna, Kolumna> sumyB[] = {
-        {PLB("FEPRD"), PLACE("sum_feprd")}, {PLB("FRPRD"), PLACE("sum_frprd")},
-        {PLB("FEPRC"), PLACE("sum_feprc")}, {PLB("FRPRC"), PLACE("sum_frprc")},
-        {PLB("FCPRC"), PLACE("sum_fc")},    {PLB("FWPRD"), PLACE("sum_fw")},
-        {PLB("UBZDR"), PLACE("sum_ubzdr")},
-    };
-    Sesja& s = o_.sesja;
-    if (!s.ZnajdzMiesiac(rok_, mies_)) return;
-    Recordset& a = s.rsPLA;
-    std::array<Waluta, std::size(sumyA)> a1{};
-    std::array<Waluta, std::size(sumyB)> b1{};
-    Waluta inne;
-    int ile = 0;
-    // All lists of the month, whatever symbol is open.
-    for (a.MoveFirst(); !a.EOF_(); a.MoveNext(), ++ile) {
-        for (std::size_t i = 0; i < a1.size(); ++i) a1[i] += a.kwota(sumyA[i].first);
-        inne += a.kwota(PLA("DODATKI")) - a.kwota(PLA("POTRACENIA"));
-        if (s.rsPLB.Znajdz(a.liczba(PLA("PRC_ID")), a.tekst(PLA("LISTA"))))
-            for (std::size_t i = 0; i < b1.size(); ++i) b1[i] += s.rsPLB.kwota(sumyB[i].first);
-    }
-    for (std::size_t i = 0; i < a1.size(); ++i) s.rsPLACE.ustaw(sumyA[i].second, a1[i]);
-    for (std::size_t i = 0; i < b1.size(); ++i) s.rsPLACE.ustaw(sumyB[i].second, b1[i]);
-    s.rsPLACE.ustaw(PLACE("sum_inne"), inne);
-    s.rsPLACE.ustaw(PLACE("il_wyplat"), ile);
-    s.rsPLACE.UpdateBatch(QStringLiteral("Sumy listy płac %1").arg(NapisMiesiaca(rok_, mies_)));
-    if (wiersz_) ustawNa(*wiersz_);
+    const QString czynnosc = QStringLiteral("Sumy listy płac %1").arg(NapisMiesiaca(rok_, mies_));
+    zSumami([&] {
+        Transakcja transakcja(o_.sesja.cnPlace, czynnosc);
+        if (!sumyMiesiaca_.zapisz(transakcja))
+            throw Przepelnienie(czynnosc + QStringLiteral(": kwota przekracza zakres liczb programu."));
+        transakcja.zatwierdz();
+    });
 }
 
 } // namespace tornel::payroll

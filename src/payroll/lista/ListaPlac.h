@@ -3,6 +3,7 @@
 #pragma once
 #include "payroll/lista/PolaListy.h"
 #include "payroll/lista/Pozycje.h"
+#include "payroll/lista/SumyMiesiaca.h"
 #include "payroll/lista/ZrodlaPlac.h"
 #include "rules/Otoczenie.h"
 #include "store/RaportSerii.h"
@@ -74,13 +75,15 @@ public:
     /// Asks and deletes the records of the row taken up. False on No.
     bool Usun_prac();
 
-    // Calculations of the row taken up, saved. False when the questions were cancelled. One that fails leaves
+    // Calculations of the row taken up, saved. False when the questions were cancelled, or when the clerk
+    // keeps the component amounts that he typed. One that fails leaves
     // the row as it was and throws `Blad` with the employee and the cause.
 
     bool Przelicz_Dni() { return przelicz(Obliczenie::PoliczenieDni); }
     bool Przelicz2() { return przelicz(Obliczenie::Przepisanie); }
     bool Przelicz1() { return przelicz(Obliczenie::Przeliczenie); }
-    /// The same for many rows as a batch; a row whose calculation fails stays as it was.
+    /// The same for many rows as a batch; a row whose calculation fails stays as it was, and so does one with
+    /// typed component amounts that the clerk keeps.
     RaportSerii PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze);
 
     // Hand edits of the row taken up. Each is one action, saved when the procedure returns.
@@ -100,7 +103,9 @@ public:
     /// Drops what was typed into the row in memory and not saved.
     void CofnijWiersz();
 
-    /// The month sums over all lists, written to `PLACE`; not for a blocked month. Reads `PLA`, `PLB`.
+    /// The month sums over all lists, should `PLACE` not hold them: every action that changes rows has stored
+    /// them, but an import has not. Not for a blocked month. Throws `Przepelnienie` when they cannot be
+    /// expressed.
     void ZapiszSumy();
 
 private:
@@ -128,7 +133,12 @@ private:
     [[nodiscard]] bool przyjmijPrzelew(WierszPlac& wiersz);
 
     void wpiszZasilek(const RachunekWiersza& rachunek);
+    void wpiszObliczenie(Obliczenie obliczenie, const WierszPlac& przedtem, const RachunekWiersza& rachunek);
+    [[nodiscard]] bool saWpisane(const KluczListy& klucz);
     void zapiszRekordy(const Transakcja& akcja);
+    void zapiszSumyMiesiaca(const Transakcja& akcja);
+    /// Runs a writing of rows and sums; after a failure the sums are added up anew.
+    void zSumami(const std::function<void()>& zapis);
     void zapiszWiersz(const KluczListy& klucz, const std::function<void()>& zmiana);
     void pokazUwagi(const ListaUwag& uwagi);
 
@@ -150,6 +160,7 @@ private:
     ZrodlaPlac zrodla_;
     std::optional<KluczListy> wiersz_;
     SumyWiersza sumy_;
+    SumyMiesiaca sumyMiesiaca_;
 };
 
 } // namespace tornel::payroll

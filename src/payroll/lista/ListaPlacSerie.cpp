@@ -62,10 +62,14 @@ RaportSerii ListaPlac::wykonajSerie(const QString& czynnosc, const Seria& seria)
         return WynikKroku{wykonany ? WynikKroku::Los::Wykonany : WynikKroku::Los::Pominiety,
                           tekstyDlaSerii(uwagi)};
     };
-    RaportSerii raport = WykonajSerie(
-        o_.sesja.cnPlace, o_.rozmowa, {czynnosc + QLatin1Char(' ') + RokMies{rok_, mies_}.napis(), tytul()},
-        {seria.ile, seria.numer, krok, [this](const Transakcja& transakcja) { zapiszRekordy(transakcja); },
-         [this] { CofnijWiersz(); }, [this](const Transakcja&) { ZapiszSumy(); }});
+    RaportSerii raport;
+    zSumami([&] {
+        raport = WykonajSerie(o_.sesja.cnPlace, o_.rozmowa,
+                              {czynnosc + QLatin1Char(' ') + RokMies{rok_, mies_}.napis(), tytul()},
+                              {seria.ile, seria.numer, krok,
+                               [this](const Transakcja& t) { zapiszRekordy(t); }, [this] { CofnijWiersz(); },
+                               [this](const Transakcja& t) { zapiszSumyMiesiaca(t); }});
+    });
     wiersz_.reset();
     return raport;
 }
@@ -113,9 +117,10 @@ ZbiorPytan ListaPlac::pytaniaSerii(Obliczenie obliczenie, const QList<KluczListy
         pomijajacUszkodzonych([&] {
             if (obliczenie == Obliczenie::PoliczenieDni)
                 zrodla_.dodajPytaniaDni(miesiac(), klucz.prcId, Zakres::Seria, moga);
-            else if (obliczenie == Obliczenie::Przepisanie)
+            else if (obliczenie == Obliczenie::Przepisanie) {
+                if (saWpisane(klucz)) moga.dodaj(Pytanie::ZastapicWpisane);
                 zrodla_.dodajPytaniaSkladnikow(miesiac(), klucz.prcId, moga);
-            else if (!moga.ma(Pytanie::PomniejszycZasilek)) {
+            } else if (!moga.ma(Pytanie::PomniejszycZasilek)) {
                 const std::optional<Waluta> zapisany = zapisanyZasilek(klucz);
                 // Without days of the insurer an unrecorded benefit is none.
                 if (!zapisany && !(a.Znajdz(klucz.prcId, klucz.lista) && a.liczba(PLA("DNI_L4_ZUS")) > 0))
@@ -140,11 +145,13 @@ RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczLis
         ustawNa(wiersze[i]);
         wymagajPracownika(wiersze[i].prcId);
         wymagajWiersza();
+        if (obliczenie == Obliczenie::Przepisanie && !akcja.odpowiedzi.ma(Pytanie::ZastapicWpisane) &&
+            saWpisane(wiersze[i]))
+            return false;
         const WierszPlac przedtem = WczytajWiersz(o_.sesja);
         RachunekWiersza r{przedtem, zapisanyZasilek(przedtem.klucz)};
         wykonajObliczenie(obliczenie, akcja, r);
-        ZapiszZmiany(o_.sesja, przedtem, r.wiersz);
-        wpiszZasilek(r);
+        wpiszObliczenie(obliczenie, przedtem, r);
         uwagi = std::move(r.uwagi);
         return true;
     };

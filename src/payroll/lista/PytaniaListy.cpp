@@ -14,6 +14,8 @@ struct OpisPytania {
 };
 
 constexpr OpisPytania kPytaniaListy[] = {
+    {Pytanie::ZastapicWpisane, u"Kwoty składników wpisane ręcznie zostaną zastąpione. Czy przepisać ?",
+     u"Na liście są kwoty składników wpisane ręcznie. Czy zastąpić je przy przepisywaniu ?"},
     {Pytanie::IloscZasilkow,
      u"Czy przenieść dane o ilościach zasiłków: rodzinnego, wychowawczego i pielęgnacyjnego ?",
      u"Czy przenosić dane o ilościach zasiłków rodzinnych, wychowawczych i pielęgnacyjnych ?"},

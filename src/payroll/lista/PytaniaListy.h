@@ -13,6 +13,7 @@ namespace tornel::payroll {
 
 /// In the order in which they are asked.
 enum class Pytanie {
+    ZastapicWpisane,      ///< write over component amounts that the clerk typed
     IloscZasilkow,        ///< copy the counts of family, nursing and childcare benefits
     LiczycDni,            ///< count the month's days
     DniZKalendarza,       ///< ... by the employees' own calendars
