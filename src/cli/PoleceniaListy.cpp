@@ -1,6 +1,8 @@
 #include "cli/Polecenia.h"
 #include "common/Daty.h"
 #include "common/Liczby.h"
+#include "common/Rozmowa.h"
+#include "payroll/lista/KontrolaWierszy.h"
 #include "payroll/lista/ListaPlac.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
@@ -37,13 +39,8 @@ QList<LiniaListy> wierszeListy(const Wywolanie& w, Sesja& sesja, ListaPlac& list
     return lista.Wczytaj_listep();
 }
 
-/// Runs the batch and stores the month's sums with it, as one action; tells how it ended.
-int wykonajSerie(Wywolanie& w, ListaPlac& lista, const std::function<RaportSerii()>& seria) {
-    Transakcja transakcja(w.otoczenie().sesja.cnPlace, u"Seria na liście płac");
-    const RaportSerii raport = seria();
-    lista.ZapiszSumy();
-    transakcja.zatwierdz();
-
+/// Tells how a batch ended.
+int zakoncz(Wywolanie& w, const RaportSerii& raport) {
     QJsonArray niepowodzenia;
     for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia)
         niepowodzenia.append(
@@ -78,7 +75,7 @@ int dodaj(Wywolanie& w) {
         for (const Osoba& osoba :
              Pracownicy(w.otoczenie()).lista(FiltrPracownikow::Pracujacy, PorzadekPracownikow::Numery))
             numery.append(osoba.prcId);
-    return wykonajSerie(w, lista, [&] { return lista.DodajPracownikow(numery); });
+    return zakoncz(w, lista.DodajPracownikow(numery));
 }
 
 int przelicz(Wywolanie& w, Obliczenie obliczenie) {
@@ -91,12 +88,10 @@ int przelicz(Wywolanie& w, Obliczenie obliczenie) {
         klucze.removeIf([&](const KluczListy& k) { return !podani.contains(k.prcId); });
         for (const KluczListy& k : klucze) bezWiersza.removeAll(k.prcId);
     }
-    return wykonajSerie(w, lista, [&] {
-        RaportSerii raport = lista.PrzeliczSerie(obliczenie, klucze);
-        for (const qint64 prcId : bezWiersza)
-            raport.niepowodzenia.append({prcId, QStringLiteral("Nie ma go na liście płac.")});
-        return raport;
-    });
+    RaportSerii raport = lista.PrzeliczSerie(obliczenie, klucze);
+    for (const qint64 prcId : bezWiersza)
+        raport.niepowodzenia.append({prcId, QStringLiteral("Nie ma go na liście płac.")});
+    return zakoncz(w, raport);
 }
 
 int przeliczDni(Wywolanie& w) { return przelicz(w, Obliczenie::PoliczenieDni); }
@@ -198,10 +193,16 @@ QJsonObject wierszJson(const Sesja& s) {
 
 void wypiszJson(Wywolanie& w, ListaPlac& lista, const QList<LiniaListy>& linie) {
     const Sesja& s = w.otoczenie().sesja;
+    const KontrolaWierszy kontrola(lista.pozycje());
     QJsonArray wiersze;
     for (const LiniaListy& linia : linie) {
         (void)lista.Wypisz_daneP(linia.klucz);
-        wiersze.append(wierszJson(s));
+        QJsonObject wiersz = wierszJson(s);
+        if (const StanWiersza stan = kontrola.sprawdz(s.rsPLA.biezacyWiersz(),
+                                                      s.rsPLS.szukaj(linia.klucz.prcId, linia.klucz.lista));
+            stan.wymagaUwagi())
+            wiersz.insert(QStringLiteral("uwaga"), stan.opis());
+        wiersze.append(wiersz);
     }
     QJsonObject sumy;
     dopiszKolumny(sumy, s.rsPLACE);
@@ -209,6 +210,15 @@ void wypiszJson(Wywolanie& w, ListaPlac& lista, const QList<LiniaListy>& linie) 
                        {QStringLiteral("zablokowany"), lista.zablokowany()},
                        {QStringLiteral("wiersze"), wiersze},
                        {QStringLiteral("sumy"), sumy}});
+}
+
+/// What needs attention on the rows shown.
+QString doUwagi(Sesja& s, const ListaPlac& lista) {
+    QList<WierszDoUwagi> wiersze = PrzejrzyjWiersze(lista.pozycje(), s.rsPLA, s.rsPLS);
+    wiersze.removeIf([&](const WierszDoUwagi& u) {
+        return lista.symbol() != QLatin1String(" ") && u.lista != lista.symbol();
+    });
+    return OpisDoUwagi(wiersze);
 }
 
 int pokaz(Wywolanie& w) {
@@ -222,6 +232,8 @@ int pokaz(Wywolanie& w) {
     w.pisz(QString());
     wypiszWiersze(w, lista, linie);
     w.pisz(QString());
+    if (const QString uwagi = doUwagi(w.otoczenie().sesja, lista); !uwagi.isEmpty())
+        w.pisz(uwagi + QLatin1Char('\n'));
     wypiszPodsumowanie(w);
     return status::Wykonane;
 }

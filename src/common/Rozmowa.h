@@ -63,24 +63,4 @@ public:
     static QString domyslnyTytul() { return QStringLiteral("Tornel 2001"); }
 };
 
-/// Whether a calculation runs for one row before the clerk's eyes or inside a batch: in a batch warnings are
-/// suppressed and each question is asked once.
-enum class Tryb { Pojedynczy, Seria };
-
-/// One question of a batch with its answer, asked at the first row that needs it.
-class PytanieRaz {
-public:
-    /// In a batch asks `seryjne` the first time and repeats that answer; for one row asks `pojedyncze` each
-    /// time.
-    [[nodiscard]] bool pytaj(Rozmowa& rozmowa, Tryb tryb, const QString& seryjne, const QString& pojedyncze) {
-        if (tryb == Tryb::Pojedynczy) return rozmowa.pytanie(pojedyncze);
-        if (!odpowiedz_) odpowiedz_ = rozmowa.pytanie(seryjne);
-        return *odpowiedz_;
-    }
-    void zapomnij() { odpowiedz_.reset(); }
-
-private:
-    std::optional<bool> odpowiedz_;
-};
-
 } // namespace tornel::common

@@ -1,6 +1,7 @@
 #include "okna/ListaModel.h"
 #include "common/Daty.h"
 #include "common/Liczby.h"
+#include "okna/Wyglad.h"
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -15,15 +16,20 @@ namespace tornel::okna {
 namespace {
 
 /// How a row with a note differs from the others.
-QVariant wyroznienie(const QString& uwaga, int rola) {
-    if (uwaga.isEmpty()) return {};
+QVariant wyroznienie(const WierszListy& wiersz, int kolumna, int rola) {
+    if (wiersz.uwaga.isEmpty()) return {};
+    const bool uboczna = wiersz.waga == Waga::Uboczna;
     switch (rola) {
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
-        return uwaga;
+        return wiersz.uwaga;
+    case Qt::DecorationRole:
+        return uboczna || kolumna != 0 ? QVariant() : Wyglad::znakUwagi();
     case Qt::ForegroundRole:
+        if (!uboczna) return {};
         return QApplication::palette().color(QPalette::PlaceholderText);
     case Qt::FontRole: {
+        if (!uboczna) return {};
         QFont pismo = QApplication::font("QAbstractItemView");
         pismo.setItalic(true);
         return pismo;
@@ -75,11 +81,12 @@ void ListaModel::ustaw(QList<WierszListy> wiersze) {
     endResetModel();
 }
 
-void ListaModel::zmien(qint64 id, const QStringList& teksty, const QString& uwaga) {
+void ListaModel::zmien(qint64 id, const QStringList& teksty, const QString& uwaga, Waga waga) {
     const int miejsce = poId_.value(id, -1);
     if (miejsce < 0) return;
     wiersze_[miejsce].teksty = teksty;
     wiersze_[miejsce].uwaga = uwaga;
+    wiersze_[miejsce].waga = waga;
     if (const int nr = wiersz(id); nr >= 0) emit dataChanged(index(nr, 0), index(nr, columnCount() - 1));
 }
 
@@ -173,7 +180,7 @@ QVariant ListaModel::data(const QModelIndex& indeks, int rola) const {
     if (rola == Qt::DisplayRole) return widoczny(indeks.row()).teksty.value(indeks.column());
     if (rola == Qt::TextAlignmentRole)
         return QVariant::fromValue(kolumny_.at(indeks.column()).wyrownanie | Qt::AlignVCenter);
-    return wyroznienie(widoczny(indeks.row()).uwaga, rola);
+    return wyroznienie(widoczny(indeks.row()), indeks.column(), rola);
 }
 
 QVariant ListaModel::headerData(int sekcja, Qt::Orientation kierunek, int rola) const {

@@ -24,10 +24,17 @@ struct KolumnaListy {
     Porzadek porzadek = Porzadek::WgWyrownania;
 };
 
+/// How a row with a note stands out.
+enum class Waga {
+    Uboczna, ///< dimmed and slanted
+    Wazna,   ///< with a sign before its first text
+};
+
 struct WierszListy {
     qint64 id = 0; ///< what the screen finds the row by; unique within a list
     QStringList teksty;
-    QString uwaga = {}; ///< sets the row apart (dimmed, slanted) and stands as its tool tip; empty for none
+    QString uwaga = {}; ///< sets the row apart and stands as its tool tip; empty for none
+    Waga waga = Waga::Uboczna;
 };
 
 /// The rows as the screen gave them, seen through an order and a filter. Numbers of rows are those seen.
@@ -41,7 +48,7 @@ public:
     /// Replaces all rows at once; order and filter stay in force.
     void ustaw(QList<WierszListy> wiersze);
     /// New texts and note for the row `id`; nothing happens if there is none. The row stays where it is.
-    void zmien(qint64 id, const QStringList& teksty, const QString& uwaga = {});
+    void zmien(qint64 id, const QStringList& teksty, const QString& uwaga = {}, Waga waga = Waga::Uboczna);
     void ustawNaglowek(int kolumna, const QString& naglowek);
 
     /// How many rows a filter would leave.

@@ -264,6 +264,23 @@ QIcon ikona(QStringView nazwa) {
     return QIcon(new IkonaPalety(nazwa.toString(), plik.readAll()));
 }
 
+QIcon znakUwagi() {
+    static constexpr int kBok = 2 * kSiatka;
+    QPixmap obraz(kBok, kBok);
+    obraz.fill(Qt::transparent);
+    QPainter malarz(&obraz);
+    malarz.setRenderHint(QPainter::Antialiasing);
+    malarz.setBrush(kDoPrzeliczenia);
+    malarz.setPen(QColor(Qt::darkGray));
+    malarz.drawEllipse(QRectF(obraz.rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+    malarz.setPen(Qt::NoPen);
+    malarz.setBrush(Qt::black);
+    malarz.drawRect(QRectF(7.25, 4, 1.5, 5));
+    malarz.drawRect(QRectF(7.25, 10.25, 1.5, 1.5));
+    malarz.end();
+    return QIcon(obraz);
+}
+
 void oznaczDoPrzeliczenia(QAbstractButton& przycisk, bool doPrzeliczenia) {
     oznacz(przycisk, "doPrzeliczenia", doPrzeliczenia);
 }

@@ -36,6 +36,9 @@ void zastosuj(QApplication& program);
 /// Marks a button as due for calculation, or takes the mark off.
 void oznaczDoPrzeliczenia(QAbstractButton& przycisk, bool doPrzeliczenia);
 
+/// The sign of what waits for the clerk: a dot with an exclamation mark, to be told apart without colours.
+[[nodiscard]] QIcon znakUwagi();
+
 /// Marks a field as computed: it looks unlike one that is typed into.
 void oznaczObliczane(QWidget& pole);
 

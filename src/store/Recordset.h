@@ -180,6 +180,12 @@ public:
     /// Drops all pending changes in memory.
     void CancelBatch();
     [[nodiscard]] bool zmieniony() const { return !oczekujace_.empty(); }
+    /// By how much the pending changes raise the sum of a money column over all rows.
+    [[nodiscard]] Waluta przyrost(Kolumna k) const;
+    /// New rows less deleted ones among the pending changes.
+    [[nodiscard]] int przyrostWierszy() const;
+    /// The columns of the current row that differ from what was read; none of a new row.
+    [[nodiscard]] QList<Kolumna> zmienioneKolumny() const;
     /// Whether the current row is new or changed and not yet written.
     [[nodiscard]] bool wierszZmieniony() const {
         return stany_[static_cast<std::size_t>(biezacy())] != Stan::Czysty;

@@ -123,6 +123,37 @@ void Recordset::UpdateBatch(QStringView czynnosc) {
     uznajZapisane();
 }
 
+QList<Kolumna> Recordset::zmienioneKolumny() const {
+    QList<Kolumna> wynik;
+    const auto przedtem = oryginaly_.find(biezacy());
+    if (przedtem == oryginaly_.end()) return wynik;
+    for (int i = 0; i < szerokosc(); ++i)
+        if (komorka(biezacy(), i) != przedtem->second[static_cast<std::size_t>(i)])
+            wynik.append(tabela_->nr(i));
+    return wynik;
+}
+
+Waluta Recordset::przyrost(Kolumna k) const {
+    wymagajKolumny(k, Rodzaj::Kwota);
+    const auto kwota = [](Komorka c) { return c == kNull ? Waluta{} : Waluta::zSurowej(c); };
+    Waluta suma;
+    for (const int wiersz : oczekujace_) {
+        const Stan stan = stany_[static_cast<std::size_t>(wiersz)];
+        if (stan != Stan::Usuniety) suma += kwota(komorka(wiersz, k.nr));
+        if (stan != Stan::Nowy) suma -= kwota(oryginaly_.at(wiersz)[static_cast<std::size_t>(k.nr)]);
+    }
+    return suma;
+}
+
+int Recordset::przyrostWierszy() const {
+    int wierszy = 0;
+    for (const int wiersz : oczekujace_) {
+        const Stan stan = stany_[static_cast<std::size_t>(wiersz)];
+        wierszy += stan == Stan::Nowy ? 1 : stan == Stan::Usuniety ? -1 : 0;
+    }
+    return wierszy;
+}
+
 void Recordset::CancelBatch() {
     if (oczekujace_.empty()) return;
     const Zakladka tu = Bookmark();

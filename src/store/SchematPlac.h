@@ -182,12 +182,23 @@ inline constexpr auto PLD = polacz(
     }),
     przeplot(seria(NazwySOD, Date), seria(NazwySDO, Date)));
 
-/// Sick benefit of a list row, zł, by which the amount to pay is raised. A row without one has no record.
+/// Sick benefit of a list row, zł, which the clerk may take off the amount to pay. A row without days of the
+/// insurer needs no record.
 inline constexpr KolumnaDef ZASILEK[] = {
     {"ROKMIES", Text, 6, true}, // year and month, 200107
     {"PRC_ID", Short, 0, true},
     {"LISTA", Text, 1},
     {"KWOTA", Currency},
+};
+
+/// Component amounts of a list row that the clerk typed: additive component n at bit n - 1, deductive ones
+/// alike. A row without one has no record.
+inline constexpr KolumnaDef WPISANE[] = {
+    {"ROKMIES", Text, 6, true}, // year and month, 200107
+    {"PRC_ID", Short, 0, true},
+    {"LISTA", Text, 1},
+    {"DODATNIE", Integer},
+    {"UJEMNE", Integer},
 };
 
 inline constexpr SeriaNazw<7> NazwySmC{"sm_c"};
@@ -277,6 +288,8 @@ inline constexpr TabelaDef PLB{"PLB", kolumny::PLB, klucze::PracownikLista};
 inline constexpr TabelaDef PLS{"PLS", kolumny::PLS, klucze::PracownikLista};
 inline constexpr TabelaDef PLD{"PLD", kolumny::PLD, klucze::PracownikLista};
 inline constexpr TabelaDef ZASILEK{"ZASILEK", kolumny::ZASILEK, klucze::PracownikLista, Klucz::Jednoznaczny,
+                                   klucze::WierszMiesiaca};
+inline constexpr TabelaDef WPISANE{"WPISANE", kolumny::WPISANE, klucze::PracownikLista, Klucz::Jednoznaczny,
                                    klucze::WierszMiesiaca};
 inline constexpr TabelaDef NADG{"NADG", kolumny::NADG, klucze::Miesiac};
 inline constexpr TabelaDef NADGN{"NADGN", kolumny::NADGN, klucze::Pracownik};

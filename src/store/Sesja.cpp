@@ -30,7 +30,9 @@ void Sesja::OtworzMiesiac(int rok, int mies, int& wynik) {
         if (!cnPlace.jestTabela(nazwaMiesiaca(t->nazwa, miesiac))) return;
     miesiac_ = {};
     wierszListy.Open(cnPlace, miesiac.klucz());
-    rsZASILEK.Open(cnPlace, {}, {{schemat::ZASILEK("ROKMIES"), Kryterium::Operator::Rowne, miesiac.klucz()}});
+    for (const auto& [rs, rokMies] : {std::pair(&rsZASILEK, schemat::ZASILEK("ROKMIES")),
+                                      std::pair(&rsWPISANE, schemat::WPISANE("ROKMIES"))})
+        rs->Open(cnPlace, {}, {{rokMies, Kryterium::Operator::Rowne, miesiac.klucz()}});
     miesiac_ = miesiac;
     wynik = 0;
 }
@@ -38,6 +40,7 @@ void Sesja::OtworzMiesiac(int rok, int mies, int& wynik) {
 void Sesja::ZamknijMiesiac() {
     wierszListy.Close();
     rsZASILEK.Close();
+    rsWPISANE.Close();
     miesiac_ = {};
 }
 
@@ -66,10 +69,11 @@ bool Sesja::UstawPartnerow() {
 bool Sesja::UstawPracownika(qint64 prcId) { return kadry.Znajdz(prcId); }
 
 std::vector<Recordset*> Sesja::uchwyty() {
-    return {&rsPRACDP,  &rsPRACSK, &rsPRACINF, &rsPRACPR, &rsPRACZUS, &rsSZ_PL,   &rsPLACE, &rsPLACEN,
-            &rsPLACEK,  &rsPLA,    &rsPLB,     &rsPLS,    &rsPLD,     &rsZASILEK, &rsURL,   &rsZW,
-            &rsM_PRACY, &rsUS,     &rsNADG,    &rsZUS,    &rsPIT4,    &rsPIT11,   &rsPIT40, &rsPIT8B,
-            &rsUZL,     &rsUOD,    &rsHON,     &rsKONTA,  &rsRODZINA, &rsUMOP,    &rsKON,   &rsUZYTKOWNICY};
+    return {&rsPRACDP,  &rsPRACSK,  &rsPRACINF, &rsPRACPR,  &rsPRACZUS,    &rsSZ_PL, &rsPLACE,
+            &rsPLACEN,  &rsPLACEK,  &rsPLA,     &rsPLB,     &rsPLS,        &rsPLD,   &rsZASILEK,
+            &rsWPISANE, &rsURL,     &rsZW,      &rsM_PRACY, &rsUS,         &rsNADG,  &rsZUS,
+            &rsPIT4,    &rsPIT11,   &rsPIT40,   &rsPIT8B,   &rsUZL,        &rsUOD,   &rsHON,
+            &rsKONTA,   &rsRODZINA, &rsUMOP,    &rsKON,     &rsUZYTKOWNICY};
 }
 
 void Sesja::OdswiezUchwyty() {

@@ -32,9 +32,9 @@ public:
     }
 
     /// Opens the month's four tables on `rsPLA`, `rsPLB`, `rsPLS`, `rsPLD`, sorted "PRC_ID, LISTA", and the
-    /// month's rows of `ZASILEK` on `rsZASILEK`, where `Znajdz(prcId, lista)` finds a row. `wynik`
-    /// is 1, and nothing else happens, when the header has no such month or its tables are missing; otherwise
-    /// 0. Reads `PLACE`.
+    /// month's rows of `ZASILEK` and `WPISANE` on `rsZASILEK`, `rsWPISANE`, where `Znajdz(prcId, lista)`
+    /// finds a row. `wynik` is 1, and nothing else happens, when the header has no such month or its tables
+    /// are missing; otherwise 0. Reads `PLACE`.
     void OtworzMiesiac(int rok, int mies, int& wynik);
     /// Closes the month's handles.
     void ZamknijMiesiac();
@@ -66,7 +66,7 @@ public:
     Recordset rsPRACPR{schemat::PRACPR}, rsPRACZUS{schemat::PRACZUS}, rsSZ_PL{schemat::SZ_PL};
     Recordset rsPLACE{schemat::PLACE}, rsPLACEN{schemat::PLACEN}, rsPLACEK{schemat::PLACEK};
     Recordset rsPLA{schemat::PLA}, rsPLB{schemat::PLB}, rsPLS{schemat::PLS}, rsPLD{schemat::PLD};
-    Recordset rsZASILEK{schemat::ZASILEK};
+    Recordset rsZASILEK{schemat::ZASILEK}, rsWPISANE{schemat::WPISANE};
     Recordset rsURL{schemat::URL}, rsZW{schemat::ZW}, rsM_PRACY{schemat::M_PRACY}, rsUS{schemat::US};
     Recordset rsNADG{schemat::NADG}, rsZUS{schemat::ZUS};
     Recordset rsPIT4{schemat::PIT4}, rsPIT11{schemat::PIT11}, rsPIT40{schemat::PIT40},

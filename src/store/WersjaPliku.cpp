@@ -17,6 +17,12 @@ constexpr KrokWersji kKroki[] = {
                    "\"LISTA\" TEXT(1), \"KWOTA\" CURRENCY)");
          p.wykonaj("CREATE UNIQUE INDEX \"I_ZASILEK\" ON \"ZASILEK\" (\"ROKMIES\", \"PRC_ID\", \"LISTA\")");
      }},
+    {u"kwoty składników wpisane ręcznie",
+     [](Polaczenie& p) {
+         p.wykonaj("CREATE TABLE \"WPISANE\" (\"ROKMIES\" TEXT(6) NOT NULL, \"PRC_ID\" SHORT NOT NULL, "
+                   "\"LISTA\" TEXT(1), \"DODATNIE\" INTEGER, \"UJEMNE\" INTEGER)");
+         p.wykonaj("CREATE UNIQUE INDEX \"I_WPISANE\" ON \"WPISANE\" (\"ROKMIES\", \"PRC_ID\", \"LISTA\")");
+     }},
 };
 
 /// A name that no file has yet, beside the database: Tornel-wersja-0-20010731-1530.mdb.

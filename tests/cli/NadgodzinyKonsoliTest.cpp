@@ -38,7 +38,7 @@ TEST_F(NadgodzinyKonsoliTest, Commands) {
         {"nadgodziny godziny 2001-07 --pracownik 2 --grupa 2 --ilosc 2.5", 0, "", ""},
         {"nadgodziny godziny 2001-07 --pracownik 2 --grupa 3 --ilosc 1", 1, "",
          "Pracownik nr 2 Bielak Jan: Nie można obliczyć wzoru \"5*\"."},
-        {"nadgodziny godziny 2001-07 --pracownik 2 --grupa 1 --ilosc 745", 1, "", "od 0 do 744"},
+        {"nadgodziny godziny 2001-07 --pracownik 2 --grupa 1 --ilosc 745", 1, "", "od -744 do 744"},
         {"nadgodziny godziny 2001-07 --pracownik 2 --dzien 3 --grupa 1 --ilosc 1", 1, "",
          "bez opcji --dzien."},
         {"nadgodziny godziny 2001-07 --pracownik 1 --grupa 1 --ilosc 1", 1, "", "opcją --dzien."},

@@ -29,7 +29,8 @@ protected:
             sesja.rsKONTA.AddNewZero(1);
             sesja.rsKONTA.UpdateBatch(u"Dane testu");
             nowa_ = budowa(sesja.cnPlace);
-            UsunTabele(sesja.cnPlace, QStringLiteral("ZASILEK"));
+            for (const QString& tabela : {QStringLiteral("ZASILEK"), QStringLiteral("WPISANE")})
+                UsunTabele(sesja.cnPlace, tabela);
             UstawWersje(sesja.cnPlace, 0);
             sesja.cnPlace.wykonaj("VACUUM"); // what stood in a free page is not brought back
         }

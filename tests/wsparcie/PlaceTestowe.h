@@ -70,6 +70,9 @@ namespace pytania {
 inline const QString dniWylaczone =
     QStringLiteral("Rejestracja przepracowanych dni jest wyłączona. Nie można obliczyć ilości "
                    "przepracowanych dni, urlopu i L-4.");
+inline const QString naInnejLiscie =
+    QStringLiteral("Pracownik jest w tym miesiącu także na innej liście: nieobecności, urlop, nadgodziny, "
+                   "koszty uzyskania i ulga liczą się na obu.");
 } // namespace pytania
 
 class PlaceTestowe : public BazaTestowa {

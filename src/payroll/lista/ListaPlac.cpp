@@ -1,31 +1,49 @@
 #include "payroll/lista/ListaPlac.h"
 #include "common/Blad.h"
 #include "common/Daty.h"
+#include "common/Rozmowa.h"
+#include "payroll/lista/KolumnyWiersza.h"
+#include "payroll/lista/WpisaneKwoty.h"
 #include "rules/SkladnikiPlac.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
-#include <QHash>
 
 namespace tornel::payroll {
 
 using schemat::PLA;
 using schemat::PLACE;
 using schemat::PLB;
-using schemat::PRACDP;
-using schemat::PRACPR;
-using schemat::PRACZUS;
+using schemat::ZASILEK;
 
 namespace {
 
 const QString kWszystkieListy = QStringLiteral(" ");
 
 std::array<Recordset*, 4> tabeleWiersza(Sesja& s) { return {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD}; }
+/// With those that not every row has a record in.
+std::array<Recordset*, 6> rekordyWiersza(Sesja& s) {
+    return {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD, &s.rsZASILEK, &s.rsWPISANE};
+}
+
+/// Calculations of one row: a failure names the employee.
+template <typename Funkcja>
+auto zNazwiskiem(const Sesja& s, const Funkcja& obliczenie) {
+    try {
+        return obliczenie();
+    } catch (const BladBazy&) {
+        throw; // the file fails, not the employee
+    } catch (const Blad& blad) {
+        throw Blad(QStringLiteral("Pracownik nr %1 %2 %3: %4")
+                       .arg(s.rsPLA.liczba(PLA("PRC_ID")))
+                       .arg(s.rsPLA.tekst(PLA("NAZ")), s.rsPLA.tekst(PLA("IMIE")), blad.komunikat()));
+    }
+}
 
 } // namespace
 
 ListaPlac::ListaPlac(Otoczenie& otoczenie, int rok, int mies, const QString& symbol, WykazyPodstaw* wykazy)
     : o_(otoczenie), rok_(rok), mies_(mies), symbol_(symbol.isEmpty() ? kWszystkieListy : symbol.left(1)),
-      naliczanie_(otoczenie, pozycje_, odpowiedzi_, wykazy) {
+      zrodla_(otoczenie, wykazy), sumyMiesiaca_(otoczenie.sesja, {rok, mies}) {
     int wynik = 0;
     o_.sesja.OtworzMiesiac(rok, mies, wynik);
     if (wynik != 0)
@@ -40,14 +58,7 @@ void ListaPlac::Pobierz_Akt() {
     const Maski katalog = o_.skladniki.maski();
     // An open month goes by the catalogue, a blocked one by the masks that its header kept.
     const Maski miesiac = zablokowany_ ? Maski::zMiesiaca(o_.sesja.rsPLACE) : katalog;
-    for (int i = 1; i <= kDodatnich; ++i)
-        pozycje_.dodatnie[static_cast<std::size_t>(i - 1)] = {
-            maBit(miesiac.akt_sp, i), maBit(katalog.akt_sp, i), maBit(miesiac.br_sp, i),
-            maBit(miesiac.zus_sp, i), maBit(miesiac.ubzdr_sp, i)};
-    for (int i = 1; i <= kUjemnych; ++i)
-        pozycje_.ujemne[static_cast<std::size_t>(i - 1)] = {
-            maBit(miesiac.akt_sm, i), maBit(katalog.akt_sm, i), maBit(miesiac.br_sm, i),
-            maBit(miesiac.zus_sm, i), maBit(miesiac.ubzdr_sm, i)};
+    pozycje_ = PozycjeZMasek(miesiac, katalog);
 }
 
 QString ListaPlac::tytul() const {
@@ -75,8 +86,12 @@ QList<LiniaListy> ListaPlac::Wczytaj_listep() {
     return wynik;
 }
 
-void ListaPlac::ustawNa(const KluczListy& klucz) {
+void ListaPlac::szukajWiersza(const KluczListy& klucz) {
     for (Recordset* rs : tabeleWiersza(o_.sesja)) (void)rs->Znajdz(klucz.prcId, klucz.lista);
+}
+
+void ListaPlac::ustawNa(const KluczListy& klucz) {
+    szukajWiersza(klucz);
     (void)o_.sesja.UstawPracownika(klucz.prcId);
     wiersz_ = klucz;
 }
@@ -118,84 +133,63 @@ void ListaPlac::wymagajWiersza() {
                            .arg(rs->nazwa()));
 }
 
-void ListaPlac::zapiszWiersz() {
-    Transakcja transakcja(o_.sesja.cnPlace,
-                          QStringLiteral("Lista płac %1: pracownik nr %2")
-                              .arg(NapisMiesiaca(rok_, mies_))
-                              .arg(o_.sesja.rsPLA.naWierszu() ? o_.sesja.rsPLA.liczba(PLA("PRC_ID")) : 0));
-    for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch(transakcja);
-    transakcja.zatwierdz();
-}
-
 void ListaPlac::CofnijWiersz() {
-    for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->CancelBatch();
+    for (Recordset* rs : rekordyWiersza(o_.sesja)) rs->CancelBatch();
 }
 
-bool ListaPlac::naLiscie(qint64 prcId, const QString& lista) {
+void ListaPlac::zapiszRekordy(const Transakcja& akcja) {
+    sumyMiesiaca_.dolicz();
+    for (Recordset* rs : rekordyWiersza(o_.sesja)) rs->UpdateBatch(akcja);
+}
+
+void ListaPlac::zapiszSumyMiesiaca(const Transakcja& akcja) {
+    // Sums that leave the range of amounts keep nobody from his rows: they are told when the list is closed.
+    (void)sumyMiesiaca_.zapisz(akcja);
+}
+
+void ListaPlac::zSumami(const std::function<void()>& zapis) {
+    try {
+        zapis();
+    } catch (...) {
+        sumyMiesiaca_.uniewaznij();
+        o_.sesja.rsPLACE.CancelBatch();
+        throw;
+    }
+}
+
+void ListaPlac::zapiszWiersz(const KluczListy& klucz, const std::function<void()>& zmiana) {
+    try {
+        zmiana();
+        Transakcja transakcja(o_.sesja.cnPlace, QStringLiteral("Lista płac %1: pracownik nr %2")
+                                                    .arg(NapisMiesiaca(rok_, mies_))
+                                                    .arg(klucz.prcId));
+        zSumami([&] {
+            zapiszRekordy(transakcja);
+            zapiszSumyMiesiaca(transakcja);
+            transakcja.zatwierdz();
+        });
+    } catch (...) {
+        CofnijWiersz();
+        throw;
+    }
+}
+
+void ListaPlac::pokazUwagi(const ListaUwag& uwagi) {
+    for (const Uwaga& uwaga : uwagi)
+        if (uwaga.dotyczy(Zakres::Wiersz)) o_.rozmowa.komunikat(uwaga.tekst, Styl::Wykrzyknik);
+}
+
+bool ListaPlac::naLiscie(const KluczListy& klucz) {
     Recordset& a = o_.sesja.rsPLA;
     const Zakladka tu = a.Bookmark();
-    const bool jest = a.Znajdz(prcId, lista);
+    const bool jest = a.Znajdz(klucz.prcId, klucz.lista);
     a.Bookmark(tu);
     return jest;
 }
 
-QString ListaPlac::symbolNowegoWiersza() const {
+QString ListaPlac::symbolNowegoWiersza(const QString& wlasna) const {
     if (symbol_ != kWszystkieListy || !o_.stale.AktOpWieluList) return symbol_;
-    const QString wlasna = o_.sesja.rsPRACPR.tekst(PRACPR("Lista"));
     return wlasna.isEmpty() ? kWszystkieListy : wlasna;
-}
-
-void ListaPlac::przepiszIloscZasilkow(Tryb tryb) {
-    Sesja& s = o_.sesja;
-    static constexpr std::pair<Kolumna, Kolumna> zasilki[] = {
-        {PRACZUS("il_z_rodz"), PLA("IL_Z_RODZ")},
-        {PRACZUS("il_z_piel"), PLA("IL_Z_PIEL")},
-        {PRACZUS("il_z_wych"), PLA("IL_Z_WYCH")},
-    };
-    const bool sa = std::any_of(std::begin(zasilki), std::end(zasilki),
-                                [&](const auto& z) { return s.rsPRACZUS.liczba(z.first) > 0; });
-    if (sa &&
-        odpowiedzi_.iloscZasilkow.pytaj(
-            o_.rozmowa, tryb,
-            QStringLiteral(
-                "Czy przenosić dane o ilościach zasiłków rodzinnych, wychowawczych i pielęgnacyjnych ?"),
-            QStringLiteral(
-                "Czy przenieść dane o ilościach zasiłków: rodzinnego, wychowawczego i pielęgnacyjnego ?")))
-        for (const auto& [zKadr, naListe] : zasilki) s.rsPLA.ustaw(naListe, s.rsPRACZUS.liczba(zKadr));
-}
-
-void ListaPlac::dodajRekordy(qint64 prcId, const QString& lista, Tryb tryb) {
-    Sesja& s = o_.sesja;
-    for (Recordset* rs : tabeleWiersza(s)) rs->AddNewZero(prcId, lista);
-    const Recordset &dp = s.rsPRACDP, &pr = s.rsPRACPR, &zus = s.rsPRACZUS;
-
-    s.rsPLA.ustaw(PLA("NAZ"), dp.tekst(PRACDP("Naz")));
-    s.rsPLA.ustaw(PLA("IMIE"), dp.tekst(PRACDP("Imie_1")));
-    s.rsPLA.ustaw(PLA("KUP"), pr.kwota(PRACPR("Kup")));
-    // Deliberate: the credit is doubled here for doubled limits; the first calculation overwrites it
-    // undoubled.
-    if (pr.flaga(PRACPR("czy_ulga")))
-        s.rsPLA.ustaw(PLA("PPD"), Proporcja(o_.stale.RKwPZ, pr.flaga(PRACPR("czy_2progi")) ? 2 : 1, 12));
-    s.rsPLA.ustaw(PLA("US_ID"), pr.liczba(PRACPR("us_id")));
-    // The contribution columns start with the rates; the calculation overwrites them with the amounts.
-    for (const Kolumna k : {PLA("SKL_FP"), PLA("ST_SKL_FP")}) s.rsPLA.ustaw(k, zus.kwota(PRACZUS("Fp")));
-    for (const Kolumna k : {PLA("SKL_FGSP"), PLA("ST_SKLFGSP")}) s.rsPLA.ustaw(k, zus.kwota(PRACZUS("gsp")));
-    s.rsPLA.ustaw(PLA("ETAT"), pr.liczba(PRACPR("etat")));
-    s.rsPLA.ustaw(PLA("ETAT2"), pr.liczba(PRACPR("etat2")));
-    przepiszIloscZasilkow(tryb);
-
-    s.rsPLB.ustaw(PLB("PPE"), zus.kwota(PRACZUS("PPE")));
-    s.rsPLB.ustaw(PLB("WSK_FEPRD"), o_.stale.FEprd);
-    s.rsPLB.ustaw(PLB("WSK_FRPRD"), o_.stale.FRprd);
-    s.rsPLB.ustaw(PLB("WSK_FWPRD"), o_.stale.FWprd);
-    s.rsPLB.ustaw(PLB("WSK_FEPRC"), zus.kwota(PRACZUS("wsk_fe")));
-    s.rsPLB.ustaw(PLB("WSK_FRPRC"), zus.kwota(PRACZUS("wsk_fr")));
-    s.rsPLB.ustaw(PLB("WSK_FCPRC"), zus.kwota(PRACZUS("wsk_fc")));
-    s.rsPLB.ustaw(PLB("WSK_UBZDR"), zus.kwota(PRACZUS("wsk_ubzdr")));
-    s.rsPLB.ustaw(PLB("WSK_UBR"), o_.stale.BlokujUbruttow ? Waluta::zlotych(100) : o_.stale.WskUbruttow);
-
-    naliczanie_.WypelnijSkladniki();
-    naliczanie_.Przelicz_Dni(tryb);
 }
 
 void ListaPlac::wymagajPracownika(qint64 prcId) const {
@@ -203,76 +197,66 @@ void ListaPlac::wymagajPracownika(qint64 prcId) const {
         throw Blad(QStringLiteral("Nie ma pracownika o numerze %1 w kadrach.").arg(prcId));
 }
 
+std::optional<Waluta> ListaPlac::zapisanyZasilek(const KluczListy& klucz) {
+    Recordset& z = o_.sesja.rsZASILEK;
+    if (!z.Znajdz(klucz.prcId, klucz.lista)) return std::nullopt;
+    return z.kwota(ZASILEK("KWOTA"));
+}
+
+void ListaPlac::wpiszZasilek(const RachunekWiersza& r) {
+    if (!r.zasilek) return;
+    Recordset& z = o_.sesja.rsZASILEK;
+    const bool jest = z.Znajdz(r.wiersz.klucz.prcId, r.wiersz.klucz.lista);
+    // A row without days of the insurer has no benefit, recorded or not: most rows need no record.
+    if (r.zasilek->zero() && r.wiersz.dni_l4_zus <= 0) {
+        if (jest) z.Delete();
+        return;
+    }
+    if (!jest) {
+        z.AddNewZero(r.wiersz.klucz.prcId, r.wiersz.klucz.lista);
+        z.ustaw(ZASILEK("ROKMIES"), RokMies{rok_, mies_}.klucz());
+    }
+    z.ustaw(ZASILEK("KWOTA"), *r.zasilek);
+}
+
+RachunekWiersza ListaPlac::nowyRachunek(const AkcjaPlac& akcja, const KluczListy& klucz,
+                                        const DanePracownika& pracownik) {
+    // No leave has been priced on it, even if a row of this key was removed before.
+    RachunekWiersza r{NowyWiersz(akcja.miesiac, klucz, pracownik, akcja.odpowiedzi), Waluta{}};
+    if (o_.sesja.rsPLA.Znajdz(klucz.prcId))
+        r.uwagi.append({QStringLiteral("Pracownik jest w tym miesiącu także na innej liście: nieobecności, "
+                                       "urlop, nadgodziny, koszty uzyskania i ulga liczą się na obu.")});
+    LiczDni(akcja, r);
+    return r;
+}
+
 std::optional<KluczListy> ListaPlac::Nowy_prac(qint64 prcId) {
     wymagajOtwartego();
     wymagajPracownika(prcId);
-    const QString lista = symbolNowegoWiersza();
-    if (naLiscie(prcId, lista)) {
+    const DanePracownika pracownik = WczytajPracownika(o_.sesja);
+    const KluczListy klucz{prcId, symbolNowegoWiersza(pracownik.Lista)};
+    if (naLiscie(klucz)) {
         o_.rozmowa.komunikat(QStringLiteral("Nie można wprowadzić dwa razy tej samej osoby na jedną listę!"),
                              Styl::Wykrzyknik);
         return std::nullopt;
     }
     Pobierz_Akt();
+    zrodla_.przygotuj(1);
+    ZbiorPytan moga;
+    moga.dodaj(Pytanie::IloscZasilkow, MaIlosciZasilkow(o_.sesja));
+    zrodla_.dodajPytaniaDni(miesiac(), prcId, Zakres::Wiersz, moga);
+    const auto odpowiedzi = Zapytaj(o_.rozmowa, tytul(), moga, Zakres::Wiersz);
+    if (!odpowiedzi) return std::nullopt;
     wiersz_.reset();
-    zmienWiersz([&] { dodajRekordy(prcId, lista, Tryb::Pojedynczy); });
-    wiersz_ = KluczListy{prcId, lista};
+    const RachunekWiersza r =
+        nowyRachunek({miesiac(), zrodla_, *odpowiedzi, Zakres::Wiersz}, klucz, pracownik);
+    zapiszWiersz(klucz, [&] {
+        DopiszWiersz(o_.sesja, r.wiersz);
+        wpiszZasilek(r);
+    });
+    wiersz_ = klucz;
+    pokazUwagi(r.uwagi);
     return wiersz_;
-}
-
-RaportSerii ListaPlac::wykonajSerie(const QString& tytul, qsizetype ile,
-                                    const std::function<qint64(qsizetype)>& numer,
-                                    const std::function<bool(qsizetype)>& krok) {
-    RaportSerii raport;
-    odpowiedzi_ = {};
-    wiersz_.reset();
-    CofnijWiersz();
-    naliczanie_.przygotujSerie(ile);
-    const auto postep = o_.rozmowa.postep(tytul, static_cast<int>(ile));
-    Transakcja transakcja(o_.sesja.cnPlace, tytul);
-    for (qsizetype i = 0; i < ile; ++i) {
-        const qint64 prcId = numer(i);
-        if (!postep->krok(static_cast<int>(i) + 1,
-                          QStringLiteral("PROSZĘ CZEKAĆ ! Wyliczanie pracownika nr ") +
-                              QString::number(prcId))) {
-            raport.przerwana = true;
-            break;
-        }
-        try {
-            if (krok(i))
-                ++raport.wykonane;
-            else
-                ++raport.pominiete;
-        } catch (const BladBazy&) {
-            throw; // the file itself fails: nothing of the batch may stay
-        } catch (const Blad& blad) {
-            CofnijWiersz();
-            (void)naliczanie_.zabierzUwagi();
-            raport.niepowodzenia.append({prcId, blad.komunikat()});
-            continue;
-        }
-        raport.dodajUwagi(prcId, naliczanie_.zabierzUwagi());
-        for (Recordset* rs : tabeleWiersza(o_.sesja)) rs->UpdateBatch(transakcja);
-    }
-    transakcja.zatwierdz();
-    wiersz_.reset();
-    return raport;
-}
-
-RaportSerii ListaPlac::DodajPracownikow(const QList<qint64>& numery) {
-    wymagajOtwartego();
-    Pobierz_Akt();
-    return wykonajSerie(
-        tytul(), numery.size(), [&](qsizetype i) { return numery[i]; },
-        [&](qsizetype i) {
-            const qint64 prcId = numery[i];
-            wymagajPracownika(prcId);
-            const QString lista = symbolNowegoWiersza();
-            if (naLiscie(prcId, lista)) return false;
-            dodajRekordy(prcId, lista, Tryb::Seria);
-            naliczanie_.Przelicz2(Tryb::Seria);
-            naliczanie_.Przelicz1(Tryb::Seria);
-            return true;
-        });
 }
 
 bool ListaPlac::Usun_prac() {
@@ -283,142 +267,125 @@ bool ListaPlac::Usun_prac() {
                                      QStringLiteral(" z miesięcznej listy płac ?")))
         return false;
     CofnijWiersz();
-    for (Recordset* rs : tabeleWiersza(o_.sesja))
-        if (rs->Znajdz(wiersz_->prcId, wiersz_->lista)) rs->Delete();
-    zapiszWiersz();
+    zapiszWiersz(*wiersz_, [this] {
+        for (Recordset* rs : rekordyWiersza(o_.sesja))
+            if (rs->Znajdz(wiersz_->prcId, wiersz_->lista)) rs->Delete();
+    });
     wiersz_.reset();
     return true;
 }
 
-void ListaPlac::zmienWiersz(const std::function<void()>& zmiana) {
-    odpowiedzi_ = {};
-    naliczanie_.przygotujWiersz();
-    try {
-        zmiana();
-        zapiszWiersz();
-    } catch (...) {
-        CofnijWiersz();
-        throw;
+ZbiorPytan ListaPlac::pytaniaWiersza(Obliczenie obliczenie, const WierszPlac& wiersz) {
+    ZbiorPytan moga;
+    switch (obliczenie) {
+    case Obliczenie::PoliczenieDni:
+        zrodla_.dodajPytaniaDni(miesiac(), wiersz.klucz.prcId, Zakres::Wiersz, moga);
+        break;
+    case Obliczenie::Przepisanie:
+        zrodla_.dodajPytaniaSkladnikow(miesiac(), wiersz.klucz.prcId, moga);
+        moga.dodaj(Pytanie::PomniejszycZasilek, false);
+        moga.dodaj(Pytanie::ZastapicWpisane, saWpisane(wiersz.klucz));
+        break;
+    case Obliczenie::Przeliczenie:
+        moga = PytaniaPlacy(wiersz, ZasilekChorobowy(miesiac(), wiersz, zapisanyZasilek(wiersz.klucz)));
+        break;
+    }
+    return moga;
+}
+
+void ListaPlac::wykonajObliczenie(Obliczenie obliczenie, const AkcjaPlac& akcja, RachunekWiersza& r) {
+    switch (obliczenie) {
+    case Obliczenie::PoliczenieDni:
+        LiczDni(akcja, r);
+        break;
+    case Obliczenie::Przepisanie:
+        LiczSkladniki(akcja, WczytajPracownika(o_.sesja), r);
+        break;
+    case Obliczenie::Przeliczenie:
+        LiczPlace(akcja, WczytajPracownika(o_.sesja), kPrzelicz1, r);
+        break;
     }
 }
 
-void ListaPlac::obliczWiersz(const std::function<void()>& obliczenie) {
-    zmienWiersz([&] {
-        try {
-            obliczenie();
-        } catch (const BladBazy&) {
-            throw; // the file fails, not the employee
-        } catch (const Blad& blad) {
-            const Recordset& a = o_.sesja.rsPLA;
-            throw Blad(QStringLiteral("Pracownik nr %1 %2 %3: %4")
-                           .arg(a.liczba(PLA("PRC_ID")))
-                           .arg(a.tekst(PLA("NAZ")), a.tekst(PLA("IMIE")), blad.komunikat()));
-        }
-    });
+void ListaPlac::wpiszObliczenie(Obliczenie obliczenie, const WierszPlac& przedtem, const RachunekWiersza& r) {
+    ZapiszZmiany(o_.sesja, przedtem, r.wiersz);
+    wpiszZasilek(r);
+    if (obliczenie == Obliczenie::Przepisanie)
+        PrzepisanoSkladniki(o_.sesja, pozycje_, przedtem.klucz.prcId, przedtem.klucz.lista);
 }
 
-void ListaPlac::Przelicz_Dni() {
+bool ListaPlac::saWpisane(const KluczListy& klucz) {
+    return SaWpisane(o_.sesja, pozycje_, klucz.prcId, klucz.lista);
+}
+
+bool ListaPlac::przelicz(Obliczenie obliczenie) {
     wymagajWiersza();
-    obliczWiersz([this] { naliczanie_.Przelicz_Dni(Tryb::Pojedynczy); });
+    if (obliczenie != Obliczenie::PoliczenieDni) wymagajPracownika(wiersz_->prcId);
+    if (obliczenie == Obliczenie::Przepisanie) Pobierz_Akt();
+    zrodla_.przygotuj(1);
+    return zNazwiskiem(o_.sesja, [&] { return przeliczWiersz(obliczenie); });
 }
 
-void ListaPlac::Przelicz2() {
-    wymagajWiersza();
-    wymagajPracownika(wiersz_->prcId);
-    Pobierz_Akt();
-    obliczWiersz([this] { naliczanie_.Przelicz2(Tryb::Pojedynczy); });
+bool ListaPlac::przeliczWiersz(Obliczenie obliczenie) {
+    const WierszPlac przedtem = WczytajWiersz(o_.sesja);
+    const ZbiorPytan moga = pytaniaWiersza(obliczenie, przedtem);
+    const auto odpowiedzi = Zapytaj(o_.rozmowa, tytul(), moga, Zakres::Wiersz);
+    if (!odpowiedzi) return false;
+    if (moga.ma(Pytanie::ZastapicWpisane) && !odpowiedzi->ma(Pytanie::ZastapicWpisane)) return false;
+    RachunekWiersza r{przedtem, zapisanyZasilek(przedtem.klucz)};
+    wykonajObliczenie(obliczenie, {miesiac(), zrodla_, *odpowiedzi, Zakres::Wiersz}, r);
+    zapiszWiersz(przedtem.klucz, [&] { wpiszObliczenie(obliczenie, przedtem, r); });
+    if (obliczenie == Obliczenie::Przeliczenie) sumy_ = r.sumy;
+    pokazUwagi(r.uwagi);
+    return true;
 }
 
-void ListaPlac::Przelicz1() {
-    wymagajWiersza();
-    wymagajPracownika(wiersz_->prcId);
-    obliczWiersz([this] { naliczanie_.Przelicz1(Tryb::Pojedynczy); });
+bool ListaPlac::policzLancuch(Kroki kroki, RachunekWiersza& r) {
+    zrodla_.przygotuj(1);
+    const auto odpowiedzi =
+        Zapytaj(o_.rozmowa, tytul(), pytaniaWiersza(Obliczenie::Przeliczenie, r.wiersz), Zakres::Wiersz);
+    if (!odpowiedzi) return false;
+    LiczPlace({miesiac(), zrodla_, *odpowiedzi, Zakres::Wiersz}, WczytajPracownika(o_.sesja), kroki, r);
+    return true;
 }
 
-RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze) {
-    wymagajOtwartego();
-    if (obliczenie == Obliczenie::PoliczenieDni && !o_.stale.AktRejPrzepDni) {
-        naliczanie_.Przelicz_Dni(Tryb::Pojedynczy); // says that counting is off
-        return {};
-    }
-    Pobierz_Akt();
-    return wykonajSerie(
-        tytul(), wiersze.size(), [&](qsizetype i) { return wiersze[i].prcId; },
-        [&](qsizetype i) {
-            ustawNa(wiersze[i]);
-            wymagajPracownika(wiersze[i].prcId);
-            wymagajWiersza();
-            switch (obliczenie) {
-            case Obliczenie::PoliczenieDni:
-                naliczanie_.Przelicz_Dni(Tryb::Seria);
-                break;
-            case Obliczenie::Przepisanie:
-                naliczanie_.Przelicz2(Tryb::Seria);
-                break;
-            case Obliczenie::Przeliczenie:
-                naliczanie_.Przelicz1(Tryb::Seria);
-                break;
-            }
-            return true;
-        });
-}
-
-void ListaPlac::wykonajLancuch(Lancuch lancuch) {
-    constexpr Tryb tryb = Tryb::Pojedynczy;
-    Naliczanie& n = naliczanie_;
-    n.WyliczPodstawy(tryb);
-    if (lancuch == Lancuch::OdPPE) n.WyliczSkladki();
-    if (lancuch == Lancuch::OdPPE || lancuch == Lancuch::OdKosztow) n.WyliczNetto();
-    if (lancuch == Lancuch::OdPPE || lancuch == Lancuch::OdKosztow || lancuch == Lancuch::OdUlgi)
-        n.WyliczUbzdr();
-    if (lancuch != Lancuch::OdUbzdr) n.PrzyjmijUbzdrNalezne();
-    if (lancuch == Lancuch::OdPPE) n.WyliczUlge();
-    n.WyliczPodatek(tryb);
-    n.Dowyplaty(tryb);
-}
-
-void ListaPlac::pytajOSkladkePPE() {
-    Sesja& s = o_.sesja;
+void ListaPlac::pytajOSkladkePPE(WierszPlac& w) {
     // Deliberate: taken off each time the field is confirmed.
-    if (s.rsPLB.kwota(PLB("PPE")) > Waluta{} &&
+    if (w.PPE > Waluta{} &&
         o_.rozmowa.pytanie(QStringLiteral("Czy pomniejszyć kwotę do wypłaty o składkę w ramach PPE ?")))
-        s.rsPLA.ustaw(PLA("DO_WYPLATY"), s.rsPLA.kwota(PLA("DO_WYPLATY")) - s.rsPLB.kwota(PLB("PPE")));
+        w.do_wyplaty -= w.PPE;
 }
 
-bool ListaPlac::przyjmijPrzelew(Waluta kwota) {
-    Recordset& a = o_.sesja.rsPLA;
-    const Waluta doWyplaty = a.kwota(PLA("DO_WYPLATY"));
-    if (kwota > doWyplaty) {
-        if (!o_.rozmowa.pytanie(
-                QStringLiteral("Kwota przelewu nie może być większa od kwoty wypłaty. Czy przeznaczyć całą "
-                               "kwotę wypłaty na przelew ?")))
-            return false;
-        kwota = doWyplaty;
-    }
-    a.ustaw(PLA("PRZELEWEM"), kwota);
+bool ListaPlac::przyjmijPrzelew(WierszPlac& w) {
+    if (!(w.przelewem > w.do_wyplaty)) return true;
+    if (!o_.rozmowa.pytanie(
+            QStringLiteral("Kwota przelewu nie może być większa od kwoty wypłaty. Czy przeznaczyć całą "
+                           "kwotę wypłaty na przelew ?")))
+        return false;
+    w.przelewem = w.do_wyplaty;
     return true;
 }
 
 bool ListaPlac::ZmienKwote(const PoleListy& pole, Waluta kwota) {
     wymagajWiersza();
-    bool przyjeta = true;
-    zmienWiersz([&] {
-        if (pole.lancuch == Lancuch::Przelew) {
-            przyjeta = przyjmijPrzelew(kwota);
-            return;
-        }
-        (pole.kolumna.tabela == &PLA ? o_.sesja.rsPLA : o_.sesja.rsPLB).ustaw(pole.kolumna, kwota);
-        if (pole.lancuch == Lancuch::ZmianaPodatku)
-            pytajOSkladkePPE();
-        else if (pole.lancuch != Lancuch::Zaden)
-            wykonajLancuch(pole.lancuch);
-    });
-    return przyjeta;
+    const WierszPlac przedtem = WczytajWiersz(o_.sesja);
+    RachunekWiersza r{przedtem, zapisanyZasilek(przedtem.klucz)};
+    KwotaKolumny(r.wiersz, pole.kolumna) = kwota;
+    const std::optional<Kroki> kroki = KrokiLancucha(pole.lancuch);
+    if (kroki && !policzLancuch(*kroki, r)) return false;
+    if (pole.lancuch == Lancuch::Przelew && !przyjmijPrzelew(r.wiersz)) return false;
+    if (pole.lancuch == Lancuch::ZmianaPodatku) pytajOSkladkePPE(r.wiersz);
+    zapiszWiersz(przedtem.klucz, [&] { ZapiszZmiany(o_.sesja, przedtem, r.wiersz); });
+    if (kroki) sumy_ = r.sumy;
+    pokazUwagi(r.uwagi);
+    return true;
 }
 
 void ListaPlac::WpiszSK() {
     wymagajWiersza();
-    o_.sesja.rsPLS.UpdateBatch(u"Składniki wiersza listy płac");
+    zapiszWiersz(*wiersz_, [this] {
+        ZaznaczWpisane(o_.sesja, wiersz_->prcId, wiersz_->lista, o_.sesja.rsPLS.zmienioneKolumny());
+    });
 }
 
 void ListaPlac::WpiszDatyGr() {
@@ -428,9 +395,9 @@ void ListaPlac::WpiszDatyGr() {
 
 void ListaPlac::WpiszDni() {
     wymagajWiersza();
-    Recordset& a = o_.sesja.rsPLA;
-    a.ustaw(PLA("DN_PR"), a.liczba(PLA("DN_RO")) + a.liczba(PLA("DN_SO")) + a.liczba(PLA("DN_NI")));
-    zapiszWiersz();
+    zapiszWiersz(*wiersz_, [&a = o_.sesja.rsPLA] {
+        a.ustaw(PLA("DN_PR"), a.liczba(PLA("DN_RO")) + a.liczba(PLA("DN_SO")) + a.liczba(PLA("DN_NI")));
+    });
 }
 
 bool ListaPlac::DniZgodneZMiesiacem() const {
@@ -444,38 +411,13 @@ bool ListaPlac::DniZgodneZMiesiacem() const {
 
 void ListaPlac::ZapiszSumy() {
     if (zablokowany_) return; // a blocked month is never written
-    static constexpr std::pair<Kolumna, Kolumna> sumyA[] = {
-        {PLA("BRUTTO"), PLACE("sum_brutto")}, {PLA("PODATEK"), PLACE("sum_podat")},
-        {PLA("NETTO"), PLACE("sum_netto")},   {PLA("SKL_FP"), PLACE("sum_fp")},
-        {PLA("SKL_FGSP"), PLACE("sum_fgsp")}, {PLA("KUP"), PLACE("sum_kup")},
-        {PLA("PPD"), PLACE("sum_ppd")},       {PLA("DO_WYPLATY"), PLACE("do_wyplaty")},
-    };
-    static constexpr std::pair<Kolumna, Kolumna> sumyB[] = {
-        {PLB("FEPRD"), PLACE("sum_feprd")}, {PLB("FRPRD"), PLACE("sum_frprd")},
-        {PLB("FEPRC"), PLACE("sum_feprc")}, {PLB("FRPRC"), PLACE("sum_frprc")},
-        {PLB("FCPRC"), PLACE("sum_fc")},    {PLB("FWPRD"), PLACE("sum_fw")},
-        {PLB("UBZDR"), PLACE("sum_ubzdr")},
-    };
-    Sesja& s = o_.sesja;
-    if (!s.ZnajdzMiesiac(rok_, mies_)) return;
-    Recordset& a = s.rsPLA;
-    std::array<Waluta, std::size(sumyA)> a1{};
-    std::array<Waluta, std::size(sumyB)> b1{};
-    Waluta inne;
-    int ile = 0;
-    // All lists of the month, whatever symbol is open.
-    for (a.MoveFirst(); !a.EOF_(); a.MoveNext(), ++ile) {
-        for (std::size_t i = 0; i < a1.size(); ++i) a1[i] += a.kwota(sumyA[i].first);
-        inne += a.kwota(PLA("DODATKI")) - a.kwota(PLA("POTRACENIA"));
-        if (s.rsPLB.Znajdz(a.liczba(PLA("PRC_ID")), a.tekst(PLA("LISTA"))))
-            for (std::size_t i = 0; i < b1.size(); ++i) b1[i] += s.rsPLB.kwota(sumyB[i].first);
-    }
-    for (std::size_t i = 0; i < a1.size(); ++i) s.rsPLACE.ustaw(sumyA[i].second, a1[i]);
-    for (std::size_t i = 0; i < b1.size(); ++i) s.rsPLACE.ustaw(sumyB[i].second, b1[i]);
-    s.rsPLACE.ustaw(PLACE("sum_inne"), inne);
-    s.rsPLACE.ustaw(PLACE("il_wyplat"), ile);
-    s.rsPLACE.UpdateBatch(QStringLiteral("Sumy listy płac %1").arg(NapisMiesiaca(rok_, mies_)));
-    if (wiersz_) ustawNa(*wiersz_);
+    const QString czynnosc = QStringLiteral("Sumy listy płac %1").arg(NapisMiesiaca(rok_, mies_));
+    zSumami([&] {
+        Transakcja transakcja(o_.sesja.cnPlace, czynnosc);
+        if (!sumyMiesiaca_.zapisz(transakcja))
+            throw Przepelnienie(czynnosc + QStringLiteral(": kwota przekracza zakres liczb programu."));
+        transakcja.zatwierdz();
+    });
 }
 
 } // namespace tornel::payroll

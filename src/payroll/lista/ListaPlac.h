@@ -1,26 +1,21 @@
 // The open payroll list of a month: its rows, adding and removing employees, hand edits with what is computed
 // after them, and calculations for one row or a batch.
 #pragma once
-#include "common/Rozmowa.h"
-#include "payroll/lista/Naliczanie.h"
-#include "payroll/lista/OdpowiedziSerii.h"
 #include "payroll/lista/PolaListy.h"
 #include "payroll/lista/Pozycje.h"
+#include "payroll/lista/SumyMiesiaca.h"
+#include "payroll/lista/ZrodlaPlac.h"
 #include "rules/Otoczenie.h"
 #include "store/RaportSerii.h"
 #include <functional>
 #include <QList>
 #include <QString>
-#include <QStringList>
+
+namespace tornel::store {
+class Transakcja;
+} // namespace tornel::store
 
 namespace tornel::payroll {
-
-/// What names a row: the four tables' common key.
-struct KluczListy {
-    qint64 prcId = 0;
-    QString lista;
-    friend bool operator==(const KluczListy&, const KluczListy&) = default;
-};
 
 /// One line of the list.
 struct LiniaListy {
@@ -52,7 +47,7 @@ public:
     [[nodiscard]] const QString& symbol() const { return symbol_; }
     [[nodiscard]] const Pozycje& pozycje() const { return pozycje_; }
     /// The sums of the row in work, as the last calculation left them.
-    [[nodiscard]] const SumyWiersza& sumy() const { return naliczanie_.sumy(); }
+    [[nodiscard]] const SumyWiersza& sumy() const { return sumy_; }
 
     /// The list's rows in the order "PRC_ID, LISTA". When no row has the list's symbol, asks whether to make
     /// the list; on No the symbol becomes a blank. Reads `PLA`.
@@ -65,34 +60,36 @@ public:
     /// The row taken up; none at the start, after a deletion and after a batch.
     [[nodiscard]] const std::optional<KluczListy>& wiersz() const { return wiersz_; }
 
-    // Adding and removing. Each is one action; a blocked month throws `Blad`.
+    // Adding, removing, computing. Each is one action; a blocked month throws `Blad`. The questions of an
+    // action are settled before it begins: when the clerk cancels them nothing changes. What was left out is
+    // told when the action is done.
 
     /// Adds the employee with his components and days, without computing the row; the handles stand on it.
-    /// Nothing (after a message) if he is on the list already. Reads the personnel tables; writes `PLA`,
-    /// `PLB`, `PLS`, `PLD`. Throws `Blad` for an unknown employee.
+    /// Nothing (after a message) if he is on the list already, or when the questions were cancelled. Reads
+    /// the personnel tables; writes `PLA`, `PLB`, `PLS`, `PLD`. Throws `Blad` for an unknown employee.
     std::optional<KluczListy> Nowy_prac(qint64 prcId);
-    /// Adds and computes all given employees as one batch: questions once, progress with cancel, an employee
-    /// whose calculation fails is left out and named in the report. The whole batch is one write.
+    /// Adds and computes all given employees as one batch: an employee whose calculation fails is left out
+    /// and named in the report. Cancelled questions give a report of a stopped batch. The month's sums are
+    /// stored with the batch.
     RaportSerii DodajPracownikow(const QList<qint64>& numery);
-    /// Asks and deletes the four records of the row taken up. False on No.
+    /// Asks and deletes the records of the row taken up. False on No.
     bool Usun_prac();
 
-    // Calculations. One that fails leaves the row as it was and throws `Blad` with the employee and the
-    // cause.
+    // Calculations of the row taken up, saved. False when the questions were cancelled, or when the clerk
+    // keeps the component amounts that he typed. One that fails leaves
+    // the row as it was and throws `Blad` with the employee and the cause.
 
-    /// `Przelicz_Dni` of the row taken up, saved.
-    void Przelicz_Dni();
-    /// `Przelicz2` of the row taken up, saved.
-    void Przelicz2();
-    /// `Przelicz1` of the row taken up, saved.
-    void Przelicz1();
-    /// The same for many rows as a batch; a row whose calculation fails stays as it was.
+    bool Przelicz_Dni() { return przelicz(Obliczenie::PoliczenieDni); }
+    bool Przelicz2() { return przelicz(Obliczenie::Przepisanie); }
+    bool Przelicz1() { return przelicz(Obliczenie::Przeliczenie); }
+    /// The same for many rows as a batch; a row whose calculation fails stays as it was, and so does one with
+    /// typed component amounts that the clerk keeps.
     RaportSerii PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze);
 
     // Hand edits of the row taken up. Each is one action, saved when the procedure returns.
 
-    /// An amount of `PLA` or `PLB`, followed by its chain. False when the clerk refused the new amount, and
-    /// the old one stands.
+    /// An amount of `PLA` or `PLB`, followed by its chain. False when the clerk refused the new amount or
+    /// cancelled the questions, and the old one stands.
     bool ZmienKwote(const PoleListy& pole, Waluta kwota);
     /// Saves the components (`PLS`) typed into the row in memory.
     void WpiszSK();
@@ -106,7 +103,9 @@ public:
     /// Drops what was typed into the row in memory and not saved.
     void CofnijWiersz();
 
-    /// The month sums over all lists, written to `PLACE`; not for a blocked month. Reads `PLA`, `PLB`.
+    /// The month sums over all lists, should `PLACE` not hold them: every action that changes rows has stored
+    /// them, but an import has not. Not for a blocked month. Throws `Przepelnienie` when they cannot be
+    /// expressed.
     void ZapiszSumy();
 
 private:
@@ -114,20 +113,43 @@ private:
     void wymagajOtwartego() const;
     void wymagajWiersza();
     void wymagajPracownika(qint64 prcId) const;
-    void zapiszWiersz();
-    void zmienWiersz(const std::function<void()>& zmiana);
-    void obliczWiersz(const std::function<void()>& obliczenie);
-    [[nodiscard]] bool naLiscie(qint64 prcId, const QString& lista);
-    [[nodiscard]] QString symbolNowegoWiersza() const;
-    void dodajRekordy(qint64 prcId, const QString& lista, Tryb tryb);
-    void przepiszIloscZasilkow(Tryb tryb);
-    void wykonajLancuch(Lancuch lancuch);
-    void pytajOSkladkePPE();
-    [[nodiscard]] bool przyjmijPrzelew(Waluta kwota);
     void ustawNa(const KluczListy& klucz);
-    RaportSerii wykonajSerie(const QString& tytul, qsizetype ile,
-                             const std::function<qint64(qsizetype)>& numer,
-                             const std::function<bool(qsizetype)>& krok);
+    void szukajWiersza(const KluczListy& klucz);
+    [[nodiscard]] bool naLiscie(const KluczListy& klucz);
+    [[nodiscard]] QString symbolNowegoWiersza(const QString& wlasna) const;
+    [[nodiscard]] MiesiacPlac miesiac() const { return {{rok_, mies_}, o_.stale, pozycje_}; }
+
+    [[nodiscard]] std::optional<Waluta> zapisanyZasilek(const KluczListy& klucz);
+    [[nodiscard]] RachunekWiersza nowyRachunek(const AkcjaPlac& akcja, const KluczListy& klucz,
+                                               const DanePracownika& pracownik);
+    [[nodiscard]] ZbiorPytan pytaniaWiersza(Obliczenie obliczenie, const WierszPlac& wiersz);
+    [[nodiscard]] ZbiorPytan pytaniaDodawania(const QList<qint64>& numery);
+    [[nodiscard]] ZbiorPytan pytaniaSerii(Obliczenie obliczenie, const QList<KluczListy>& wiersze);
+    void wykonajObliczenie(Obliczenie obliczenie, const AkcjaPlac& akcja, RachunekWiersza& rachunek);
+    bool przelicz(Obliczenie obliczenie);
+    [[nodiscard]] bool przeliczWiersz(Obliczenie obliczenie);
+    [[nodiscard]] bool policzLancuch(Kroki kroki, RachunekWiersza& rachunek);
+    void pytajOSkladkePPE(WierszPlac& wiersz);
+    [[nodiscard]] bool przyjmijPrzelew(WierszPlac& wiersz);
+
+    void wpiszZasilek(const RachunekWiersza& rachunek);
+    void wpiszObliczenie(Obliczenie obliczenie, const WierszPlac& przedtem, const RachunekWiersza& rachunek);
+    [[nodiscard]] bool saWpisane(const KluczListy& klucz);
+    void zapiszRekordy(const Transakcja& akcja);
+    void zapiszSumyMiesiaca(const Transakcja& akcja);
+    /// Runs a writing of rows and sums; after a failure the sums are added up anew.
+    void zSumami(const std::function<void()>& zapis);
+    void zapiszWiersz(const KluczListy& klucz, const std::function<void()>& zmiana);
+    void pokazUwagi(const ListaUwag& uwagi);
+
+    struct Seria {
+        qsizetype ile = 0;
+        std::function<qint64(qsizetype i)> numer;
+        std::function<ZbiorPytan()> pytania;
+        /// Computes item `i` in memory; false when there is nothing to do.
+        std::function<bool(qsizetype i, const AkcjaPlac& akcja, ListaUwag& uwagi)> krok;
+    };
+    RaportSerii wykonajSerie(const QString& czynnosc, const Seria& seria);
 
     Otoczenie& o_;
     int rok_;
@@ -135,9 +157,10 @@ private:
     QString symbol_;
     bool zablokowany_ = false;
     Pozycje pozycje_;
-    OdpowiedziSerii odpowiedzi_;
-    Naliczanie naliczanie_;
+    ZrodlaPlac zrodla_;
     std::optional<KluczListy> wiersz_;
+    SumyWiersza sumy_;
+    SumyMiesiaca sumyMiesiaca_;
 };
 
 } // namespace tornel::payroll

@@ -1,304 +1,213 @@
 #include "payroll/lista/Naliczanie.h"
-#include "common/Daty.h"
-#include "payroll/lista/StareBrutto.h"
 #include "rules/Stale.h"
-#include "store/Sesja.h"
 #include <set>
 
 namespace tornel::payroll {
 
-using schemat::PLA;
-using schemat::PLB;
-using schemat::PRACPR;
-
-Naliczanie::Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziSerii& odpowiedzi,
-                       WykazyPodstaw* wykazy)
-    : o_(otoczenie), pozycje_(pozycje),
-      odpowiedzi_(odpowiedzi), w_{otoczenie, pozycje, odpowiedzi, wykazy, DaneNieobecnosci(otoczenie.sesja)} {
-}
-
-Naliczanie::~Naliczanie() = default;
-
-void Naliczanie::WypelnijDodatni(int i) {
-    Sesja& s = o_.sesja;
-    const Waluta zasadnicza = s.rsPRACPR.kwota(PRACPR("placa_zas"));
-    Waluta kwota;
-    if (i == o_.stale.PlZas)
-        kwota = zasadnicza;
-    else if (i == o_.stale.PremPr)
-        kwota = Procent(zasadnicza, s.rsPRACPR.kwota(PRACPR("Premia_pr")));
-    else
-        kwota = s.rsPRACSK.kwota(schemat::DodatniPracownika(i));
-    s.rsPLS.ustaw(schemat::SP(i), kwota);
-    WypelnijOkres(i);
-}
-
-void Naliczanie::WypelnijOkres(int i) {
-    Sesja& s = o_.sesja;
-    QDate od, dokad;
-    if (s.rsPLS.kwota(schemat::SP(i)) > Waluta{}) {
-        const QDate pierwszy = PierwszyDzien(s.rok(), s.mies());
-        const QDate umowaOd = s.rsPRACPR.data(PRACPR("umowa_od"));
-        od = !umowaOd.isValid() || umowaOd < pierwszy ? pierwszy : umowaOd;
-        dokad = OstatniDzien(s.rok(), s.mies());
-    }
-    s.rsPLD.ustaw(schemat::SOD(i), od);
-    s.rsPLD.ustaw(schemat::SDO(i), dokad);
-}
-
-void Naliczanie::WypelnijUjemny(int i) {
-    o_.sesja.rsPLS.ustaw(schemat::SM(i), o_.sesja.rsPRACSK.kwota(schemat::UjemnyPracownika(i)));
-}
-
-void Naliczanie::WypelnijSkladniki() {
-    // A row removed and added again has the same key, but no leave has been priced on it.
-    zasilek_.reset();
-    for (int i = 1; i <= 30; ++i)
-        if (pozycje_.dodatnia(i).aktywna()) WypelnijDodatni(i);
-    for (int i = 1; i <= 15; ++i)
-        if (pozycje_.ujemna(i).aktywna()) WypelnijUjemny(i);
-}
-
-void Naliczanie::Przelicz2(Tryb tryb) {
-    WypelnijSkladniki();
-    if (o_.stale.AktRejNadg)
-        for (const int nr : nadgodziny_.PrzeniesNadgodziny(tryb)) WypelnijOkres(nr);
-    const Waluta zasilek = l4_.WyliczL4(tryb);
-    urlop_.WyliczURL(tryb);
-    const Recordset& a = o_.sesja.rsPLA;
-    zasilek_ = {a.liczba(PLA("PRC_ID")), a.tekst(PLA("LISTA")), zasilek};
-}
-
-void Naliczanie::dolicz(const PozycjaSkladnika& pozycja, Waluta kwota) {
-    if (kwota.zero()) return;
-    const Waluta ubruttowiona = Procent(kwota, o_.sesja.rsPLB.kwota(PLB("WSK_UBR")), 2);
-    if (pozycja.brutto) {
-        sumy_.SumaBrutto += kwota;
-        sumy_.SumaBruttoUbr += pozycja.zus ? ubruttowiona : kwota;
-    } else {
-        sumy_.SumaInne += kwota;
-    }
-    if (pozycja.zus) {
-        sumy_.RoznicaUbr += ubruttowiona - kwota;
-        sumy_.PodstawaZUS += kwota;
-        sumy_.PodstawaZUSUbr += ubruttowiona;
-    }
-    // Deliberate: the multiplied value enters the health base only for components outside ZUS.
-    if (pozycja.ubzdr) sumy_.PodstawaUbzdr += pozycja.zus ? kwota : ubruttowiona;
-}
-
-void Naliczanie::WyliczPodstawy(Tryb tryb) {
-    Sesja& s = o_.sesja;
-    sumy_ = {};
-    Waluta dodatki, potracenia;
-    for (int i = 1; i <= 30; ++i) {
-        const PozycjaSkladnika& pozycja = pozycje_.dodatnia(i);
-        if (!pozycja.aktywna()) continue;
-        const Waluta kwota = s.rsPLS.kwota(schemat::SP(i));
-        if (!pozycja.brutto) dodatki += kwota;
-        dolicz(pozycja, kwota);
-    }
-    for (int i = 1; i <= 15; ++i) {
-        const PozycjaSkladnika& pozycja = pozycje_.ujemna(i);
-        if (!pozycja.aktywna()) continue;
-        const Waluta kwota = s.rsPLS.kwota(schemat::SM(i));
-        if (!pozycja.brutto) potracenia += kwota;
-        dolicz(pozycja, -kwota);
-    }
-
-    const Waluta ppe = s.rsPLB.kwota(PLB("PPE"));
-    if (ppe > s.rsPLB.kwota(PLB("ZUS_PPE")) &&
-        (tryb == Tryb::Seria ||
-         o_.rozmowa.pytanie(
-             QStringLiteral("Kwota odpisu w ramach PPE jest większa od średniej. Czy zwiększyć podstawę "
-                            "do ZUS o różnicę między kwotą odpisu a średnią ?"))))
-        s.rsPLB.ustaw(PLB("ZUS_PPE"), ppe);
-    const Waluta doliczonePpe = s.rsPLB.kwota(PLB("ZUS_PPE")) - ppe;
-    sumy_.PodstawaZUS += doliczonePpe;
-    sumy_.PodstawaUbzdr += doliczonePpe;
-
-    s.rsPLA.ustaw(PLA("BRUTTO"), Round(sumy_.SumaBrutto, 2));
-    s.rsPLA.ustaw(PLA("DODATKI"), dodatki);
-    s.rsPLA.ustaw(PLA("POTRACENIA"), potracenia);
-    s.rsPLB.ustaw(PLB("UBRUTTOW"), sumy_.RoznicaUbr);
-}
-
-void Naliczanie::WyliczSkladki() {
-    Recordset& a = o_.sesja.rsPLA;
-    Recordset& b = o_.sesja.rsPLB;
-    // The employer's rates come from the constants each time, the employee's and those of FP and FGSP from
-    // the row.
-    b.ustaw(PLB("WSK_FEPRD"), o_.stale.FEprd);
-    b.ustaw(PLB("WSK_FRPRD"), o_.stale.FRprd);
-    b.ustaw(PLB("WSK_FWPRD"), o_.stale.FWprd);
-    const auto skladka = [&](Waluta stawka) { return Procent(sumy_.PodstawaZUS, stawka, 2); };
-    a.ustaw(PLA("SKL_FP"), skladka(a.kwota(PLA("ST_SKL_FP"))));
-    a.ustaw(PLA("SKL_FGSP"), skladka(a.kwota(PLA("ST_SKLFGSP"))));
-    b.ustaw(PLB("FEPRC"), skladka(b.kwota(PLB("WSK_FEPRC"))));
-    b.ustaw(PLB("FEPRD"), skladka(o_.stale.FEprd));
-    b.ustaw(PLB("FRPRC"), skladka(b.kwota(PLB("WSK_FRPRC"))));
-    b.ustaw(PLB("FRPRD"), skladka(o_.stale.FRprd));
-    b.ustaw(PLB("FCPRC"), skladka(b.kwota(PLB("WSK_FCPRC"))));
-    b.ustaw(PLB("FWPRD"), skladka(o_.stale.FWprd));
-}
-
 namespace {
 
-/// What the employee pays into the pension, disability and sickness funds.
-Waluta SkladkiPracownika(const Recordset& plb) {
-    return plb.kwota(PLB("FEPRC")) + plb.kwota(PLB("FRPRC")) + plb.kwota(PLB("FCPRC"));
+void dolicz(SumyWiersza& sumy, const PozycjaSkladnika& pozycja, Waluta kwota, Waluta wsk_ubr) {
+    if (kwota.zero()) return;
+    const Waluta ubruttowiona = Procent(kwota, wsk_ubr, 2);
+    if (pozycja.brutto) {
+        sumy.SumaBrutto += kwota;
+        sumy.SumaBruttoUbr += pozycja.zus ? ubruttowiona : kwota;
+    } else {
+        sumy.SumaInne += kwota;
+    }
+    if (pozycja.zus) {
+        sumy.RoznicaUbr += ubruttowiona - kwota;
+        sumy.PodstawaZUS += kwota;
+        sumy.PodstawaZUSUbr += ubruttowiona;
+    }
+    // Deliberate: the multiplied value enters the health base only for components outside ZUS.
+    if (pozycja.ubzdr) sumy.PodstawaUbzdr += pozycja.zus ? kwota : ubruttowiona;
 }
 
 } // namespace
 
-void Naliczanie::WyliczKosztyUzyskania() {
-    const Recordset& pr = o_.sesja.rsPRACPR;
-    o_.sesja.rsPLA.ustaw(PLA("KUP"), pr.flaga(PRACPR("czy_kuz")) ? pr.kwota(PRACPR("Kup")) : Waluta{});
+Podstawy WyliczPodstawy(const MiesiacPlac& miesiac, const WierszPlac& w, const Odpowiedzi& odpowiedzi) {
+    Podstawy p;
+    for (std::size_t i = 0; i < w.skladniki.SP.size(); ++i) {
+        const PozycjaSkladnika& pozycja = miesiac.pozycje.dodatnie[i];
+        if (!pozycja.aktywna()) continue;
+        if (!pozycja.brutto) p.Dodatki += w.skladniki.SP[i];
+        dolicz(p.sumy, pozycja, w.skladniki.SP[i], w.wsk_ubr);
+    }
+    for (std::size_t i = 0; i < w.skladniki.SM.size(); ++i) {
+        const PozycjaSkladnika& pozycja = miesiac.pozycje.ujemne[i];
+        if (!pozycja.aktywna()) continue;
+        if (!pozycja.brutto) p.Potracenia += w.skladniki.SM[i];
+        dolicz(p.sumy, pozycja, -w.skladniki.SM[i], w.wsk_ubr);
+    }
+    p.zus_ppe = w.PPE > w.zus_ppe && odpowiedzi.ma(Pytanie::ZwiekszycPPE) ? w.PPE : w.zus_ppe;
+    const Waluta doliczonePpe = p.zus_ppe - w.PPE;
+    p.sumy.PodstawaZUS += doliczonePpe;
+    p.sumy.PodstawaUbzdr += doliczonePpe;
+    p.Brutto = Round(p.sumy.SumaBrutto, 2);
+    return p;
 }
 
-void Naliczanie::WyliczUlge() {
+Skladki Skladki::zWiersza(const WierszPlac& w) {
+    return {w.skl_fp, w.skl_fgsp, w.Feprd,     w.Frprd,     w.fwprd,    w.Feprc,
+            w.Frprc,  w.FcPrc,    w.WSK_FEPRD, w.WSK_FRPRD, w.WSK_FWPRD};
+}
+
+Skladki WyliczSkladki(const MiesiacPlac& miesiac, const Podstawy& podstawy, const WierszPlac& w) {
+    const auto skladka = [&](Waluta stawka) { return Procent(podstawy.sumy.PodstawaZUS, stawka, 2); };
+    const Stale& c = miesiac.stale;
+    Skladki s;
+    s.skl_fp = skladka(w.ST_SKL_FP);
+    s.skl_fgsp = skladka(w.ST_SKLFGSP);
+    s.Feprc = skladka(w.wsk_feprc);
+    s.Feprd = skladka(c.FEprd);
+    s.Frprc = skladka(w.wsk_frprc);
+    s.Frprd = skladka(c.FRprd);
+    s.FcPrc = skladka(w.wsk_fcprc);
+    s.fwprd = skladka(c.FWprd);
+    s.WSK_FEPRD = c.FEprd;
+    s.WSK_FRPRD = c.FRprd;
+    s.WSK_FWPRD = c.FWprd;
+    return s;
+}
+
+Waluta WyliczKosztyUzyskania(const DanePracownika& p) { return p.czy_kuz ? p.Kup : Waluta{}; }
+
+Waluta WyliczNetto(Waluta Brutto, const Skladki& skladki, Waluta Kup) {
+    return NieMniejNizZero(Round(Brutto - skladki.pracownika() - Kup, 2));
+}
+
+Waluta WyliczUbzdr(const Podstawy& podstawy, const Skladki& skladki, Waluta wsk_ubzdr) {
+    return Procent(podstawy.sumy.PodstawaUbzdr - skladki.pracownika(), wsk_ubzdr, 2);
+}
+
+Waluta WyliczUlge(const MiesiacPlac& miesiac, const DanePracownika& p) {
     // Deliberate: not doubled here, although a new row starts with the doubled amount for doubled limits.
-    const bool ulga = o_.sesja.rsPRACPR.flaga(PRACPR("czy_ulga"));
-    o_.sesja.rsPLA.ustaw(PLA("PPD"), ulga ? Proporcja(o_.stale.RKwPZ, 1, 12) : Waluta{});
+    return p.czy_ulga ? Proporcja(miesiac.stale.RKwPZ, 1, 12) : Waluta{};
 }
 
-void Naliczanie::WyliczNetto() {
-    Recordset& a = o_.sesja.rsPLA;
-    const Waluta dochod = a.kwota(PLA("BRUTTO")) - SkladkiPracownika(o_.sesja.rsPLB) - a.kwota(PLA("KUP"));
-    a.ustaw(PLA("NETTO"), NieMniejNizZero(Round(dochod, 2)));
-}
+bool GrupaStala(const DanePracownika& p) { return p.gr_pod >= 1 && p.gr_pod <= 3; }
 
-void Naliczanie::WyliczUbzdr() {
-    Recordset& b = o_.sesja.rsPLB;
-    b.ustaw(PLB("UBZDR_NAL"),
-            Procent(sumy_.PodstawaUbzdr - SkladkiPracownika(b), b.kwota(PLB("WSK_UBZDR")), 2));
-}
+StawkaPodatku UstalStawke(const MiesiacPlac& miesiac, const DanePracownika& p, const BruttoRoku& rok,
+                          Waluta Brutto) {
+    const Stale& c = miesiac.stale;
+    const Waluta stawki[] = {c.PodatekG1, c.PodatekG2, c.PodatekG3};
+    // A fixed group wins over all cumulation, without a warning.
+    if (GrupaStala(p)) return {stawki[p.gr_pod - 1], {}};
 
-void Naliczanie::PrzyjmijUbzdrNalezne() {
-    o_.sesja.rsPLB.ustaw(PLB("UBZDR"), o_.sesja.rsPLB.kwota(PLB("UBZDR_NAL")));
-}
-
-void Naliczanie::zapomnij(Odczyt odczyt) {
-    w_.zapomnij(odczyt);
-    nadgodziny_.zapomnij();
-    stareBrutto_.reset();
-}
-
-void Naliczanie::przygotujWiersz() { zapomnij(Odczyt::PoJednym); }
-
-void Naliczanie::przygotujSerie(qsizetype ile) {
-    constexpr qsizetype kCzescFirmy = 8;
-    const bool wiekszosc = ile * kCzescFirmy >= o_.sesja.rsPRACPR.RecordCount();
-    zapomnij(wiekszosc ? Odczyt::Wszystkich : Odczyt::PoJednym);
-    stareBrutto_ = std::make_unique<StareBrutto>(o_.sesja);
-    if (wiekszosc) stareBrutto_->wczytajWszystkich();
-}
-
-BruttoRoku Naliczanie::OdczytajStareBrutto(Tryb tryb) {
-    const Recordset& pr = o_.sesja.rsPRACPR;
-    const qint64 prcId = pr.liczba(PRACPR("prc_id"));
-    if (!stareBrutto_) stareBrutto_ = std::make_unique<StareBrutto>(o_.sesja);
-    return {pr.kwota(PRACPR("doch_start")) + stareBrutto_->zListPlac(prcId),
-            tryb == Tryb::Seria ? Waluta{} : stareBrutto_->zUmow(prcId)};
-}
-
-void Naliczanie::ostrzezOUmowach(Waluta brutto, int mnoznik) {
+    const int mnoznik = p.czy_2progi ? 2 : 1;
+    const auto grupa = [&](Waluta brutto) -> std::size_t {
+        if (!(brutto > Proporcja(c.GranicaG12, mnoznik, 1))) return 1;
+        return brutto > Proporcja(c.GranicaG23, mnoznik, 1) ? 3 : 2;
+    };
+    const Waluta suma = rok.stare + Brutto;
+    const std::size_t grupaPlac = grupa(suma);
+    StawkaPodatku wynik{stawki[grupaPlac - 1], {}};
+    const auto ostrzez = [&](const QString& tekst, std::size_t nr) {
+        if (nr > 1) wynik.uwagi.append({tekst.arg(nr), Zakres::Wiersz});
+    };
+    ostrzez(QStringLiteral("Uwaga! Przekroczona grupa podatkowa. Wyliczenie nastąpi w grupie %1."),
+            grupaPlac);
     // Deliberate: contracts never raise the rate, and the warning comes even when the rate was that high
     // already.
-    if (!(brutto > Proporcja(o_.stale.GranicaG12, mnoznik, 1))) return;
-    o_.rozmowa.komunikat(
-        brutto > Proporcja(o_.stale.GranicaG23, mnoznik, 1)
-            ? QStringLiteral("Uwaga! Po zsumowaniu kwot z umów zleceń, umów o dzieło i honorariów "
-                             "następuje przekroczenie grupy podatkowej do 3.")
-            : QStringLiteral("Uwaga! Po zsumowaniu kwot z umów zleceń, umów o dzieło i honorariów "
-                             "następuje przekroczenie grupy podatkowej do 2."),
-        Styl::Wykrzyknik);
+    if (rok.kwotaUmow)
+        ostrzez(QStringLiteral("Uwaga! Po zsumowaniu kwot z umów zleceń, umów o dzieło i honorariów "
+                               "następuje przekroczenie grupy podatkowej do %1."),
+                grupa(suma + *rok.kwotaUmow));
+    return wynik;
 }
 
-Waluta Naliczanie::stawkaPodatku(Tryb tryb) {
-    const Stale& c = o_.stale;
-    const Recordset& pr = o_.sesja.rsPRACPR;
-    // A fixed group wins over all cumulation, without a warning.
-    switch (pr.liczba(PRACPR("gr_pod"))) {
-    case 1:
-        return c.PodatekG1;
-    case 2:
-        return c.PodatekG2;
-    case 3:
-        return c.PodatekG3;
-    default:
-        break;
-    }
-    const BruttoRoku rok = OdczytajStareBrutto(tryb);
-    const Waluta suma = rok.stare + o_.sesja.rsPLA.kwota(PLA("BRUTTO"));
-    const int mnoznik = pr.flaga(PRACPR("czy_2progi")) ? 2 : 1;
-    Waluta stawka = c.PodatekG1;
-    if (suma > Proporcja(c.GranicaG12, mnoznik, 1)) {
-        const bool druga = !(suma > Proporcja(c.GranicaG23, mnoznik, 1));
-        stawka = druga ? c.PodatekG2 : c.PodatekG3;
-        if (tryb == Tryb::Pojedynczy)
-            o_.rozmowa.komunikat(
-                druga ? QStringLiteral("Uwaga! Przekroczona grupa podatkowa. Wyliczenie nastąpi w grupie 2.")
-                      : QStringLiteral("Uwaga! Przekroczona grupa podatkowa. Wyliczenie nastąpi w grupie 3."),
-                Styl::Wykrzyknik);
-    }
-    if (tryb == Tryb::Pojedynczy) ostrzezOUmowach(suma + rok.kwotaUmow, mnoznik);
-    return stawka;
-}
-
-void Naliczanie::WyliczPodatek(Tryb tryb) {
-    Recordset& a = o_.sesja.rsPLA;
-    Recordset& b = o_.sesja.rsPLB;
-    const Waluta stawka = stawkaPodatku(tryb);
-    const Waluta podatekDochodowy = Procent(Round(a.kwota(PLA("NETTO")), o_.stale.ZaokPod), stawka, 2);
-    a.ustaw(PLA("POD_DOCH"), podatekDochodowy);
+ZaliczkaPodatku WyliczPodatek(const MiesiacPlac& miesiac, Waluta stawka, Waluta Netto, Waluta Ppd,
+                              Waluta Ubzdr) {
+    ZaliczkaPodatku z;
+    z.pod_doch = Procent(Round(Netto, miesiac.stale.ZaokPod), stawka, 2);
     // The tax is computed with the exact rate; the column is a whole number.
-    a.ustaw(PLA("ST_PD"), static_cast<qint64>(Round(stawka, 0).surowa() / 10000));
-
-    const Waluta zaliczka = podatekDochodowy - a.kwota(PLA("PPD"));
-    if (zaliczka < b.kwota(PLB("UBZDR"))) b.ustaw(PLB("UBZDR"), NieMniejNizZero(zaliczka));
-    a.ustaw(PLA("PODATEK"), Round(NieMniejNizZero(zaliczka - b.kwota(PLB("UBZDR"))), o_.stale.ZaokZal));
+    z.st_pd = Round(stawka, 0).surowa() / 10000;
+    const Waluta zaliczka = z.pod_doch - Ppd;
+    z.Ubzdr = zaliczka < Ubzdr ? NieMniejNizZero(zaliczka) : Ubzdr;
+    z.Podatek = Round(NieMniejNizZero(zaliczka - z.Ubzdr), miesiac.stale.ZaokZal);
+    return z;
 }
 
-Waluta Naliczanie::ZasilekChorobowy() const {
-    const Sesja& s = o_.sesja;
-    if (zasilek_ && zasilek_->prcId == s.rsPLA.liczba(PLA("PRC_ID")) &&
-        zasilek_->lista == s.rsPLA.tekst(PLA("LISTA")))
-        return zasilek_->kwota;
+Waluta Dowyplaty(const MiesiacPlac& miesiac, const Podstawy& podstawy, const Skladki& skladki,
+                 Waluta zaliczka, Waluta zasilek) {
+    const Waluta kwota =
+        podstawy.Brutto - skladki.pracownika() - NieMniejNizZero(zaliczka) + podstawy.sumy.SumaInne - zasilek;
+    return Round(kwota, miesiac.stale.ZaokWyp);
+}
+
+Waluta ZasilekChorobowy(const MiesiacPlac& miesiac, const WierszPlac& w, std::optional<Waluta> zapisany) {
+    if (zapisany) return *zapisany;
     Waluta zasilek;
-    if (s.rsPLA.liczba(PLA("DNI_L4_ZUS")) <= 0) return zasilek;
+    if (w.dni_l4_zus <= 0) return zasilek;
     // The four numbers may repeat a component, which still counts once.
-    for (const int nr : std::set<int>(o_.stale.L4ZUS.begin(), o_.stale.L4ZUS.end()))
-        if (nr >= 1 && nr <= 30) zasilek += s.rsPLS.kwota(schemat::SP(nr));
+    for (const int nr : std::set<int>(miesiac.stale.L4ZUS.begin(), miesiac.stale.L4ZUS.end()))
+        if (nr >= 1 && nr <= 30) zasilek += w.skladniki.sp(nr);
     return zasilek;
 }
 
-void Naliczanie::Dowyplaty(Tryb tryb) {
-    Recordset& a = o_.sesja.rsPLA;
-    Waluta kwota = a.kwota(PLA("BRUTTO")) - SkladkiPracownika(o_.sesja.rsPLB);
-    // The advance before the health deduction is taken off.
-    kwota -= NieMniejNizZero(a.kwota(PLA("POD_DOCH")) - a.kwota(PLA("PPD")));
-    kwota += sumy_.SumaInne;
-    const Waluta zasilek = ZasilekChorobowy();
-    if (zasilek > Waluta{} &&
-        odpowiedzi_.pomniejszacZasilek.pytaj(
-            o_.rozmowa, tryb,
-            QStringLiteral("Czy pomniejszać kwotę do wypłaty pracownikom o zasiłek chorobowy ?"),
-            QStringLiteral("Czy pomniejszyć kwotę do wypłaty pracownika o zasiłek chorobowy ?")))
-        kwota -= zasilek;
-    a.ustaw(PLA("DO_WYPLATY"), Round(kwota, o_.stale.ZaokWyp));
+ZbiorPytan PytaniaPlacy(const WierszPlac& w, Waluta zasilek) {
+    ZbiorPytan moga;
+    moga.dodaj(Pytanie::ZwiekszycPPE, w.PPE > w.zus_ppe);
+    moga.dodaj(Pytanie::PomniejszycZasilek, zasilek > Waluta{});
+    return moga;
 }
 
-void Naliczanie::Przelicz1(Tryb tryb) {
-    WyliczPodstawy(tryb);
-    WyliczSkladki();
-    WyliczKosztyUzyskania();
-    WyliczNetto();
-    WyliczUbzdr();
-    PrzyjmijUbzdrNalezne();
-    WyliczUlge();
-    WyliczPodatek(tryb);
-    Dowyplaty(tryb);
+namespace {
+
+/// What the steps made of the row.
+WierszPlac zWynikami(const WierszPlac& przedtem, const Podstawy& podstawy, const Skladki& skladki,
+                     const ZaliczkaPodatku& zaliczka) {
+    WierszPlac w = przedtem;
+    w.Brutto = podstawy.Brutto;
+    w.Dodatki = podstawy.Dodatki;
+    w.Potracenia = podstawy.Potracenia;
+    w.zus_ppe = podstawy.zus_ppe;
+    w.UBruttow = podstawy.sumy.RoznicaUbr;
+    w.skl_fp = skladki.skl_fp;
+    w.skl_fgsp = skladki.skl_fgsp;
+    w.Feprd = skladki.Feprd;
+    w.Frprd = skladki.Frprd;
+    w.fwprd = skladki.fwprd;
+    w.Feprc = skladki.Feprc;
+    w.Frprc = skladki.Frprc;
+    w.FcPrc = skladki.FcPrc;
+    w.WSK_FEPRD = skladki.WSK_FEPRD;
+    w.WSK_FRPRD = skladki.WSK_FRPRD;
+    w.WSK_FWPRD = skladki.WSK_FWPRD;
+    w.pod_doch = zaliczka.pod_doch;
+    w.st_pd = zaliczka.st_pd;
+    w.Podatek = zaliczka.Podatek;
+    w.Ubzdr = zaliczka.Ubzdr;
+    return w;
+}
+
+} // namespace
+
+WynikPlacy PoliczPlace(const MiesiacPlac& miesiac, const DanePlacy& dane, Kroki kroki,
+                       const Odpowiedzi& odpowiedzi) {
+    const WierszPlac& w = dane.wiersz;
+    const DanePracownika& p = dane.pracownik;
+    const Podstawy podstawy = WyliczPodstawy(miesiac, w, odpowiedzi);
+    const Skladki skladki = kroki.skladki ? WyliczSkladki(miesiac, podstawy, w) : Skladki::zWiersza(w);
+    const Waluta Kup = kroki.koszty ? WyliczKosztyUzyskania(p) : w.Kup;
+    const Waluta Netto = kroki.netto ? WyliczNetto(podstawy.Brutto, skladki, Kup) : w.Netto;
+    const Waluta ubzdr_nal = kroki.ubzdr ? WyliczUbzdr(podstawy, skladki, w.wsk_ubzdr) : w.ubzdr_nal;
+    const Waluta Ubzdr = kroki.odliczane ? ubzdr_nal : w.Ubzdr;
+    const Waluta Ppd = kroki.ulga ? WyliczUlge(miesiac, p) : w.Ppd;
+    const StawkaPodatku stawka = UstalStawke(miesiac, p, dane.rok, podstawy.Brutto);
+    const ZaliczkaPodatku zaliczka = WyliczPodatek(miesiac, stawka.stawka, Netto, Ppd, Ubzdr);
+    const Waluta zasilek =
+        odpowiedzi.ma(Pytanie::PomniejszycZasilek) ? NieMniejNizZero(dane.zasilek) : Waluta{};
+    const Waluta do_wyplaty = Dowyplaty(miesiac, podstawy, skladki, zaliczka.pod_doch - Ppd, zasilek);
+
+    WynikPlacy wynik{zWynikami(w, podstawy, skladki, zaliczka), podstawy.sumy, stawka.uwagi};
+    wynik.wiersz.Kup = Kup;
+    wynik.wiersz.Netto = Netto;
+    wynik.wiersz.ubzdr_nal = ubzdr_nal;
+    wynik.wiersz.Ppd = Ppd;
+    wynik.wiersz.do_wyplaty = do_wyplaty;
+    return wynik;
 }
 
 } // namespace tornel::payroll

@@ -1,20 +1,14 @@
-// The arithmetic of one payroll row, from the amounts of its components to the amount to pay.
+// The arithmetic of one payroll row, from the amounts of its components to the amount to pay: steps that take
+// records and give results, in the order of what passes between them.
 #pragma once
-#include "common/Rozmowa.h"
-#include "common/Waluta.h"
-#include "payroll/lista/Warsztat.h"
-#include "payroll/nadgodziny/PrzenoszenieNadgodzin.h"
-#include "payroll/nieobecnosci/LiczenieDni.h"
-#include "payroll/nieobecnosci/WynagrodzenieL4.h"
-#include "payroll/nieobecnosci/WynagrodzenieUrlop.h"
-#include <memory>
-#include <QDate>
+#include "payroll/lista/MiesiacPlac.h"
+#include "payroll/lista/PytaniaListy.h"
+#include "payroll/lista/WierszPlac.h"
+#include <optional>
 
 namespace tornel::payroll {
 
-class StareBrutto;
-
-/// The sums of the row in work, in zł, made by `WyliczPodstawy`.
+/// The sums of a row, in zł.
 struct SumyWiersza {
     Waluta SumaBrutto;     ///< components flagged brutto, less the deductions flagged brutto
     Waluta SumaInne;       ///< components not flagged brutto, less the deductions not flagged brutto
@@ -25,96 +19,105 @@ struct SumyWiersza {
     Waluta RoznicaUbr;     ///< what the multiplication by `wsk_ubr` added to the ZUS base
 };
 
-/// The brutto of the year so far.
+struct Podstawy {
+    SumyWiersza sumy;
+    Waluta Brutto, Dodatki, Potracenia;
+    Waluta zus_ppe; ///< average of the pension plan, raised to the contribution if that was wanted
+};
+
+/// Contributions, zł, and the employer's rates, percent.
+struct Skladki {
+    Waluta skl_fp, skl_fgsp, Feprd, Frprd, fwprd;
+    Waluta Feprc, Frprc, FcPrc;
+    Waluta WSK_FEPRD, WSK_FRPRD, WSK_FWPRD;
+
+    /// What the employee pays into the pension, disability and sickness funds.
+    [[nodiscard]] Waluta pracownika() const { return Feprc + Frprc + FcPrc; }
+    /// Those that stand on the row.
+    [[nodiscard]] static Skladki zWiersza(const WierszPlac& wiersz);
+};
+
+/// The brutto of the year before this row.
 struct BruttoRoku {
-    Waluta stare;     ///< `doch_start` and the earlier months' lists
-    Waluta kwotaUmow; ///< contracts paid so far; they warn of a higher tax group and never cause one
+    Waluta stare; ///< `doch_start` and the earlier months' lists
+    /// Contracts paid so far; they warn of a higher tax group and never cause one. Not read for a batch.
+    std::optional<Waluta> kwotaUmow;
 };
 
-/// Works on the current rows of `rsPLA`, `rsPLB`, `rsPLS`, `rsPLD` and of the personnel handles, which the
-/// caller puts on one employee. All changes stay in memory: the caller saves the row as one action. Questions
-/// and warnings go to the conversation port; in a batch (`Tryb::Seria`) warnings are left out and answers
-/// remembered.
-class Naliczanie {
-public:
-    /// `pozycje` and `odpowiedzi` belong to the open list and outlive this object, as does `wykazy`, the
-    /// clerk's side of the absence calculations.
-    Naliczanie(Otoczenie& otoczenie, const Pozycje& pozycje, OdpowiedziSerii& odpowiedzi,
-               WykazyPodstaw* wykazy = nullptr);
-    ~Naliczanie();
-
-    /// Fills the active components and their periods from the personnel file. Reads `PRACPR`, `PRACSK`;
-    /// changes `PLS`, `PLD`.
-    void WypelnijSkladniki();
-    /// Counts the days of the row by kind. Reads the absence registers and the calendars; changes `PLA`,
-    /// `PLB`.
-    void Przelicz_Dni(Tryb tryb) { dni_.Przelicz_Dni(tryb); }
-    /// Refills the components, adds the overtime and prices sick leaves and vacations. Changes all four
-    /// tables.
-    void Przelicz2(Tryb tryb);
-    /// Bases, contributions, tax and the amount to pay, with costs and tax credit taken anew from the
-    /// employee. Reads `PRACPR`, `PLS`; changes `PLA`, `PLB`.
-    void Przelicz1(Tryb tryb);
-
-    /// Before a calculation of one row: what earlier ones read outside the open month is forgotten.
-    void przygotujWiersz();
-    /// Before a batch over `ile` employees: earlier months, registers and calendars, which do not change
-    /// meanwhile, are read once for all if the batch takes a good part of the firm.
-    void przygotujSerie(qsizetype ile);
-    /// What the calculations since the last call left out and the report of a batch has to tell.
-    [[nodiscard]] QStringList zabierzUwagi() { return std::exchange(w_.uwagi, {}); }
-
-    /// One additive component i from 1 to 30, with its period, by the personnel file.
-    void WypelnijDodatni(int i);
-    /// The period of component i for its amount on the row: the month, from the contract's first day on; none
-    /// without an amount.
-    void WypelnijOkres(int i);
-    /// One deductive component i from 1 to 15.
-    void WypelnijUjemny(int i);
-
-    // The steps of `Przelicz1`, run one by one after a hand edit.
-    void WyliczPodstawy(Tryb tryb);
-    void WyliczSkladki();
-    void WyliczNetto();
-    void WyliczUbzdr();
-    void PrzyjmijUbzdrNalezne(); ///< `Ubzdr` := `ubzdr_nal`
-    void WyliczKosztyUzyskania();
-    void WyliczUlge();
-    void WyliczPodatek(Tryb tryb);
-    void Dowyplaty(Tryb tryb);
-
-    /// Reads `PRACPR` and, through the file, the earlier months' `PLA`; `UZL`, `UOD`, `HON` only for one row,
-    /// since contracts serve the warnings alone.
-    [[nodiscard]] BruttoRoku OdczytajStareBrutto(Tryb tryb);
-    /// The sick benefit of the row, zł: as `WyliczL4` left it, if that ran on this row last; otherwise the
-    /// row's components named by constant 105 if `dni_l4_zus` is above 0.
-    [[nodiscard]] Waluta ZasilekChorobowy() const;
-
-    [[nodiscard]] const SumyWiersza& sumy() const { return sumy_; }
-
-private:
-    struct ZasilekWiersza {
-        qint64 prcId = 0;
-        QString lista;
-        Waluta kwota;
-    };
-
-    void zapomnij(Odczyt odczyt);
-    void dolicz(const PozycjaSkladnika& pozycja, Waluta kwota);
-    [[nodiscard]] Waluta stawkaPodatku(Tryb tryb);
-    void ostrzezOUmowach(Waluta brutto, int mnoznik);
-
-    Otoczenie& o_;
-    const Pozycje& pozycje_;
-    OdpowiedziSerii& odpowiedzi_;
-    Warsztat w_;
-    LiczenieDni dni_{w_};
-    PrzenoszenieNadgodzin nadgodziny_{w_};
-    WynagrodzenieL4 l4_{w_};
-    WynagrodzenieUrlop urlop_{w_};
-    std::optional<ZasilekWiersza> zasilek_;
-    std::unique_ptr<StareBrutto> stareBrutto_;
-    SumyWiersza sumy_;
+struct StawkaPodatku {
+    Waluta stawka; ///< percent, exact
+    ListaUwag uwagi;
 };
 
+struct ZaliczkaPodatku {
+    Waluta pod_doch; ///< tax before deductions
+    qint64 st_pd = 0;
+    Waluta Podatek; ///< the advance
+    Waluta Ubzdr;   ///< health insurance deducted, at most the tax
+};
+
+/// Bases and sums of the row's components. Throws `Przepelnienie`, as every step does.
+[[nodiscard]] Podstawy WyliczPodstawy(const MiesiacPlac& miesiac, const WierszPlac& wiersz,
+                                      const Odpowiedzi& odpowiedzi);
+/// Contributions from `PodstawaZUS`: the employer's rates come from the constants, the others from the row.
+[[nodiscard]] Skladki WyliczSkladki(const MiesiacPlac& miesiac, const Podstawy& podstawy,
+                                    const WierszPlac& wiersz);
+/// `Kup` by the employee.
+[[nodiscard]] Waluta WyliczKosztyUzyskania(const DanePracownika& pracownik);
+/// The income that is taxed.
+[[nodiscard]] Waluta WyliczNetto(Waluta Brutto, const Skladki& skladki, Waluta Kup);
+/// `ubzdr_nal`: the health insurance due.
+[[nodiscard]] Waluta WyliczUbzdr(const Podstawy& podstawy, const Skladki& skladki, Waluta wsk_ubzdr);
+/// `Ppd`: the month's tax credit by the employee.
+[[nodiscard]] Waluta WyliczUlge(const MiesiacPlac& miesiac, const DanePracownika& pracownik);
+
+/// Whether the employee's tax group is fixed, so that the year's gross decides nothing.
+[[nodiscard]] bool GrupaStala(const DanePracownika& pracownik);
+/// The rate for the year's gross with this row; `rok` is asked for no fixed group.
+[[nodiscard]] StawkaPodatku UstalStawke(const MiesiacPlac& miesiac, const DanePracownika& pracownik,
+                                        const BruttoRoku& rok, Waluta Brutto);
+/// `Ubzdr` is the health insurance to be deducted, before it is cut down to the tax.
+[[nodiscard]] ZaliczkaPodatku WyliczPodatek(const MiesiacPlac& miesiac, Waluta stawka, Waluta Netto,
+                                            Waluta Ppd, Waluta Ubzdr);
+/// `zaliczka` is the advance before the health deduction, `zasilek` the sick benefit to be taken off.
+[[nodiscard]] Waluta Dowyplaty(const MiesiacPlac& miesiac, const Podstawy& podstawy, const Skladki& skladki,
+                               Waluta zaliczka, Waluta zasilek);
+
+/// The sick benefit of a row, zł: `zapisany` if its leaves were priced here; otherwise (an imported row) the
+/// components named by constant 105, each number once, if `dni_l4_zus` is above 0.
+[[nodiscard]] Waluta ZasilekChorobowy(const MiesiacPlac& miesiac, const WierszPlac& wiersz,
+                                      std::optional<Waluta> zapisany);
+
+/// The steps that a computation of the row goes through; what is left out stands as the row has it. Bases,
+/// tax and the amount to pay are always computed.
+struct Kroki {
+    bool skladki = false;   ///< `WyliczSkladki`
+    bool koszty = false;    ///< `WyliczKosztyUzyskania`
+    bool netto = false;     ///< `WyliczNetto`
+    bool ubzdr = false;     ///< `WyliczUbzdr`
+    bool odliczane = false; ///< `Ubzdr` := `ubzdr_nal`
+    bool ulga = false;      ///< `WyliczUlge`
+};
+/// `Przelicz1`: with costs and tax credit taken anew from the employee.
+inline constexpr Kroki kPrzelicz1{true, true, true, true, true, true};
+
+/// What a computation reads beside the month.
+struct DanePlacy {
+    const WierszPlac& wiersz;
+    const DanePracownika& pracownik;
+    BruttoRoku rok;
+    Waluta zasilek; ///< the row's sick benefit, taken off if the clerk wants it
+};
+
+struct WynikPlacy {
+    WierszPlac wiersz;
+    SumyWiersza sumy;
+    ListaUwag uwagi;
+};
+
+/// The questions that the computation of the row can raise.
+[[nodiscard]] ZbiorPytan PytaniaPlacy(const WierszPlac& wiersz, Waluta zasilek);
+/// The steps in their order, over one row.
+[[nodiscard]] WynikPlacy PoliczPlace(const MiesiacPlac& miesiac, const DanePlacy& dane, Kroki kroki,
+                                     const Odpowiedzi& odpowiedzi);
 } // namespace tornel::payroll

@@ -29,6 +29,23 @@ std::span<const PoleListy> polaListy() {
     return pola;
 }
 
+std::optional<Kroki> KrokiLancucha(Lancuch lancuch) {
+    switch (lancuch) {
+    case Lancuch::OdKosztow:
+        return Kroki{.netto = true, .ubzdr = true, .odliczane = true};
+    case Lancuch::OdUlgi:
+        return Kroki{.ubzdr = true, .odliczane = true};
+    case Lancuch::OdUbzdr:
+        return Kroki{};
+    case Lancuch::OdUbzdrNal:
+        return Kroki{.odliczane = true};
+    case Lancuch::OdPPE:
+        return Kroki{.skladki = true, .netto = true, .ubzdr = true, .odliczane = true, .ulga = true};
+    default:
+        return std::nullopt;
+    }
+}
+
 const PoleListy& poleListy(QStringView nazwa) {
     const auto pola = polaListy();
     const auto miejsce =

@@ -1,6 +1,7 @@
 // The amounts of a payroll row that the clerk may type over, each with its column and what is computed after
 // it.
 #pragma once
+#include "payroll/lista/Naliczanie.h"
 #include "store/SchematPlac.h"
 #include <QStringView>
 #include <span>
@@ -24,6 +25,9 @@ struct PoleListy {
     Kolumna kolumna;
     Lancuch lancuch;
 };
+
+/// The steps of a chain; nothing for one that computes no bases and no tax.
+[[nodiscard]] std::optional<Kroki> KrokiLancucha(Lancuch lancuch);
 
 /// All editable amounts of `PLA` and `PLB`.
 [[nodiscard]] std::span<const PoleListy> polaListy();

@@ -5,6 +5,10 @@
 #include <array>
 #include <QString>
 
+namespace tornel::rules {
+struct Maski;
+} // namespace tornel::rules
+
 namespace tornel::payroll {
 
 struct PozycjaSkladnika {
@@ -36,5 +40,8 @@ struct Pozycje {
         return ujemne.at(static_cast<std::size_t>(i - 1));
     }
 };
+
+/// The positions by the month's marks and today's catalogue.
+[[nodiscard]] Pozycje PozycjeZMasek(const Maski& miesiac, const Maski& katalog);
 
 } // namespace tornel::payroll

@@ -9,6 +9,7 @@
 #include "okna/Wyglad.h"
 #include "payroll/lista/frmPlaceListaPasek.h"
 #include "payroll/lista/frmPlaceListaZakladki.h"
+#include "payroll/lista/Przelewy.h"
 #include "personnel/frmWybPr.h"
 #include "store/Sesja.h"
 #include <algorithm>
@@ -18,9 +19,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QSet>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <set>
 
 namespace tornel::payroll {
 
@@ -46,7 +47,7 @@ frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QStrin
           {60, 18, 22})),
       zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy),
       labPracownik_(napis(QStringLiteral("labPracownik"))), labKwoty_(napis(QStringLiteral("labKwoty"))),
-      labIleWierszy_(napis(QStringLiteral("labIleWierszy"))) {
+      labIleWierszy_(napis(QStringLiteral("labIleWierszy"))), labUwaga_(Wyglad::baner({}, this)) {
     const Klepsydra klepsydra;
     setObjectName(QStringLiteral("frmPlaceLista"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -80,12 +81,15 @@ void frmPlaceLista::polacz() {
     connect(pasek_, &PasekListy::przepisz, this, &frmPlaceLista::przepisz);
     connect(pasek_, &PasekListy::przeliczDni, this, &frmPlaceLista::przeliczDni);
     connect(pasek_, &PasekListy::przelicz, this, &frmPlaceLista::przelicz);
+    connect(pasek_, &PasekListy::caloscNaKonto, this, &frmPlaceLista::caloscNaKonto);
+    connect(pasek_, &PasekListy::caloscNaKontoWszystkich, this, &frmPlaceLista::caloscNaKontoWszystkich);
     connect(pasek_, &PasekListy::seria, this, &frmPlaceLista::seria);
     connect(pasek_, &PasekListy::powrot, this, &QDialog::reject);
-    connect(zakladki_, &ZakladkiListy::kwotyZmienione, this, &frmPlaceLista::pokazNaglowek);
-    connect(zakladki_, &ZakladkiListy::skladnikiZmienione, this, [this] {
-        if (const auto klucz = biezacy()) oznacz(*klucz, true);
+    connect(zakladki_, &ZakladkiListy::kwotyZmienione, this, [this] {
+        pokazNaglowek();
+        przejrzyjBiezacy();
     });
+    connect(zakladki_, &ZakladkiListy::skladnikiZmienione, this, [this] { wskazPrzelicz(true); });
     if (const auto* program = qobject_cast<Aplikacja*>(qApp))
         connect(program, &Aplikacja::danePrzeczytane, this, &frmPlaceLista::pokazPonownie);
 }
@@ -123,7 +127,13 @@ QWidget* frmPlaceLista::prawaStrona() {
     auto* naglowek = new QHBoxLayout;
     naglowek->addWidget(labPracownik_, 1);
     naglowek->addWidget(labKwoty_);
+    // It keeps its place while there is nothing to say, so that no field moves under the clerk's hand.
+    labUwaga_->setObjectName(QStringLiteral("labUwaga"));
+    QSizePolicy miejsce = labUwaga_->sizePolicy();
+    miejsce.setRetainSizeWhenHidden(true);
+    labUwaga_->setSizePolicy(miejsce);
     uklad->addLayout(naglowek);
+    uklad->addWidget(labUwaga_);
     uklad->addWidget(zakladki_, 1);
     return prawa;
 }
@@ -134,16 +144,25 @@ std::optional<KluczListy> frmPlaceLista::biezacy() const {
     return linie_.at(id).klucz;
 }
 
+WierszListy frmPlaceLista::wierszListy(qint64 id) const {
+    const LiniaListy& l = linie_.at(id);
+    const auto stan = doUwagi_.find({l.klucz.prcId, l.klucz.lista});
+    return {id,
+            {QString(l.nazwisko + QLatin1Char(' ') + l.imie).trimmed(), FormatNumeru(l.klucz.prcId),
+             l.klucz.lista.toUpper()},
+            stan == doUwagi_.end() ? QString() : stan->second.opis(),
+            Waga::Wazna};
+}
+
 void frmPlaceLista::pokazListe(const std::optional<KluczListy>& zaznacz) {
+    przejrzyjWiersze();
     QList<WierszListy> wiersze;
     wiersze.reserve(linie_.size());
     qint64 wybrany = -1;
     for (const LiniaListy& l : linie_) {
         const qint64 id = wiersze.size();
         if (l.klucz == zaznacz) wybrany = id;
-        wiersze.append({id,
-                        {QString(l.nazwisko + QLatin1Char(' ') + l.imie).trimmed(),
-                         FormatNumeru(l.klucz.prcId), l.klucz.lista.toUpper()}});
+        wiersze.append(wierszListy(id));
     }
     setWindowTitle(lista_.tytul());
     labIleWierszy_->setText(QStringLiteral("Pracowników na liście: %1").arg(linie_.size()));
@@ -163,6 +182,7 @@ void frmPlaceLista::pokazListe(const std::optional<KluczListy>& zaznacz) {
 
 void frmPlaceLista::wybierzWiersz(qint64 id) {
     zakladki_->zakoncz();
+    przeliczNastepne_ = false;
     wypiszWiersz(linie_.at(id).klucz);
 }
 
@@ -180,10 +200,12 @@ void frmPlaceLista::wypiszBiezacy() {
 
 void frmPlaceLista::pokazPonownie() {
     zakladki_->porzucSumy();
-    if (o_.sesja.rsPLA.otwarty())
+    if (o_.sesja.rsPLA.otwarty()) {
         wypiszBiezacy();
-    else
+        przejrzyjBiezacy();
+    } else {
         QDialog::done(Rejected); // the month itself is gone
+    }
 }
 
 void frmPlaceLista::pokazNaglowek() {
@@ -198,20 +220,52 @@ void frmPlaceLista::pokazNaglowek() {
              : QString());
 }
 
-void frmPlaceLista::oznacz(const KluczListy& klucz, bool doPrzeliczenia) {
-    if (doPrzeliczenia)
-        doPrzeliczenia_.emplace(klucz.prcId, klucz.lista);
-    else
-        doPrzeliczenia_.erase({klucz.prcId, klucz.lista});
+void frmPlaceLista::przejrzyjWiersze() {
+    doUwagi_.clear();
+    Sesja& s = o_.sesja;
+    for (const WierszDoUwagi& w : PrzejrzyjWiersze(lista_.pozycje(), s.rsPLA, s.rsPLS))
+        doUwagi_.emplace(Klucz{w.prcId, w.lista}, w.stan);
+}
+
+void frmPlaceLista::przejrzyjBiezacy() {
+    const qint64 id = lvwPlace_->wybrany();
+    if (id < 0 || lista_.wiersz() != linie_.at(id).klucz || !o_.sesja.rsPLA.naWierszu()) return;
+    const KluczListy& klucz = linie_.at(id).klucz;
+    const StanWiersza stan =
+        KontrolaWierszy(lista_.pozycje())
+            .sprawdz(o_.sesja.rsPLA.biezacyWiersz(), o_.sesja.rsPLS.szukaj(klucz.prcId, klucz.lista));
+    doUwagi_.erase({klucz.prcId, klucz.lista});
+    if (stan.wymagaUwagi()) doUwagi_.emplace(Klucz{klucz.prcId, klucz.lista}, stan);
+    const WierszListy wiersz = wierszListy(id);
+    lvwPlace_->lista().zmien(id, wiersz.teksty, wiersz.uwaga, wiersz.waga);
     pokazOznaczenie();
+}
+
+void frmPlaceLista::wskazPrzelicz(bool tak) {
+    przeliczNastepne_ = tak;
+    przejrzyjBiezacy();
 }
 
 void frmPlaceLista::pokazOznaczenie() {
     const auto klucz = biezacy();
-    const bool czeka = klucz && doPrzeliczenia_.contains({klucz->prcId, klucz->lista});
+    const auto uwaga = klucz ? doUwagi_.find({klucz->prcId, klucz->lista}) : doUwagi_.end();
+    const StanWiersza stan = uwaga == doUwagi_.end() ? StanWiersza{} : uwaga->second;
+    const bool czeka = klucz && (przeliczNastepne_ || stan.niePoliczony);
     pasek_->oznaczDoPrzeliczenia(czeka);
     zakladki_->wyroznij(ZakladkiListy::Placa, czeka);
     zakladki_->wyroznij(ZakladkiListy::Dodatnie, false);
+    Wyglad::ustawBaner(*labUwaga_, stan.opis());
+}
+
+void frmPlaceLista::powiedzOUwagach() const {
+    if (lista_.zablokowany()) return;
+    QList<WierszDoUwagi> naLiscie;
+    for (const LiniaListy& l : linie_)
+        if (const auto w = doUwagi_.find({l.klucz.prcId, l.klucz.lista}); w != doUwagi_.end())
+            naLiscie.append({l.klucz.prcId, l.klucz.lista, w->second});
+    if (naLiscie.isEmpty()) return;
+    o_.rozmowa.komunikat(QStringLiteral("Ta lista płac wymaga uwagi.\n") + OpisDoUwagi(naLiscie),
+                         Styl::Wykrzyknik);
 }
 
 void frmPlaceLista::nowy() {
@@ -229,16 +283,16 @@ void frmPlaceLista::nowy() {
 void frmPlaceLista::dodajJednego(qint64 prcId) {
     const auto dodany = lista_.Nowy_prac(prcId);
     if (!dodany) return wypiszBiezacy();
-    doPrzeliczenia_.emplace(dodany->prcId, dodany->lista);
     linie_ = lista_.Wczytaj_listep();
     pokazListe(dodany);
+    wskazPrzelicz(true);
     zakladki_->setCurrentIndex(ZakladkiListy::Dodatnie);
     zakladki_->wyroznij(ZakladkiListy::Dodatnie, true);
 }
 
 void frmPlaceLista::dodajWielu(const QList<qint64>& osoby) {
     auto zaznacz = biezacy();
-    std::set<Wiersz> przedtem;
+    std::set<Klucz> przedtem;
     for (const LiniaListy& l : linie_) przedtem.emplace(l.klucz.prcId, l.klucz.lista);
     const RaportSerii raport = lista_.DodajPracownikow(osoby);
     linie_ = lista_.Wczytaj_listep();
@@ -256,7 +310,6 @@ void frmPlaceLista::usun() {
     zakladki_->zakoncz();
     const auto klucz = biezacy();
     if (!klucz || !lista_.Usun_prac()) return;
-    oznacz(*klucz, false);
     const qint64 sasiad = lvwPlace_->sasiad(lvwPlace_->wybrany());
     const auto zaznacz = sasiad >= 0 ? std::optional(linie_.at(sasiad).klucz) : std::nullopt;
     linie_ = lista_.Wczytaj_listep();
@@ -266,25 +319,25 @@ void frmPlaceLista::usun() {
 void frmPlaceLista::przelicz() {
     zakladki_->zakoncz();
     const Klepsydra klepsydra;
-    lista_.Przelicz1();
+    if (!lista_.Przelicz1()) return;
     zakladki_->przyjmijSumy();
     zakladki_->Wypisz_daneP();
     pokazNaglowek();
-    if (const auto klucz = biezacy()) oznacz(*klucz, false);
+    wskazPrzelicz(false);
 }
 
 void frmPlaceLista::przepisz() {
     zakladki_->zakoncz();
     const Klepsydra klepsydra;
-    lista_.Przelicz2();
+    if (!lista_.Przelicz2()) return;
     zakladki_->porzucSumy();
     zakladki_->Wypisz_daneP();
-    if (const auto klucz = biezacy()) oznacz(*klucz, true);
+    wskazPrzelicz(true);
 }
 
 void frmPlaceLista::przeliczDni() {
     zakladki_->zakoncz();
-    lista_.Przelicz_Dni();
+    if (!lista_.Przelicz_Dni()) return;
     zakladki_->Wypisz_daneP();
     zakladki_->setCurrentIndex(ZakladkiListy::CzasPracy);
 }
@@ -292,36 +345,50 @@ void frmPlaceLista::przeliczDni() {
 void frmPlaceLista::seria(const QList<Obliczenie>& obliczenia) {
     zakladki_->zakoncz();
     const Klepsydra klepsydra;
-    QList<KluczListy> klucze;
-    for (const LiniaListy& l : linie_) klucze.append(l.klucz);
     zakladki_->porzucSumy();
     for (const Obliczenie obliczenie : obliczenia) {
-        const RaportSerii raport = lista_.PrzeliczSerie(obliczenie, klucze);
-        QSet<qint64> nieudane;
-        for (const RaportSerii::Niepowodzenie& n : raport.niepowodzenia) nieudane.insert(n.numer);
-        const qsizetype ile = raport.wykonane + raport.pominiete + raport.niepowodzenia.size();
-        for (const KluczListy& k : klucze.first(ile)) {
-            if (nieudane.contains(k.prcId)) continue;
-            if (obliczenie == Obliczenie::Przepisanie)
-                doPrzeliczenia_.emplace(k.prcId, k.lista);
-            else if (obliczenie == Obliczenie::Przeliczenie)
-                doPrzeliczenia_.erase({k.prcId, k.lista});
-        }
+        const RaportSerii raport = lista_.PrzeliczSerie(obliczenie, klucze());
         raport.pokaz(o_.rozmowa);
         if (raport.przerwana) break;
     }
-    wypiszBiezacy();
+    poSerii();
+}
+
+void frmPlaceLista::poSerii() {
+    przeliczNastepne_ = false;
+    pokazListe(biezacy());
+}
+
+void frmPlaceLista::caloscNaKonto() {
+    zakladki_->zakoncz();
+    if (!CaloscNaKonto(o_, lista_)) return;
+    zakladki_->Wypisz_daneP();
+    przejrzyjBiezacy();
+}
+
+void frmPlaceLista::caloscNaKontoWszystkich() {
+    zakladki_->zakoncz();
+    const Klepsydra klepsydra;
+    const RaportSerii raport = CaloscNaKontoWszystkich(o_, lista_, klucze());
+    poSerii();
+    raport.pokaz(o_.rozmowa);
+}
+
+QList<KluczListy> frmPlaceLista::klucze() const {
+    QList<KluczListy> wynik;
+    for (const LiniaListy& l : linie_) wynik.append(l.klucz);
+    return wynik;
 }
 
 void frmPlaceLista::done(int wynik) {
     zakladki_->zakoncz();
+    powiedzOUwagach();
     const Klepsydra klepsydra;
     try {
         lista_.ZapiszSumy();
     } catch (const Blad& blad) {
         // Sums that cannot be formed or stored must not keep the clerk on the screen: they are made anew at
         // the next closing.
-        o_.sesja.rsPLACE.CancelBatch();
         o_.rozmowa.komunikat(blad.komunikat(), Styl::Krytyczny);
     }
     o_.sesja.ZamknijMiesiac();

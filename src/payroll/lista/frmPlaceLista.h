@@ -1,13 +1,15 @@
 // The working place of a payroll month: its list, the tabs of the row chosen, and the calculations.
 #pragma once
+#include "okna/ListaModel.h"
+#include "payroll/lista/KontrolaWierszy.h"
 #include "payroll/lista/ListaPlac.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "payroll/nieobecnosci/frmWykazy.h"
 #include "rules/Otoczenie.h"
+#include <map>
 #include <optional>
 #include <QDialog>
 #include <QList>
-#include <set>
 #include <utility>
 
 class QLabel;
@@ -60,22 +62,31 @@ private:
     void przepisz();
     void przeliczDni();
     void seria(const QList<Obliczenie>& obliczenia);
-    void oznacz(const KluczListy& klucz, bool doPrzeliczenia);
+    void poSerii();
+    [[nodiscard]] QList<KluczListy> klucze() const;
+    void caloscNaKonto();
+    void caloscNaKontoWszystkich();
+    /// Looks at all rows of the month, or at the one taken up, and marks in the list what needs attention.
+    void przejrzyjWiersze();
+    void przejrzyjBiezacy();
+    [[nodiscard]] WierszListy wierszListy(qint64 id) const;
+    void wskazPrzelicz(bool tak);
     void pokazOznaczenie();
+    void powiedzOUwagach() const;
     void nastepnePole();
 
-    using Wiersz = std::pair<qint64, QString>;
+    using Klucz = std::pair<qint64, QString>;
 
     Otoczenie& o_;
     WykazyOkien wykazy_{this};
     ListaPlac lista_;
     QList<LiniaListy> linie_;
-    /// Rows that wait for `Przelicz1`: their components were changed here since the last calculation.
-    std::set<Wiersz> doPrzeliczenia_;
+    std::map<Klucz, StanWiersza> doUwagi_; ///< the rows that need attention
+    bool przeliczNastepne_ = false;        ///< the clerk has just done what `Przelicz1` follows
     WidokListy* lvwPlace_;
     ZakladkiListy* zakladki_;
     PasekListy* pasek_;
-    QLabel *labPracownik_, *labKwoty_, *labIleWierszy_;
+    QLabel *labPracownik_, *labKwoty_, *labIleWierszy_, *labUwaga_;
 };
 
 } // namespace tornel::payroll

@@ -33,20 +33,23 @@ PasekListy::PasekListy(QWidget* rodzic) : QWidget(rodzic) {
     cmdDni_ = przycisk(QStringLiteral("Command3"), QStringLiteral("Przelicz dni"));
     cmdPrzelicz_ = przycisk(QStringLiteral("cmdPrzelicz"), QStringLiteral("Prze&licz"), u"przelicz");
     cmdCalaLista_ = przycisk(QStringLiteral("cmdCalaLista"), QStringLiteral("&Cała lista"));
+    cmdKonto_ = przycisk(QStringLiteral("cmdKonto"), QStringLiteral("Całość na &konto"));
+    cmdKonto_->setToolTip(QStringLiteral("Cała kwota do wypłaty idzie przelewem"));
     cmdDrukuj_ = przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj");
     cmdAnuluj_ = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Powrót"), u"powrot");
     cmdPrzepisz_->setToolTip(QStringLiteral("Składniki na nowo z kadr, nadgodziny, L-4 i urlopy (F8)"));
     cmdPrzelicz_->setToolTip(QStringLiteral("Podstawy, składki, podatek i kwota do wypłaty (F9)"));
     cmdDni_->setToolTip(QStringLiteral("Dni miesiąca z kalendarza i rejestrów nieobecności (F7)"));
     // Enter moves on from field to field, so no button may catch it.
-    const QList<QPushButton*> wszystkie{cmdNowy_,     cmdUsun_,      cmdPrzepisz_, cmdDni_,
-                                        cmdPrzelicz_, cmdCalaLista_, cmdDrukuj_,   cmdAnuluj_};
+    const QList<QPushButton*> wszystkie{cmdNowy_,  cmdUsun_,      cmdPrzepisz_, cmdDni_,   cmdPrzelicz_,
+                                        cmdKonto_, cmdCalaLista_, cmdDrukuj_,   cmdAnuluj_};
     for (QPushButton* p : wszystkie) p->setAutoDefault(false);
     connect(cmdNowy_, &QPushButton::clicked, this, &PasekListy::nowy);
     connect(cmdUsun_, &QPushButton::clicked, this, &PasekListy::usun);
     connect(cmdPrzepisz_, &QPushButton::clicked, this, &PasekListy::przepisz);
     connect(cmdDni_, &QPushButton::clicked, this, &PasekListy::przeliczDni);
     connect(cmdPrzelicz_, &QPushButton::clicked, this, &PasekListy::przelicz);
+    connect(cmdKonto_, &QPushButton::clicked, this, &PasekListy::caloscNaKonto);
     connect(cmdAnuluj_, &QPushButton::clicked, this, &PasekListy::powrot);
     // Not the buttons' own shortcuts, which would take the place of their mnemonics.
     connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, cmdDni_, &QPushButton::click);
@@ -73,6 +76,11 @@ void PasekListy::budujMenu() {
     for (const auto& [opis, obliczenia] : serie)
         connect(cala->addAction(opis), &QAction::triggered, this,
                 [this, obliczenia = obliczenia] { emit seria(obliczenia); });
+    cala->addSeparator();
+    QAction* konto = cala->addAction(QStringLiteral("Całość na &konto wszystkich"));
+    konto->setToolTip(QStringLiteral("Tym, którym karta pracownika każe przelewać wypłatę na konto"));
+    connect(konto, &QAction::triggered, this, &PasekListy::caloscNaKontoWszystkich);
+    cala->setToolTipsVisible(true);
     cmdCalaLista_->setMenu(cala);
 
     auto* wydruki = new QMenu(this);
@@ -87,7 +95,7 @@ void PasekListy::budujMenu() {
 
 void PasekListy::ustawDostepnosc(bool zablokowany, bool pusta) {
     cmdNowy_->setEnabled(!zablokowany);
-    for (QPushButton* p : {cmdUsun_, cmdPrzepisz_, cmdDni_, cmdPrzelicz_, cmdCalaLista_})
+    for (QPushButton* p : {cmdUsun_, cmdPrzepisz_, cmdDni_, cmdPrzelicz_, cmdKonto_, cmdCalaLista_})
         p->setEnabled(!zablokowany && !pusta);
     cmdDrukuj_->setEnabled(!pusta);
 }

@@ -28,14 +28,16 @@ signals:
     void przepisz();
     void przeliczDni();
     void przelicz();
+    void caloscNaKonto();
+    void caloscNaKontoWszystkich();
     void seria(const QList<Obliczenie>& obliczenia);
     void powrot();
 
 private:
     void budujMenu();
 
-    QPushButton *cmdNowy_, *cmdUsun_, *cmdPrzepisz_, *cmdDni_, *cmdPrzelicz_, *cmdCalaLista_, *cmdDrukuj_,
-        *cmdAnuluj_;
+    QPushButton *cmdNowy_, *cmdUsun_, *cmdPrzepisz_, *cmdDni_, *cmdPrzelicz_, *cmdCalaLista_, *cmdKonto_,
+        *cmdDrukuj_, *cmdAnuluj_;
 };
 
 } // namespace tornel::payroll

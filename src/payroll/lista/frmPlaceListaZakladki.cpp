@@ -10,8 +10,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
-#include <QPixmap>
 #include <QScrollArea>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -26,19 +24,6 @@ const QString kWyslane = QStringLiteral("txtWyslaneMCS");
 const QString kInneWolne = QStringLiteral("txtInnewolne");
 /// The amounts that the eye looks for first.
 constexpr QStringView kGlowne[] = {u"txtBrutto", u"txtNetto", u"txtPodatek19", u"txtDoWyplaty"};
-
-/// The dot on the tab that waits for the clerk.
-QIcon kropka() {
-    QPixmap obraz(2 * Wyglad::kSiatka, 2 * Wyglad::kSiatka);
-    obraz.fill(Qt::transparent);
-    QPainter malarz(&obraz);
-    malarz.setRenderHint(QPainter::Antialiasing);
-    malarz.setBrush(Wyglad::kDoPrzeliczenia);
-    malarz.setPen(QColor(Qt::darkGray));
-    malarz.drawEllipse(QRectF(obraz.rect()).adjusted(2.5, 2.5, -2.5, -2.5));
-    malarz.end();
-    return QIcon(obraz);
-}
 
 QString bezMnemonika(QString tekst) { return tekst.replace(QLatin1Char('&'), QLatin1String("&&")); }
 
@@ -198,7 +183,9 @@ void ZakladkiListy::opiszStawki() {
     }
 }
 
-void ZakladkiListy::wyroznij(Zakladka zakladka, bool tak) { setTabIcon(zakladka, tak ? kropka() : QIcon()); }
+void ZakladkiListy::wyroznij(Zakladka zakladka, bool tak) {
+    setTabIcon(zakladka, tak ? Wyglad::znakUwagi() : QIcon());
+}
 
 void ZakladkiListy::Wypisz_daneP() {
     wiazanie_.wczytaj();

@@ -2,6 +2,7 @@
 #include "common/Blad.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
+#include "payroll/lista/KontrolaWierszy.h"
 #include "rules/SkladnikiPlac.h"
 #include "store/Sesja.h"
 #include "store/Struktura.h"
@@ -113,11 +114,12 @@ bool Miesiace::Usun_miesiac(RokMies miesiac) {
             if (const QString nazwa = Sesja::nazwaMiesiaca(tabela->nazwa, miesiac);
                 s.cnPlace.jestTabela(nazwa))
                 UsunTabele(s.cnPlace, nazwa);
-        Recordset zasilki(schemat::ZASILEK);
-        zasilki.Open(s.cnPlace, {},
-                     {{schemat::ZASILEK("ROKMIES"), Kryterium::Operator::Rowne, miesiac.klucz()}});
-        while (zasilki.naWierszu()) zasilki.Delete();
-        zasilki.UpdateBatch(transakcja);
+        for (const Kolumna rokMies : {schemat::ZASILEK("ROKMIES"), schemat::WPISANE("ROKMIES")}) {
+            Recordset wiersze(*rokMies.tabela);
+            wiersze.Open(s.cnPlace, {}, {{rokMies, Kryterium::Operator::Rowne, miesiac.klucz()}});
+            while (wiersze.naWierszu()) wiersze.Delete();
+            wiersze.UpdateBatch(transakcja);
+        }
         wymagaj(miesiac);
         s.naglowki.Delete();
         s.naglowki.UpdateBatch(transakcja);
@@ -137,6 +139,12 @@ bool Miesiace::BlokadaMies(RokMies miesiac) {
         if (!o_.rozmowa.pytanie(QStringLiteral("Czy napewno odblokować wybrany miesiąc?"))) return false;
     } else {
         if (!o_.rozmowa.pytanie(QStringLiteral("Czy napewno zablokować wybrany miesiąc?"))) return false;
+        if (const QString uwagi = doUwagi(miesiac);
+            !uwagi.isEmpty() &&
+            !o_.rozmowa.pytanie(
+                QStringLiteral("Lista płac miesiąca %1 wymaga uwagi.\n%2\nCzy mimo to zablokować miesiąc?")
+                    .arg(miesiac.napis(), uwagi)))
+            return false;
         if (o_.rozmowa.pytanie(
                 QStringLiteral("Czy zapisać aktualne dane o składnikach (nazwa składnika, czy brutto, do "
                                "ZUS, do ubezpieczenia "
@@ -148,6 +156,16 @@ bool Miesiace::BlokadaMies(RokMies miesiac) {
                                                    : QStringLiteral("Blokada miesiąca %1"))
                                           .arg(miesiac.napis()));
     return true;
+}
+
+QString Miesiace::doUwagi(RokMies miesiac) const {
+    try {
+        return OpisDoUwagi(PrzejrzyjMiesiac(o_, miesiac));
+    } catch (const BladBazy&) {
+        throw;
+    } catch (const Blad& blad) {
+        return blad.komunikat(); // a damaged month is told as such
+    }
 }
 
 void Miesiace::ZapiszOpis(RokMies miesiac, const QString& opis) {

@@ -45,8 +45,12 @@ public:
     /// Throws `Blad` for an unknown month.
     bool Usun_miesiac(RokMies miesiac);
     /// Blocks an open month (with the question whether to keep today's catalogue in it) or opens a blocked
-    /// one. False on No. Throws `Blad` for an unknown month.
+    /// one. Rows that need attention are told and need a Yes of their own. False on No. Throws `Blad` for an
+    /// unknown month.
     bool BlokadaMies(RokMies miesiac);
+    /// Which rows of the month need attention, or what keeps them from being looked at; empty if all is well.
+    /// Reads `PLACE`, `PLA`, `PLS`.
+    [[nodiscard]] QString doUwagi(RokMies miesiac) const;
     /// Stores the month's note.
     void ZapiszOpis(RokMies miesiac, const QString& opis);
 

@@ -10,6 +10,7 @@
 #include "payroll/lista/frmPlaceLista.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
+#include <algorithm>
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -86,6 +87,7 @@ frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic)
     connect(lvwLista_, &WidokListy::wejscie, this, &frmPlace::WejdzNaListe);
     if (const auto* program = qobject_cast<Aplikacja*>(qApp))
         connect(program, &Aplikacja::danePrzeczytane, this, &frmPlace::pokazPonownie);
+    connect(&przeglad_, &QTimer::timeout, this, &frmPlace::przejrzyjNastepny);
     Wczytaj_liste();
     lvwLista_->setFocus();
 }
@@ -122,13 +124,29 @@ QWidget* frmPlace::ramki() {
 
 void frmPlace::Wczytaj_liste(std::optional<RokMies> zaznacz) {
     QList<WierszListy> wiersze;
-    for (const WierszMiesiaca& w : miesiace_.Wczytaj_liste())
-        wiersze.append({w.miesiac.id(), tekstyWiersza(w)});
+    wiersze_ = miesiace_.Wczytaj_liste();
+    for (const WierszMiesiaca& w : wiersze_) wiersze.append({w.miesiac.id(), tekstyWiersza(w)});
     if (!zaznacz && !wiersze.isEmpty()) zaznacz = RokMies::zId(wiersze.last().id);
     biezacy_.reset();
     const bool pusta = wiersze.isEmpty();
+    QList<RokMies> miesiace;
+    for (const WierszListy& w : wiersze) miesiace.append(RokMies::zId(w.id));
     lvwLista_->ustaw(std::move(wiersze), zaznacz ? zaznacz->id() : -1);
     if (pusta) Wypisz_dane({});
+    przejrzyj(miesiace);
+}
+
+void frmPlace::przejrzyj(QList<RokMies> miesiace) {
+    doPrzejrzenia_ = std::move(miesiace);
+    przeglad_.start();
+}
+
+void frmPlace::przejrzyjNastepny() {
+    if (doPrzejrzenia_.isEmpty()) return przeglad_.stop();
+    const RokMies miesiac = doPrzejrzenia_.takeLast();
+    const auto wiersz = std::ranges::find(wiersze_, miesiac, &WierszMiesiaca::miesiac);
+    if (wiersz == wiersze_.end()) return;
+    lvwLista_->lista().zmien(miesiac.id(), tekstyWiersza(*wiersz), miesiace_.doUwagi(miesiac), Waga::Wazna);
 }
 
 void frmPlace::Wypisz_dane(std::optional<RokMies> miesiac) {
@@ -190,8 +208,10 @@ void frmPlace::WejdzNaListe() {
             o_.rozmowa.wprowadz(QStringLiteral("Podaj symbol listy.\n(Cancel - wszystkie)"), windowTitle());
         if (podany && !podany->isEmpty()) symbol = podany->left(1);
     }
+    przeglad_.stop(); // what the clerk waits for goes first
     frmPlaceLista(o_, *biezacy_, symbol, this).exec();
     Wypisz_dane(biezacy_);
+    przejrzyj(doPrzejrzenia_ + QList{*biezacy_});
 }
 
 void frmPlace::done(int wynik) {

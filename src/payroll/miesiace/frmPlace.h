@@ -5,6 +5,8 @@
 #include "rules/Otoczenie.h"
 #include <optional>
 #include <QDialog>
+#include <QList>
+#include <QTimer>
 
 class QPushButton;
 
@@ -32,6 +34,10 @@ private:
     void Wczytaj_liste(std::optional<RokMies> zaznacz = {});
     void Wypisz_dane(std::optional<RokMies> miesiac);
     void zapiszOpis();
+    /// Looks at the rows of the months, one month at a time while nothing else is to be done, and marks those
+    /// with rows that need attention.
+    void przejrzyj(QList<RokMies> miesiace);
+    void przejrzyjNastepny();
     void pokazPonownie();
     void nowy();
     void usun();
@@ -43,6 +49,9 @@ private:
     ZrodloWierszy zrodlo_;
     Wiazanie wiazanie_;
     std::optional<RokMies> biezacy_;
+    QList<WierszMiesiaca> wiersze_;
+    QList<RokMies> doPrzejrzenia_; ///< the last one comes first
+    QTimer przeglad_;
     WidokListy* lvwLista_;
     QPushButton *cmdNowy_, *cmdUsun_, *cmdBlokada_, *cmdWejdz_, *cmdAnuluj_;
 };

@@ -1,8 +1,6 @@
 #include "payroll/nadgodziny/PrzenoszenieNadgodzin.h"
 #include "common/Daty.h"
-#include "payroll/lista/Warsztat.h"
 #include "payroll/miesiace/Miesiace.h"
-#include "payroll/nadgodziny/KolumnyNadgodzin.h"
 #include "rules/Stale.h"
 #include "store/SchematPlac.h"
 #include "store/Sesja.h"
@@ -12,16 +10,16 @@ namespace tornel::payroll {
 using schemat::NADG;
 using schemat::NADGN;
 
-PrzenoszenieNadgodzin::PrzenoszenieNadgodzin(Warsztat& warsztat) : w_(warsztat) {}
-PrzenoszenieNadgodzin::~PrzenoszenieNadgodzin() = default;
+NadgodzinyMiesiaca::NadgodzinyMiesiaca(Sesja& sesja) : sesja_(sesja) {}
+NadgodzinyMiesiaca::~NadgodzinyMiesiaca() = default;
 
-void PrzenoszenieNadgodzin::zapomnij() {
+void NadgodzinyMiesiaca::zapomnij() {
     sprawdzone_ = false;
     lista_.reset();
 }
 
-std::optional<PrzenoszenieNadgodzin::Kwoty> PrzenoszenieNadgodzin::kwoty(qint64 prcId) {
-    Sesja& s = w_.o.sesja;
+std::optional<WgGrup<Waluta>> NadgodzinyMiesiaca::pracownika(qint64 prcId) {
+    Sesja& s = sesja_;
     if (!sprawdzone_) {
         PrzygotowaneZapytanie naglowek(s.cnPlace, Zapytanie(NADG)
                                                       .gdzie(NADG("Rok") == FormatRoku(s.rok()) &&
@@ -37,39 +35,31 @@ std::optional<PrzenoszenieNadgodzin::Kwoty> PrzenoszenieNadgodzin::kwoty(qint64 
         sprawdzone_ = true;
     }
     if (!lista_) return std::nullopt;
-    Kwoty wynik;
+    WgGrup<Waluta> wynik;
     auto wiersz = lista_->uruchom(prcId);
     const bool jest = wiersz.nastepny();
     for (int g = 1; jest && g <= kGrupNadgodzin; ++g)
         wynik[static_cast<std::size_t>(g - 1)] = wiersz.kwota(KwotaOsoby(g));
-    return jest && wynik != Kwoty{} ? std::optional(wynik) : std::nullopt;
+    return jest && wynik != WgGrup<Waluta>{} ? std::optional(wynik) : std::nullopt;
 }
 
-QList<int> PrzenoszenieNadgodzin::PrzeniesNadgodziny(Tryb tryb) {
-    Otoczenie& o = w_.o;
-    const std::optional<Kwoty> nadgodziny = kwoty(o.sesja.rsPLA.liczba(schemat::PLA("PRC_ID")));
-    QList<int> zmienione;
-    if (!nadgodziny || !w_.odpowiedzi.przenosicNadgodziny.pytaj(
-                           o.rozmowa, tryb, QStringLiteral("Czy przenosić kwoty z nadgodzin na listę płac ?"),
-                           QStringLiteral("Czy przenieść kwoty z nadgodzin na listę płac ?")))
-        return zmienione;
-    for (std::size_t g = 0; g < nadgodziny->size(); ++g) {
-        const int nr = o.stale.NrNGS[g];
-        const Waluta kwota = (*nadgodziny)[g];
-        if (nr == 0 || kwota.zero()) continue;
+ZNadgodzinami PrzeniesNadgodziny(const MiesiacPlac& miesiac, const SkladnikiWiersza& skladniki,
+                                 const WgGrup<Waluta>& kwoty) {
+    ZNadgodzinami wynik{skladniki, {}, {}};
+    for (std::size_t g = 0; g < kwoty.size(); ++g) {
+        const int nr = miesiac.stale.NrNGS[g];
+        if (nr == 0 || kwoty[g].zero()) continue;
         // A component out of use is refilled by nobody, so each run would add to it again.
-        if (!w_.aktywny(nr)) {
-            w_.uwaga(tryb,
-                     QStringLiteral(
-                         "Składnik nr %1 odpowiadający nadgodzinom jest nieaktywny. Kwota za nadgodziny "
-                         "nie została zapisana.")
-                         .arg(nr));
+        if (!miesiac.aktywny(nr)) {
+            wynik.uwagi.append({QStringLiteral("Składnik nr %1 odpowiadający nadgodzinom jest nieaktywny. "
+                                               "Kwota za nadgodziny nie została zapisana.")
+                                    .arg(nr)});
             continue;
         }
-        o.sesja.rsPLS.ustaw(schemat::SP(nr), o.sesja.rsPLS.kwota(schemat::SP(nr)) + kwota);
-        zmienione.append(nr);
+        wynik.skladniki.sp(nr) += kwoty[g];
+        wynik.zmienione.append(nr);
     }
-    return zmienione;
+    return wynik;
 }
 
 } // namespace tornel::payroll

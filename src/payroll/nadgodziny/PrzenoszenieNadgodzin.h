@@ -1,37 +1,45 @@
 // The way of the month's overtime from its own lists to the payroll row.
 #pragma once
-#include "common/Rozmowa.h"
-#include "common/Waluta.h"
+#include "payroll/lista/MiesiacPlac.h"
+#include "payroll/lista/Uwagi.h"
+#include "payroll/lista/WierszPlac.h"
 #include "payroll/nadgodziny/KolumnyNadgodzin.h"
 #include "store/Zapytanie.h"
 #include <optional>
-#include <QList>
+
+namespace tornel::store {
+class Sesja;
+} // namespace tornel::store
 
 namespace tornel::payroll {
 
-struct Warsztat;
-
-class PrzenoszenieNadgodzin {
+/// The month's overtime by employee.
+class NadgodzinyMiesiaca {
 public:
-    explicit PrzenoszenieNadgodzin(Warsztat& warsztat);
-    ~PrzenoszenieNadgodzin();
+    /// For the month open in `sesja`. Its list is looked up when it is first asked for.
+    explicit NadgodzinyMiesiaca(Sesja& sesja);
+    ~NadgodzinyMiesiaca();
 
     /// Forgets which overtime list is open.
     void zapomnij();
-
-    /// Adds the employee's seven amounts to the components of constant 252 on the row where the month's
-    /// handles stand, in memory, and gives the numbers of those components: their periods are due. Nothing,
-    /// without a question, when he has no overtime in the month. Reads `NADG`, `NADGN` of the month; changes
-    /// `PLS`. Throws `Blad` when the month's overtime table is missing.
-    [[nodiscard]] QList<int> PrzeniesNadgodziny(Tryb tryb);
+    /// The employee's seven amounts, zł; nothing when he has no overtime in the month. Reads `NADG`, `NADGN`
+    /// of the month. Throws `Blad` when the month's overtime table is missing.
+    [[nodiscard]] std::optional<WgGrup<Waluta>> pracownika(qint64 prcId);
 
 private:
-    using Kwoty = WgGrup<Waluta>;
-    [[nodiscard]] std::optional<Kwoty> kwoty(qint64 prcId);
-
-    Warsztat& w_;
+    Sesja& sesja_;
     bool sprawdzone_ = false;
     std::optional<PrzygotowaneZapytanie> lista_; // none when the month has no overtime list
 };
+
+struct ZNadgodzinami {
+    SkladnikiWiersza skladniki;
+    QList<int> zmienione; ///< components that took an amount; their periods are due
+    ListaUwag uwagi;
+};
+
+/// Adds the amounts to the components of constant 252.
+[[nodiscard]] ZNadgodzinami PrzeniesNadgodziny(const MiesiacPlac& miesiac, const SkladnikiWiersza& skladniki,
+                                               const WgGrup<Waluta>& kwoty);
 
 } // namespace tornel::payroll

@@ -156,6 +156,7 @@ TEST_F(ListaPlacOknaTest, PrzepelnienieCofaCzynnoscIPozwalaPracowacDalej) {
 TEST_F(ListaPlacOknaTest, ZablokowanyMiesiacTylkoDoOgladania) {
     lista(2);
     blokada(kLipiec, Odpowiedz::Tak);
+    sesja().cnPlace.wykonaj("UPDATE PLACE SET il_wyplat=0, sum_brutto=0"); // not even to put it right
     otworzPonownie();
     skladnik(5, "   ", true); // the catalogue goes on, the month keeps its names and flags
     ASSERT_TRUE(sesja().rsSZ_PL.Znajdz(1));
@@ -220,7 +221,7 @@ TEST_F(ListaPlacOknaTest, WieluPracownikowNaraz) {
 
     zmienPracownika(3, "placa_zas=1000");
     auto& cala = *widzet<QPushButton>(okno, u"cmdCalaLista"_s).menu();
-    cala.actions().last()->trigger();
+    cala.actions().at(3)->trigger();
     oczekujWPliku({1, u" "_s}, "BRUTTO=1650 KUP=1");
     oczekujWPliku({3, u" "_s}, "BRUTTO=1000");
     EXPECT_EQ(tekst(okno, u"txtBrutto"_s), u"1650,00"_s) << "the row shown is still the one selected";
@@ -275,6 +276,67 @@ TEST_F(ListaPlacOknaTest, PrzelewINieprawdziweDniPytaja) {
     zmien(zMcs, u"txtPaczkaMCS"_s, u"12"_s);
     zmien(zMcs, u"txtWyslaneMCS"_s, u"t"_s);
     oczekujWPliku({1, u" "_s}, "PACZKA=12 WYS_MCS=T");
+}
+
+TEST_F(ListaPlacOknaTest, WierszeDoUwagiSaOznaczoneIPowiedziane) {
+    lista(2);
+    zmienPracownika(2, "czy_konto=T");
+    const QString niePoliczony =
+        u"Wiersz nie jest policzony: brutto, dodatki lub potrącenia nie wynikają z jego "
+        u"składników."_s;
+    const auto uwaga = [](const QWidget& okno, const QString& nazwa, int wiersz) {
+        const QModelIndex indeks = widzet<WidokListy>(okno, nazwa).model()->index(wiersz, 0);
+        const QString opis = indeks.data(Qt::ToolTipRole).toString();
+        EXPECT_EQ(opis.isEmpty(), indeks.data(Qt::DecorationRole).value<QIcon>().isNull());
+        return opis;
+    };
+    const auto naWierszu = [](const QWidget& okno) {
+        const auto& napis = widzet<QLabel>(okno, u"labUwaga"_s);
+        return napis.isVisible() ? napis.text() : QString();
+    };
+    {
+        frmPlaceLista okno(otoczenie(), kLipiec, u" "_s);
+        pokaz(okno);
+        EXPECT_EQ(naWierszu(okno), QString());
+        zmien(okno, u"txtPlus(5)"_s, u"100"_s);
+        EXPECT_EQ(naWierszu(okno), niePoliczony);
+        EXPECT_EQ(uwaga(okno, u"lvwPlace"_s, 0), niePoliczony);
+        wybierz(okno, 1);
+        EXPECT_EQ(naWierszu(okno) + uwaga(okno, u"lvwPlace"_s, 1), QString());
+        EXPECT_FALSE(widzet(okno, u"cmdPrzelicz"_s).property("doPrzeliczenia").toBool());
+
+        // More by transfer than to be paid, after the amount to pay has fallen.
+        QTest::keyClick(&okno, Qt::Key_K, Qt::AltModifier);
+        QTRY_COMPARE(tekst(okno, u"txtPrzelewem"_s), tekst(okno, u"txtDoWyplaty"_s));
+        zmien(okno, u"txtUlgaPod"_s, u"0"_s);
+        EXPECT_EQ(naWierszu(okno), u"Kwota przelewu jest większa od kwoty do wypłaty."_s);
+        rozmowa_.spodziewaj(u"Ta lista płac wymaga uwagi.\nWiersze niepoliczone: 1 (nr 001)\n"
+                            u"Przelew większy od kwoty do wypłaty: 1 (nr 002)"_s,
+                            Styl::Wykrzyknik);
+        okno.close();
+        EXPECT_FALSE(okno.isVisible());
+    }
+    // Another sitting sees the same, the list of months too.
+    frmPlace place(otoczenie());
+    pokaz(place);
+    QTRY_COMPARE(uwaga(place, u"lvwLista"_s, 0),
+                 u"Wiersze niepoliczone: 1 (nr 001)\nPrzelew większy od kwoty do wypłaty: 1 (nr 002)"_s);
+    frmPlaceLista okno(otoczenie(), kLipiec, u" "_s);
+    pokaz(okno);
+    EXPECT_EQ(uwaga(okno, u"lvwPlace"_s, 0), niePoliczony);
+    EXPECT_TRUE(widzet(okno, u"cmdPrzelicz"_s).property("doPrzeliczenia").toBool());
+    klik(okno, u"cmdPrzelicz"_s);
+    EXPECT_EQ(naWierszu(okno) + uwaga(okno, u"lvwPlace"_s, 0), QString());
+    // Only those whose pay goes to an account.
+    widzet<QPushButton>(okno, u"cmdCalaLista"_s).menu()->actions().last()->trigger();
+    EXPECT_EQ(uwaga(okno, u"lvwPlace"_s, 1), QString());
+    oczekujWPliku({1, u" "_s}, "PRZELEWEM=0");
+    // What was typed is not refilled unasked.
+    rozmowa_.spodziewaj(u"Kwoty składników wpisane ręcznie zostaną zastąpione. Czy przepisać ?"_s,
+                        Odpowiedz::Nie);
+    klik(okno, u"Command1"_s);
+    EXPECT_EQ(tekst(okno, u"txtPlus(5)"_s), u"100,00"_s);
+    EXPECT_FALSE(widzet(okno, u"cmdPrzelicz"_s).property("doPrzeliczenia").toBool());
 }
 
 TEST_F(ListaPlacOknaTest, KlawiszeINiedokonczonyWpis) {

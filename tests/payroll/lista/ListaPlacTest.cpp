@@ -129,8 +129,10 @@ TEST_F(ListaPlacTest, NobodyStandsTwiceOnOneList) {
     EXPECT_EQ(raport.pominiete, 2);
     EXPECT_EQ(raport.tekst(), u"Pracownik nr 99: Nie ma pracownika o numerze 99 w kadrach."_s);
     EXPECT_THROW(l->Nowy_prac(99), Blad);
+    rozmowa_.spodziewaj(pytania::naInnejLiscie, Styl::Wykrzyknik);
     dopisz(*lista(u"A"_s), 1);
-    EXPECT_EQ(wierszeWPliku(), "1 ,1A,2 ");
+    EXPECT_EQ(lista(u"B"_s)->DodajPracownikow({2}).tekst(), pytania::naInnejLiscie + u" (pracownik nr 2)"_s);
+    EXPECT_EQ(wierszeWPliku(), "1 ,1A,2 ,2B");
     oczekujCzystych();
 }
 
@@ -143,7 +145,9 @@ TEST_F(ListaPlacTest, Przelicz2RefillsTheComponentsAndLeavesTheRest) {
     l->WpiszSK();
     oczekujWPliku(klucz(1), "SP_1=1 SP_3=333");
     zmienPracownika(1, "placa_zas=2000 DOD_5=0 Kup=200");
-    l->Przelicz2();
+    rozmowa_.spodziewaj(u"Kwoty składników wpisane ręcznie zostaną zastąpione. Czy przepisać ?"_s,
+                        Odpowiedz::Tak);
+    EXPECT_TRUE(l->Przelicz2());
     oczekujWPliku(klucz(1), "SP_1=2000 SP_3=333 SP_5=0 SOD_5=null SM_9=10 BRUTTO=1040 KUP=7");
     skladnik(5, "BZU", false); // out of use since
     zmienPracownika(1, "DOD_5=77 placa_zas=3000");
@@ -391,6 +395,8 @@ TEST_F(ListaPlacTest, ABlockedMonthIsReadAndNeverWritten) {
     pracownik(2, "placa_zas=1000");
     (void)lista()->DodajPracownikow({1});
     blokada(kLipiec, Odpowiedz::Nie);
+    sesja().cnPlace.wykonaj("UPDATE PLACE SET il_wyplat=0, sum_brutto=0"); // not even to put it right
+    sesja().rsPLACE.Requery();
     skladnik(5, "BZU", false); // since then out of use,
     skladnik(10, "   ", true); // without flags,
     skladnik(3, "BZU", true);  // and put to use
@@ -417,8 +423,9 @@ TEST_F(ListaPlacTest, ABlockedMonthIsReadAndNeverWritten) {
         [&] { l->WpiszDni(); },
     };
     for (const auto& zmiana : zmiany) EXPECT_THROW(zmiana(), Blad);
+    sesja().cnPlace.wykonaj("UPDATE PLACE SET sum_brutto = 50000");
     l->ZapiszSumy();
-    oczekujSum(kLipiec, "il_wyplat=0 sum_brutto=0");
+    oczekujSum(kLipiec, "il_wyplat=1 sum_brutto=5");
     EXPECT_EQ(wierszeWPliku(), "1 ");
 }
 

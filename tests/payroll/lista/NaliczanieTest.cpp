@@ -1,5 +1,6 @@
 #include "payroll/lista/Naliczanie.h"
-#include "payroll/lista/OdpowiedziSerii.h"
+#include "payroll/lista/KolumnyWiersza.h"
+#include "payroll/lista/ZrodlaPlac.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
 
@@ -13,7 +14,6 @@ namespace {
 const QString kPytaniePPE =
     u"Kwota odpisu w ramach PPE jest większa od średniej. Czy zwiększyć podstawę do ZUS "
     "o różnicę między kwotą odpisu a średnią ?"_s;
-const QString kZasilekSerii = u"Czy pomniejszać kwotę do wypłaty pracownikom o zasiłek chorobowy ?"_s;
 const QString kZasilek = u"Czy pomniejszyć kwotę do wypłaty pracownika o zasiłek chorobowy ?"_s;
 
 QString grupa(int nr) {
@@ -43,10 +43,40 @@ protected:
             pozycje_.ujemne[static_cast<std::size_t>(i - 1)] = pozycja(otoczenie().skladniki.ujemny(i));
     }
     static PozycjaSkladnika pozycja(const Skladnik& s) { return {s.akt, s.akt, s.brutto, s.zus, s.ubzdr}; }
-    Naliczanie naliczanie() { return {otoczenie(), pozycje_, odpowiedzi_}; }
+    MiesiacPlac m() { return {kLipiec, stale(), pozycje_}; }
+    BruttoRoku bruttoRoku(Zakres zakres) {
+        return ZrodlaPlac(otoczenie(), nullptr).OdczytajStareBrutto(WczytajPracownika(sesja()), zakres);
+    }
+    void przepisz() {
+        policz([this](RachunekWiersza& r) {
+            ZrodlaPlac zrodla(otoczenie(), nullptr);
+            LiczSkladniki({m(), zrodla, {}, Zakres::Wiersz}, WczytajPracownika(sesja()), r);
+        });
+    }
+    /// The row on which the handles stand through the steps of the chain, with its questions and warnings.
+    SumyWiersza przelicz(Zakres zakres, Kroki kroki = kPrzelicz1) {
+        return policz([&](RachunekWiersza& r) {
+            ZrodlaPlac zrodla(otoczenie(), nullptr);
+            const ZbiorPytan moga = PytaniaPlacy(r.wiersz, ZasilekChorobowy(m(), r.wiersz, {}));
+            const auto odpowiedzi = Zapytaj(rozmowa_, u"Płaca"_s, moga, zakres);
+            LiczPlace({m(), zrodla, odpowiedzi.value(), zakres}, WczytajPracownika(sesja()), kroki, r);
+            for (const Uwaga& uwaga : r.uwagi)
+                if (uwaga.dotyczy(zakres)) rozmowa_.komunikat(uwaga.tekst, Styl::Wykrzyknik);
+        });
+    }
 
+    /// Bases, tax and pay over the contributions, the income and the credit that stand on the row.
+    static constexpr Kroki kOdPodatku{};
     Pozycje pozycje_;
-    OdpowiedziSerii odpowiedzi_;
+
+private:
+    SumyWiersza policz(const std::function<void(RachunekWiersza&)>& obliczenie) {
+        const WierszPlac przedtem = WczytajWiersz(sesja());
+        RachunekWiersza r{przedtem};
+        obliczenie(r);
+        ZapiszZmiany(sesja(), przedtem, r.wiersz);
+        return r.sumy;
+    }
 };
 
 TEST_F(NaliczanieTest, ComponentsComeFromThePersonnelFile) {
@@ -54,14 +84,14 @@ TEST_F(NaliczanieTest, ComponentsComeFromThePersonnelFile) {
                        "POT_2=22 POT_15=0,0001");
     ustaw("SP_3=333 SP_5=555 SOD_5=2001-07-02 SP_24=24 SM_2=222");
     pozycje_.dodatnie[23].aktKatalogu = false; // component 24 has only one of the two marks
-    naliczanie().Przelicz2(Tryb::Pojedynczy);
+    przepisz();
     // 1001,05 * 7,25% = 72,576125: a percentage bonus keeps four places.
     oczekuj(
         "SP_1=1001,05 SP_2=72,5761 SP_3=333 SP_5=0 SOD_5=null SDO_5=null SP_24=24 SP_30=-30,5 SOD_30=null "
         "SDO_1=2001-07-31 SOD_3=null SM_1=11 SM_2=222 SM_15=0,0001");
     stale().PlZas = 0;
     stale().PremPr = 30;
-    naliczanie().Przelicz2(Tryb::Seria);
+    przepisz();
     oczekuj("SP_1=5 SP_2=0 SP_30=72,5761");
 }
 
@@ -73,7 +103,7 @@ TEST_F(NaliczanieTest, PeriodsBeginWithTheMonthOrTheContract) {
     for (const auto& [umowaOd, poczatek] : przypadki) {
         SCOPED_TRACE(umowaOd);
         zmienPracownika(1, "placa_zas=100 umowa_od=" + umowaOd);
-        naliczanie().Przelicz2(Tryb::Seria);
+        przepisz();
         oczekuj("SDO_1=2001-07-31 SOD_1=" + poczatek);
     }
 }
@@ -94,7 +124,6 @@ TEST_F(NaliczanieTest, FlagsDecideWhichBasesAComponentEnters) {
         {" ZU", zero, v, zero, v, u, v, r}, // not multiplied
         {"BZU", v, zero, u, v, u, v, r},
     };
-    Naliczanie n = naliczanie();
     for (const auto& p : przypadki) {
         for (const bool dodatni : {true, false}) {
             SCOPED_TRACE(std::string(p.flagi) + (dodatni ? " additive" : " deductive"));
@@ -102,59 +131,55 @@ TEST_F(NaliczanieTest, FlagsDecideWhichBasesAComponentEnters) {
             (dodatni ? pozycje_.dodatnie[29] : pozycje_.ujemne[14]) = {true, true, p.flagi[0] == 'B',
                                                                        p.flagi[1] == 'Z', p.flagi[2] == 'U'};
             ustaw(dodatni ? "WSK_UBR=150 SP_30=33,35 SM_15=7" : "WSK_UBR=150 SP_30=7 SM_15=33,35");
-            n.WyliczPodstawy(Tryb::Pojedynczy);
+            const Podstawy wynik = WyliczPodstawy(m(), WczytajWiersz(sesja()), {});
             const auto znak = [&](Waluta w) { return dodatni ? w : -w; };
-            EXPECT_EQ(n.sumy().SumaBrutto, znak(p.brutto));
-            EXPECT_EQ(n.sumy().SumaInne, znak(p.inne));
-            EXPECT_EQ(n.sumy().SumaBruttoUbr, znak(p.bruttoUbr));
-            EXPECT_EQ(n.sumy().PodstawaZUS, znak(p.zus));
-            EXPECT_EQ(n.sumy().PodstawaZUSUbr, znak(p.zusUbr));
-            EXPECT_EQ(n.sumy().PodstawaUbzdr, znak(p.ubzdr));
-            EXPECT_EQ(n.sumy().RoznicaUbr, znak(p.roznica));
-            EXPECT_EQ(sesja().rsPLA.kwota(PLA("BRUTTO")), znak(p.brutto));
-            EXPECT_EQ(sesja().rsPLA.kwota(PLA("DODATKI")), dodatni ? p.inne : zero);
-            EXPECT_EQ(sesja().rsPLA.kwota(PLA("POTRACENIA")), dodatni ? zero : p.inne);
-            EXPECT_EQ(sesja().rsPLB.kwota(schemat::PLB("UBRUTTOW")), znak(p.roznica));
+            EXPECT_EQ(wynik.sumy.SumaBrutto, znak(p.brutto));
+            EXPECT_EQ(wynik.sumy.SumaInne, znak(p.inne));
+            EXPECT_EQ(wynik.sumy.SumaBruttoUbr, znak(p.bruttoUbr));
+            EXPECT_EQ(wynik.sumy.PodstawaZUS, znak(p.zus));
+            EXPECT_EQ(wynik.sumy.PodstawaZUSUbr, znak(p.zusUbr));
+            EXPECT_EQ(wynik.sumy.PodstawaUbzdr, znak(p.ubzdr));
+            EXPECT_EQ(wynik.sumy.RoznicaUbr, znak(p.roznica));
+            EXPECT_EQ(wynik.Brutto, znak(p.brutto));
+            EXPECT_EQ(wynik.Dodatki, dodatni ? p.inne : zero);
+            EXPECT_EQ(wynik.Potracenia, dodatni ? zero : p.inne);
         }
     }
     pozycje_.dodatnie[29] = {.aktKatalogu = true};
     pozycje_.ujemne[14] = {.aktMiesiaca = true};
-    n.WyliczPodstawy(Tryb::Pojedynczy);
-    EXPECT_EQ(n.sumy().SumaInne, zero) << "a position counts only with both marks";
+    EXPECT_EQ(WyliczPodstawy(m(), WczytajWiersz(sesja()), {}).sumy.SumaInne, zero)
+        << "a position counts only with both marks";
 }
 
 TEST_F(NaliczanieTest, GrossIsRoundedToGroszeAndTheBasesAreNot) {
     ustaw("SP_1=1000 SP_2=72,5650");
-    Naliczanie n = naliczanie();
-    n.WyliczPodstawy(Tryb::Seria);
+    EXPECT_EQ(przelicz(Zakres::Seria).PodstawaZUS, zl(1072.565));
     oczekuj("BRUTTO=1072,56");
-    EXPECT_EQ(n.sumy().PodstawaZUS, zl(1072.565));
 }
 
 TEST_F(NaliczanieTest, ThePensionPlanMovesTheBases) {
     using enum Odpowiedz;
     const struct {
-        Tryb tryb;
+        Zakres zakres;
         std::optional<Odpowiedz> odpowiedz;
         std::string przed, po;
         double podstawa;
     } przypadki[] = {
-        {Tryb::Pojedynczy, Tak, "PPE=50 ZUS_PPE=20", "PPE=50 ZUS_PPE=50", 1000},
-        {Tryb::Pojedynczy, Nie, "PPE=50 ZUS_PPE=20", "PPE=50 ZUS_PPE=20", 970},
-        {Tryb::Seria, {}, "PPE=50 ZUS_PPE=20", "PPE=50 ZUS_PPE=50", 1000}, // without a word
-        {Tryb::Pojedynczy, {}, "PPE=20 ZUS_PPE=20", "PPE=20 ZUS_PPE=20", 1000},
-        {Tryb::Pojedynczy, {}, "PPE=10 ZUS_PPE=25", "PPE=10 ZUS_PPE=25", 1015},
+        {Zakres::Wiersz, Tak, "PPE=50 ZUS_PPE=20", "PPE=50 ZUS_PPE=50", 1000},
+        {Zakres::Wiersz, Nie, "PPE=50 ZUS_PPE=20", "PPE=50 ZUS_PPE=20", 970},
+        {Zakres::Seria, {}, "PPE=50 ZUS_PPE=20", "PPE=50 ZUS_PPE=50", 1000}, // without a word
+        {Zakres::Wiersz, {}, "PPE=20 ZUS_PPE=20", "PPE=20 ZUS_PPE=20", 1000},
+        {Zakres::Wiersz, {}, "PPE=10 ZUS_PPE=25", "PPE=10 ZUS_PPE=25", 1015},
     };
-    Naliczanie n = naliczanie();
     for (const auto& p : przypadki) {
         SCOPED_TRACE(p.przed);
         ustaw("SP_1=1000 " + p.przed);
         if (p.odpowiedz) rozmowa_.spodziewaj(kPytaniePPE, *p.odpowiedz);
-        n.WyliczPodstawy(p.tryb);
+        const SumyWiersza sumy = przelicz(p.zakres);
         EXPECT_TRUE(rozmowa_.gotowa());
         oczekuj("BRUTTO=1000 " + p.po);
-        EXPECT_EQ(n.sumy().PodstawaZUS, zl(p.podstawa));
-        EXPECT_EQ(n.sumy().PodstawaUbzdr, zl(p.podstawa));
+        EXPECT_EQ(sumy.PodstawaZUS, zl(p.podstawa));
+        EXPECT_EQ(sumy.PodstawaUbzdr, zl(p.podstawa));
     }
 }
 
@@ -199,7 +224,7 @@ TEST_F(NaliczanieTest, WholeRowsFromGrossToPay) {
         ustaw("SP_1=0 SP_2=0 SP_10=0 SP_12=0 SP_16=0 SP_24=0 SM_1=0 SM_9=0 DNI_L4_ZUS=0 WSK_UBR=100 " +
               p.wiersz);
         if (p.kadry.ends_with("gr_pod=2")) rozmowa_.spodziewaj(kZasilek, Odpowiedz::Tak);
-        naliczanie().Przelicz1(Tryb::Pojedynczy);
+        przelicz(Zakres::Wiersz);
         oczekuj(p.wynik);
     }
 }
@@ -212,7 +237,7 @@ TEST_F(NaliczanieTest, EmployersRatesComeFromTheConstantsAndTheOthersFromTheRow)
     stale().RKwPZ = zl(100);
     zmienPracownika(1, "wsk_fe=1 Fp=1 czy_ulga=T czy_2progi=T");
     ustaw("SP_1=1000 WSK_FEPRD=1 WSK_FEPRC=4 WSK_FRPRC=3 WSK_FCPRC=0 ST_SKL_FP=2,5 ST_SKLFGSP=0,15");
-    naliczanie().Przelicz1(Tryb::Seria);
+    przelicz(Zakres::Seria);
     oczekuj("WSK_FEPRD=9,76 WSK_FRPRD=6,5 WSK_FWPRD=1,62 FEPRD=97,6 FRPRD=65 FWPRD=16,2 FEPRC=40 FRPRC=30 "
             "FCPRC=0 SKL_FP=25 SKL_FGSP=1,5");
     oczekuj("PPD=8,3333"); // a twelfth of 100 at four places, not doubled
@@ -240,14 +265,14 @@ TEST_F(NaliczanieTest, TheYearsGrossDecidesTheTaxGroup) {
     for (const auto& p : przypadki) {
         SCOPED_TRACE(p.kadry);
         zmienPracownika(1, p.kadry);
-        for (const Tryb tryb : {Tryb::Pojedynczy, Tryb::Seria}) {
+        for (const Zakres zakres : {Zakres::Wiersz, Zakres::Seria}) {
             // Gross is compared with the limits; the income that is taxed lies far below them.
-            ustaw("BRUTTO=1000 NETTO=100");
-            if (p.ostrzezenie && tryb == Tryb::Pojedynczy) {
+            ustaw("SP_12=1000 NETTO=100");
+            if (p.ostrzezenie && zakres == Zakres::Wiersz) {
                 rozmowa_.spodziewaj(grupa(p.ostrzezenie), Styl::Wykrzyknik);
                 rozmowa_.spodziewaj(umowy(p.ostrzezenie), Styl::Wykrzyknik);
             }
-            naliczanie().WyliczPodatek(tryb);
+            przelicz(zakres, kOdPodatku);
             EXPECT_TRUE(rozmowa_.gotowa());
             const std::string stawka = std::to_string(p.stawka);
             oczekuj("ST_PD=" + stawka + " POD_DOCH=" + stawka);
@@ -277,18 +302,17 @@ TEST_F(NaliczanieTest, EarlierMonthsCountWithAllTheirLists) {
     }
     zmienPracownika(1, "doch_start=25000");
     ASSERT_TRUE(sesja().ZnajdzMiesiac(2001, 8));
-    EXPECT_EQ(naliczanie().OdczytajStareBrutto(Tryb::Seria).stare, zl(29200.01));
+    EXPECT_EQ(bruttoRoku(Zakres::Seria).stare, zl(29200.01));
     EXPECT_EQ(sesja().rsPLACE.tekst(schemat::PLACE("Mies")), u"08"_s) << "the position is kept";
-    for (const auto& [brutto, stawka] :
-         {std::pair("BRUTTO=423,99", "ST_PD=19"), {"BRUTTO=424", "ST_PD=30"}}) {
+    for (const auto& [brutto, stawka] : {std::pair("SP_12=423,99", "ST_PD=19"), {"SP_12=424", "ST_PD=30"}}) {
         ustaw(brutto);
-        naliczanie().WyliczPodatek(Tryb::Seria);
+        przelicz(Zakres::Seria, kOdPodatku);
         oczekuj(stawka);
     }
     // The month's own header decides; that of the names may be damaged.
     ASSERT_TRUE(sesja().rsPLACEN.Znajdz(u"2001"_s, u"04"_s));
     sesja().rsPLACEN.Delete();
-    EXPECT_EQ(naliczanie().OdczytajStareBrutto(Tryb::Seria).stare, zl(29200.01));
+    EXPECT_EQ(bruttoRoku(Zakres::Seria).stare, zl(29200.01));
 }
 
 TEST_F(NaliczanieTest, ContractsWarnAndNeverRaiseTheRate) {
@@ -313,23 +337,23 @@ TEST_F(NaliczanieTest, ContractsWarnAndNeverRaiseTheRate) {
         rs.ustaw(u.tabela.nr(u.tabela.numer("Brutto")), zl(u.brutto));
         rs.UpdateBatch(u"Dane testu");
     }
-    EXPECT_EQ(naliczanie().OdczytajStareBrutto(Tryb::Pojedynczy).kwotaUmow, zl(123.5));
+    EXPECT_EQ(bruttoRoku(Zakres::Wiersz).kwotaUmow, zl(123.5));
 
     const struct {
         std::string brutto, stawka;
         QStringList ostrzezenia;
     } przypadki[] = {
-        {"BRUTTO=29500,50", "ST_PD=19", {}}, // 29624,00 with the contracts
-        {"BRUTTO=29500,51", "ST_PD=19", {umowy(2)}},
-        {"BRUTTO=59124,50", "ST_PD=30", {grupa(2), umowy(2)}}, // 59248,00
-        {"BRUTTO=59124,51", "ST_PD=30", {grupa(2), umowy(3)}},
+        {"SP_12=29500,50", "ST_PD=19", {}}, // 29624,00 with the contracts
+        {"SP_12=29500,51", "ST_PD=19", {umowy(2)}},
+        {"SP_12=59124,50", "ST_PD=30", {grupa(2), umowy(2)}}, // 59248,00
+        {"SP_12=59124,51", "ST_PD=30", {grupa(2), umowy(3)}},
     };
     for (const auto& p : przypadki) {
         SCOPED_TRACE(p.brutto);
         ustaw(p.brutto);
         for (const QString& tekst : p.ostrzezenia) rozmowa_.spodziewaj(tekst, Styl::Wykrzyknik);
-        for (const Tryb tryb : {Tryb::Pojedynczy, Tryb::Seria}) {
-            naliczanie().WyliczPodatek(tryb);
+        for (const Zakres zakres : {Zakres::Wiersz, Zakres::Seria}) {
+            przelicz(zakres, kOdPodatku);
             EXPECT_TRUE(rozmowa_.gotowa());
             oczekuj(p.stawka);
         }
@@ -349,10 +373,8 @@ TEST_F(NaliczanieTest, HealthInsuranceIsDeductedOnlyUpToTheTax) {
     stale().PodatekG1 = zl(100); // the tax is the income
     for (const auto& [wiersz, wynik] : przypadki) {
         SCOPED_TRACE(wiersz);
-        ustaw("BRUTTO=500 NETTO=100 UBZDR_NAL=150 " + wiersz);
-        Naliczanie n = naliczanie();
-        n.WyliczPodatek(Tryb::Seria);
-        n.Dowyplaty(Tryb::Seria);
+        ustaw("SP_12=500 NETTO=100 UBZDR_NAL=150 " + wiersz);
+        przelicz(Zakres::Seria, kOdPodatku);
         oczekuj("UBZDR_NAL=150 " + wynik);
     }
 }
@@ -383,10 +405,7 @@ TEST_F(NaliczanieTest, ConstantsSetTheRoundingOfBaseTaxAndPay) {
         stale().ZaokZal = p.zaliczka;
         stale().ZaokWyp = p.wyplata;
         ustaw(p.wiersz);
-        Naliczanie n = naliczanie();
-        n.WyliczPodstawy(Tryb::Seria);
-        n.WyliczPodatek(Tryb::Seria);
-        n.Dowyplaty(Tryb::Seria);
+        przelicz(Zakres::Seria, kOdPodatku);
         oczekuj(p.wynik);
     }
 }
@@ -396,44 +415,40 @@ TEST_F(NaliczanieTest, ARateWithAFractionIsStoredRoundedAndUsedExactly) {
     for (const auto& [stawka, wynik] :
          {std::pair(18.5, "ST_PD=18 POD_DOCH=185"), {19.5, "ST_PD=20 POD_DOCH=195"}}) {
         stale().PodatekG1 = zl(stawka);
-        naliczanie().WyliczPodatek(Tryb::Seria);
+        przelicz(Zakres::Seria, kOdPodatku);
         oczekuj(wynik);
     }
 }
 
 TEST_F(NaliczanieTest, SickBenefitLeavesTheAmountToPayWhenTheClerkWantsIt) {
     stale().L4ZUS = {12, 30, 0, 0};
-    ustaw("SP_12=100 SP_30=20,5 SP_10=7 BRUTTO=1000");
-    Naliczanie n = naliczanie();
-    n.Dowyplaty(Tryb::Pojedynczy); // no day paid by the insurer: nothing is asked
+    ustaw("SP_1=872,5 SP_12=100 SP_30=20,5 SP_10=7");
+    przelicz(Zakres::Wiersz, kOdPodatku); // no day paid by the insurer: nothing is asked
     oczekuj("DO_WYPLATY=1000");
     ustaw("DNI_L4_ZUS=3");
     for (const auto& [odpowiedz, wynik] :
          {std::pair(Odpowiedz::Tak, "DO_WYPLATY=879,5"), {Odpowiedz::Nie, "DO_WYPLATY=1000"}}) {
         rozmowa_.spodziewaj(kZasilek, odpowiedz);
-        n.Dowyplaty(Tryb::Pojedynczy);
+        przelicz(Zakres::Wiersz, kOdPodatku);
         oczekuj(wynik);
     }
-    rozmowa_.spodziewaj(kZasilekSerii, Odpowiedz::Tak); // one answer serves every row of a batch
-    for (int i = 0; i < 2; ++i) {
-        n.Dowyplaty(Tryb::Seria);
-        oczekuj("DO_WYPLATY=879,5");
-    }
     stale().L4ZUS = {12, 12, 0, 12};
-    EXPECT_EQ(n.ZasilekChorobowy(), zl(100)) << "a component named twice is still one component";
-    ustaw("SP_12=0 DO_WYPLATY=0");
-    n.Dowyplaty(Tryb::Pojedynczy);
+    EXPECT_EQ(ZasilekChorobowy(m(), WczytajWiersz(sesja()), {}), zl(100))
+        << "a component named twice is still one component";
+    EXPECT_EQ(ZasilekChorobowy(m(), WczytajWiersz(sesja()), zl(5)), zl(5)) << "what was recorded stands";
+    ustaw("SP_1=972,5 SP_12=0");
+    przelicz(Zakres::Wiersz, kOdPodatku);
     oczekuj("DO_WYPLATY=1000");
 }
 
 TEST_F(NaliczanieTest, SumsPastTheRangeOfMoneyAreRefused) {
     for (const char* wiersz : {"SP_1=922337203685477,5807 SP_5=0,0001", "SP_5=0 WSK_UBR=100,01"}) {
         ustaw(wiersz);
-        EXPECT_THROW(naliczanie().Przelicz1(Tryb::Seria), Przepelnienie) << wiersz;
+        EXPECT_THROW(przelicz(Zakres::Seria), Przepelnienie) << wiersz;
     }
     // What lies inside is exact.
     ustaw("SP_1=900000000000000 WSK_UBR=100 WSK_FEPRC=20 WSK_FRPRC=0 WSK_FCPRC=0");
-    naliczanie().Przelicz1(Tryb::Seria);
+    przelicz(Zakres::Seria);
     oczekuj("NETTO=720000000000000 ST_PD=40");
 }
 

@@ -1,6 +1,7 @@
 #include "payroll/nieobecnosci/WynagrodzenieL4.h"
 #include "wsparcie/NieobecnosciTestowe.h"
 #include "wsparcie/Przestrzen.h"
+#include "wsparcie/RozmowaZgoda.h"
 #include <numeric>
 
 namespace tornel::testy {
@@ -35,6 +36,11 @@ protected:
     void przepisz(const std::string& wynik) {
         lista_->Przelicz2();
         oczekujWPliku({1, u" "_s}, wynik);
+    }
+
+    static QString bezSkladnika(const QString& od, const QString& dokad) {
+        return u"Kwota za L-4 od %1 do %2 nie została zapisana: stałe programu nie podają dla niej "
+               "składnika."_s.arg(od, dokad);
     }
 
     static constexpr const char* kZarobek = "SP_1=3000 WSK_FEPRC=9,76 WSK_FRPRC=6,5 WSK_FCPRC=2,45";
@@ -107,33 +113,31 @@ TEST_F(L4Test, WithoutALeaveNothingIsAskedAndARefusalPricesNothing) {
 
 TEST_F(L4Test, TheFifthLeaveOfAMonthIsNotPriced) {
     for (int i = 0; i < 6; ++i) zwolnienie(1, QDate(2001, 7, 1 + 3 * i), QDate(2001, 7, 2 + 3 * i));
-    rozmowa_.spodziewaj(pytania::l4, Odpowiedz::Tak);
+    oczekujPytan(Odpowiedz::Tak, Odpowiedz::Tak);
     for (int i = 0; i < 2; ++i) rozmowa_.spodziewaj(kZaWiele, Styl::Wykrzyknik);
-    for (const QString& pytanie : {pytania::placaPoL4, pytania::premiaPoL4})
-        rozmowa_.spodziewaj(pytanie, Odpowiedz::Tak);
     przepisz("DNI_L4_PR=8 DNI_L4_ZUS=0 SP_23=130,064 SDO_23=2001-07-11 SP_1=2200 SP_2=220");
 }
 
 TEST_F(L4Test, ComponentsOutOfUseOrRangeTakeNothing) {
     zwolnienie(1, {2001, 7, 2}, {2001, 7, 3});
     skladnik(20, "   ", false);
-    rozmowa_.spodziewaj(pytania::l4, Odpowiedz::Tak);
+    oczekujPytan();
     rozmowa_.spodziewaj(
         u"Składnik nr 20 odpowiadający wynagrodzeniu za L-4 jest nieaktywny. Kwota za L-4 nie została "
         "zaopisana."_s,
         Styl::Wykrzyknik);
-    for (const QString& pytanie : {pytania::placaPoL4, pytania::premiaPoL4})
-        rozmowa_.spodziewaj(pytanie, Odpowiedz::Nie);
     przepisz("SP_20=0 DNI_L4_PR=2");
     for (const int nr : {0, 30}) {
         stale().L4Prd[0] = nr;
         oczekujPytan();
+        rozmowa_.spodziewaj(bezSkladnika(u"02-07-2001"_s, u"03-07-2001"_s), Styl::Wykrzyknik);
         przepisz("SP_30=0 DNI_L4_PR=2");
     }
     // An inactive base salary takes the bonus with it.
     skladnik(1, "BZU", false);
     rozmowa_.spodziewaj(pytania::l4, Odpowiedz::Tak);
     rozmowa_.spodziewaj(pytania::placaPoL4, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(bezSkladnika(u"02-07-2001"_s, u"03-07-2001"_s), Styl::Wykrzyknik);
     rozmowa_.spodziewaj(u"Składnik nr 1 odpowiadający płacy zasadniczej jest nieaktywny. Zmiana nie została "
                         "dokonana."_s,
                         Styl::Wykrzyknik);
@@ -241,6 +245,7 @@ TEST_F(L4Test, ADivisionByZeroLeavesTheRowAndNamesTheEmployee) {
     rozmowa_.spodziewaj(pytania::l4, Odpowiedz::Tak);
     rozmowa_.spodziewaj(kObowiazek, Odpowiedz::Tak);
     rozmowa_.spodziewaj(pytania::placaPoL4, Odpowiedz::Tak);
+    rozmowa_.spodziewaj(pytania::premiaPoL4, Odpowiedz::Tak);
     try {
         lista_->Przelicz2();
         ADD_FAILURE() << "computed";
@@ -276,28 +281,84 @@ TEST_F(L4Test, ADivisionByZeroLeavesTheRowAndNamesTheEmployee) {
     oczekujWPliku({2, u" "_s}, "DNI_L4_PR=1");
 }
 
-TEST_F(L4Test, TheBenefitOfTheRowIsTheSameTodayAndNextWeek) {
-    zwolnienie(1, {2001, 3, 1}, {2001, 4, 30});
-    zwolnienie(1, {2001, 7, 2}, {2001, 7, 6});
-    zwolnienie(1, {2001, 7, 7}, {2001, 7, 11});
-    oczekujPytan();
-    lista_->Przelicz2();
-    // 3300 gross and 650,32 of benefit outside it, which is paid and taken off again.
-    for (int raz = 0; raz < 2; ++raz) {
-        rozmowa_.spodziewaj(pytania::zasilek, Odpowiedz::Tak);
-        lista_->Przelicz1();
-        ASSERT_TRUE(lista_->Wypisz_daneP({1, u" "_s}));
-        const Waluta bez = sesja().rsPLA.kwota(schemat::PLA("DO_WYPLATY"));
-        rozmowa_.spodziewaj(pytania::zasilek, Odpowiedz::Nie);
-        lista_->Przelicz1();
-        EXPECT_EQ(sesja().rsPLA.kwota(schemat::PLA("DO_WYPLATY")) - bez, zl(650.32));
-        lista_ = std::make_unique<ListaPlac>(otoczenie(), kLipiec.rok, kLipiec.mies, u" "_s);
-        ASSERT_TRUE(lista_->Wypisz_daneP({1, u" "_s}));
+/// Employees alike, with two leaves of five days beyond the employer's: 650,32 of benefit, outside gross.
+/// Gross 2200 leaves 1448,66; on top comes what the components took, off it the whole benefit.
+TEST_F(L4Test, EveryWayPaysTheSameBenefit) {
+    static const struct {
+        const char* opis;
+        std::array<int, 4> numery; ///< constant 105
+        bool aktywny25;
+        const char* doWyplaty;
+        const char16_t* uwaga;
+    } przypadki[] = {
+        {"in use", {25, 26, 27, 28}, true, "DO_WYPLATY=1448,66", u""},
+        {"empty", {}, true, "DO_WYPLATY=798,34", u"od 02-07-2001 do 06-07-2001 nie została zapisana"},
+        {"twice the same number",
+         {25, 25, 0, 0},
+         true,
+         "DO_WYPLATY=1123,5",
+         u"Składnik nr 25 jest podany dla kilku zwolnień: zapisana jest w nim tylko kwota za L-4 od "
+         u"07-07-2001"},
+        {"position out of use",
+         {25, 26, 27, 28},
+         false,
+         "DO_WYPLATY=1123,5",
+         u"Składnik nr 25 odpowiadający"},
+    };
+    lista_.reset();
+    for (qint64 nr = 2; nr <= 5; ++nr) {
+        pracownik(nr, "placa_zas=3000 Premia_pr=10 wsk_fe=9,76 wsk_fr=6,5 wsk_fc=2,45 gr_pod=1 czy_kuz=N "
+                      "czy_ulga=N");
+        for (const int m : {4, 5, 6}) wczesniej({2001, m}, nr, kZarobek);
+        zwolnienie(nr, {2001, 3, 1}, {2001, 4, 30});
+        zwolnienie(nr, {2001, 7, 2}, {2001, 7, 6});
+        zwolnienie(nr, {2001, 7, 7}, {2001, 7, 11});
     }
+    RozmowaZgoda zgoda;
+    for (const auto& p : przypadki) {
+        SCOPED_TRACE(p.opis);
+        for (const char* tabela : {"PLA200107", "PLB200107", "PLS200107", "PLD200107", "ZASILEK"})
+            sesja().cnPlace.wykonaj(std::string("DELETE FROM ") + tabela);
+        skladnik(25, "   ", p.aktywny25);
+        const Stale stalePrzypadku = [&] {
+            Stale s = stale();
+            s.L4ZUS = p.numery;
+            return s;
+        }();
+        std::optional<Otoczenie> o;
+        std::optional<ListaPlac> l;
+        const auto otworzListe = [&] {
+            stale() = stalePrzypadku;
+            o.emplace(Otoczenie{sesja(), stale(), otoczenie().skladniki, zgoda});
+            l.emplace(*o, kLipiec.rok, kLipiec.mies, u" "_s);
+        };
+        otworzListe();
+        const QString raport = l->DodajPracownikow({2}).tekst();
+        EXPECT_TRUE(raport.contains(QString::fromUtf16(p.uwaga))) << raport.toStdString();
+        EXPECT_EQ(raport.isEmpty(), *p.uwaga == 0);
+        for (const qint64 nr : {3, 4, 5}) ASSERT_TRUE(l->Nowy_prac(nr));
+        EXPECT_EQ(l->PrzeliczSerie(Obliczenie::Przepisanie, {{3, u" "_s}, {4, u" "_s}}).wykonane, 2);
+        EXPECT_EQ(l->PrzeliczSerie(Obliczenie::Przeliczenie, {{3, u" "_s}}).wykonane, 1);
+        ASSERT_TRUE(l->Wypisz_daneP({5, u" "_s}));
+        l->Przelicz2();
+        l->Przelicz1();
+        EXPECT_TRUE(l->ZmienKwote(poleListy(u"txtKosztyUz"), {}));
+        l.reset();
+        otworzPonownie(); // another sitting
+        otworzListe();
+        ASSERT_TRUE(l->Wypisz_daneP({4, u" "_s}));
+        l->Przelicz1();
+        for (qint64 nr = 2; nr <= 5; ++nr) oczekujWPliku({nr, u" "_s}, p.doWyplaty);
+    }
+}
 
+TEST_F(L4Test, TheBenefitIsThatOfItsRowAlone) {
+    zwolnienie(1, {2001, 3, 1}, {2001, 4, 30});
+    zwolnienie(1, {2001, 7, 2}, {2001, 7, 11});
     // Another list's row of the employee has none of it, nor has another employee.
     pracownik(2, "placa_zas=100");
     dopisz(*lista_, 2);
+    rozmowa_.spodziewaj(pytania::naInnejLiscie, Styl::Wykrzyknik);
     dopisz(*std::make_unique<ListaPlac>(otoczenie(), kLipiec.rok, kLipiec.mies, u"A"_s), 1);
     lista_ = std::make_unique<ListaPlac>(otoczenie(), kLipiec.rok, kLipiec.mies, u" "_s);
     ASSERT_TRUE(lista_->Wypisz_daneP({1, u" "_s}));
@@ -309,13 +370,14 @@ TEST_F(L4Test, TheBenefitOfTheRowIsTheSameTodayAndNextWeek) {
     ASSERT_TRUE(lista_->Wypisz_daneP({2, u" "_s}));
     lista_->Przelicz1();
     ASSERT_TRUE(lista_->Wypisz_daneP({1, u" "_s}));
+    rozmowa_.spodziewaj(pytania::zasilek, Odpowiedz::Nie);
+    lista_->Przelicz1();
 
     // Removed and added again, the row has no benefit until its leaves are priced.
-    oczekujPytan();
-    lista_->Przelicz2();
     rozmowa_.spodziewaj(u"Czy na pewno usunąć pracownika o numerze 1 z miesięcznej listy płac ?"_s,
                         Odpowiedz::Tak);
     ASSERT_TRUE(lista_->Usun_prac());
+    rozmowa_.spodziewaj(pytania::naInnejLiscie, Styl::Wykrzyknik);
     dopisz(*lista_, 1);
     lista_->Przelicz1();
     oczekujWPliku({1, u" "_s}, "BRUTTO=3300 SP_25=0 DNI_L4_ZUS=0");

@@ -147,6 +147,62 @@ TEST_F(CalyMiesiacTest, StepByStep) {
     oczekujWPliku({1, u" "_s}, kWynik);
 }
 
+/// A clerk who is asked only while nothing is under way in the file.
+class RozmowaPrzedAkcja : public RozmowaZgoda {
+public:
+    explicit RozmowaPrzedAkcja(Polaczenie& baza) : baza_(baza) {}
+    [[nodiscard]] bool pytanie(const QString& tekst, const QString&) override {
+        EXPECT_FALSE(baza_.wTransakcji()) << tekst.toStdString();
+        ++zapytana;
+        return true;
+    }
+    [[nodiscard]] std::optional<QList<bool>> pytania(const QString& tytul,
+                                                     const QList<PytanieAkcji>& lista) override {
+        if (rezygnuje) return std::nullopt;
+        return Rozmowa::pytania(tytul, lista);
+    }
+
+    bool rezygnuje = true;
+    int zapytana = 0;
+
+private:
+    Polaczenie& baza_;
+};
+
+TEST_F(CalyMiesiacTest, QuestionsAreSettledBeforeAnythingBegins) {
+    RozmowaPrzedAkcja rozmowa(sesja().cnPlace);
+    Otoczenie o{sesja(), stale(), otoczenie().skladniki, rozmowa};
+    ListaPlac l(o, kLipiec.rok, kLipiec.mies, u" "_s);
+    EXPECT_TRUE(l.DodajPracownikow({1, 2}).przerwana);
+    EXPECT_FALSE(l.Nowy_prac(1));
+    EXPECT_EQ(wierszeWPliku(), "");
+    rozmowa.rezygnuje = false;
+    EXPECT_EQ(l.DodajPracownikow({1}).wykonane, 1);
+    EXPECT_EQ(rozmowa.zapytana, 7);
+    ASSERT_TRUE(l.Wypisz_daneP({1, u" "_s}));
+    l.Przelicz2();
+    EXPECT_EQ(rozmowa.zapytana, 12);
+
+    rozmowa.rezygnuje = true;
+    ustawIZapisz("SP_1=7 DO_WYPLATY=5");
+    EXPECT_FALSE(l.Przelicz2());
+    EXPECT_FALSE(l.Przelicz1());
+    EXPECT_FALSE(l.Przelicz_Dni());
+    EXPECT_FALSE(l.ZmienKwote(poleListy(u"txtKosztyUz"), zl(3)));
+    EXPECT_TRUE(l.PrzeliczSerie(Obliczenie::Przeliczenie, {{1, u" "_s}}).przerwana);
+    EXPECT_TRUE(l.wiersz()) << "the row stays taken up";
+    oczekuj("SP_1=7 DO_WYPLATY=5 KUP=101,82");
+    oczekujWPliku({1, u" "_s}, "SP_1=7 DO_WYPLATY=5 KUP=101,82");
+}
+
+TEST_F(CalyMiesiacTest, WhatIsRefusedRaisesNoQuestionsOfItsOwn) {
+    for (const QString& pytanie :
+         {pytania::dniSerii, pytania::nadgodzinySerii, pytania::l4Serii, pytania::urlopSerii})
+        rozmowa_.spodziewaj(pytanie, Odpowiedz::Nie);
+    EXPECT_EQ(lista()->DodajPracownikow({1, 2}).wykonane, 2);
+    oczekujWPliku({1, u" "_s}, "DN_RO=0 SP_1=2200 SP_20=0 SP_5=0 BRUTTO=2200");
+}
+
 /// A clerk who says yes to everything but the questions about one matter, in a batch as for one row.
 class RozmowaOdmowna : public RozmowaZgoda {
 public:

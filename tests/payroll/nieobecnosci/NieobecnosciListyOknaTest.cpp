@@ -44,9 +44,9 @@ TEST_F(NieobecnosciListyOknaTest, PrzepiszPrzechodziPrzezWykazy) {
     rozmowa_.spodziewaj(pytania::l4, Odpowiedz::Tak);
     rozmowa_.spodziewaj(pytania::urlop, Odpowiedz::Tak);
     rozmowa_.spodziewaj(pytania::jedenSkladnik, Odpowiedz::Nie);
+    rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
     rozmowa_.spodziewaj(u"Wynagrodzenie za okres od 16-07-2001 do 16-07-2001 nie zostało zapisane."_s,
                         Styl::Wykrzyknik);
-    rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
     wOknie<frmWykazPodstawL4>([this](frmWykazPodstawL4& l4) {
         EXPECT_EQ(l4.windowTitle(), u"Wykaz miesięcznych podstaw do L-4"_s);
         EXPECT_EQ(wiersze(l4, u"lvwMiesiace"_s).first(), u"2001 Czerwiec|3000,00|3000,00"_s);

@@ -114,11 +114,10 @@ TEST_F(UrlopTest, APeriodIsItsDaysTimesTheAverageRate) {
     oczekujPytan();
     przepisz("SP_30=0 SOD_30=null SR_BR_URL=166,67");
     stale().SklUrl = 3;
-    rozmowa_.spodziewaj(pytania::urlop, Odpowiedz::Tak);
+    oczekujPytan();
     rozmowa_.spodziewaj(u"Składnik nr 3 odpowiadający wynagrodzeniu za urlop jest nieaktywny. Kwota za urlop "
                         "nie została zaopisana."_s,
                         Styl::Wykrzyknik);
-    rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
     przepisz("SP_3=0");
 
     // Nobody is asked about a month without a vacation; only the average is cleared.
@@ -135,11 +134,11 @@ TEST_F(UrlopTest, CalendarsCountTheDaysOfTheFirstDaysMonth) {
     const auto licz = [&](const std::string& wynik, Odpowiedz zKalendarza = Odpowiedz::Tak) {
         rozmowa_.spodziewaj(pytania::urlop, Odpowiedz::Tak);
         rozmowa_.spodziewaj(kKalendarz, zKalendarza);
+        rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
         if (wynik.starts_with("SP_5=0"))
             rozmowa_.spodziewaj(
                 u"W kalendarzu nie ma miesiąca 07.2001, urlop od 02-07-2001 do 15-07-2001 ma 0 dni."_s,
                 Styl::Wykrzyknik);
-        rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
         przepisz(wynik);
     };
     licz("SP_5=0 SOD_5=2001-07-02");
@@ -159,22 +158,18 @@ TEST_F(UrlopTest, SeveralPeriodsGoToOneComponentOrToTheirOwn) {
 
     // The second goes elsewhere after an inactive try, the third is skipped.
     wykazy_.numery = {20, 11, 24, std::nullopt};
-    rozmowa_.spodziewaj(pytania::urlop, Odpowiedz::Tak);
-    rozmowa_.spodziewaj(pytania::jedenSkladnik, Odpowiedz::Nie);
+    oczekujPytan(Odpowiedz::Nie);
     rozmowa_.spodziewaj(kPonowic, Odpowiedz::Tak);
     rozmowa_.spodziewaj(niezapisane(u"30-07-2001"_s, u"31-07-2001"_s), Styl::Wykrzyknik);
-    rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
     przepisz("SP_5=0 SP_20=303,34 SP_21=0 SP_24=50 SOD_24=2001-07-12 SDO_24=2001-07-13 SP_22=0");
     EXPECT_EQ(wykazy_.proponowane, (QList<int>{20, 21, 21, 22}));
 
     wykazy_.numery = {11, 0, 31};
-    rozmowa_.spodziewaj(pytania::urlop, Odpowiedz::Tak);
-    rozmowa_.spodziewaj(pytania::jedenSkladnik, Odpowiedz::Nie);
+    oczekujPytan(Odpowiedz::Nie);
     rozmowa_.spodziewaj(kPonowic, Odpowiedz::Nie);
     rozmowa_.spodziewaj(niezapisane(u"02-07-2001"_s, u"03-07-2001"_s), Styl::Wykrzyknik);
     rozmowa_.spodziewaj(niezapisane(u"12-07-2001"_s, u"13-07-2001"_s), Styl::Wykrzyknik);
     rozmowa_.spodziewaj(niezapisane(u"30-07-2001"_s, u"31-07-2001"_s), Styl::Wykrzyknik);
-    rozmowa_.spodziewaj(pytania::poUrlopie, Odpowiedz::Nie);
     przepisz("SP_5=0 SP_20=0");
 }
 
@@ -227,7 +222,7 @@ TEST_F(UrlopTest, ComponentsShrinkByTheDaysOfVacation) {
 TEST_F(UrlopTest, AMissingMonthTableIsNamed) {
     urlop(1, {2001, 7, 2}, {2001, 7, 6});
     sesja().cnPlace.wykonaj("DROP TABLE PLA200105");
-    rozmowa_.spodziewaj(pytania::urlop, Odpowiedz::Tak);
+    oczekujPytan();
     try {
         lista_->Przelicz2();
         ADD_FAILURE() << "computed";
