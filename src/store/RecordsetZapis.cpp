@@ -134,7 +134,7 @@ QList<Kolumna> Recordset::zmienioneKolumny() const {
 }
 
 Waluta Recordset::przyrost(Kolumna k) const {
-    wymagajKolumny(k, Rodzaj::Kwota);
+    wymagajKolumny(k, RodzajWartosci::Kwota);
     const auto kwota = [](Komorka c) { return c == kNull ? Waluta{} : Waluta::zSurowej(c); };
     Waluta suma;
     for (const int wiersz : oczekujace_) {
