@@ -2,6 +2,7 @@
 #include "common/Rozmowa.h"
 #include "rules/SkladnikiPlac.h"
 #include "store/Sesja.h"
+#include "store/Zapytanie.h"
 #include <algorithm>
 #include <span>
 #include <stdexcept>
@@ -61,12 +62,11 @@ const Wartosc* nowa(const KartotekaPracownika::Zmiany& zmiany, Kolumna kolumna) 
     return ta == zmiany.end() ? nullptr : &ta->second;
 }
 
-KartotekaPracownika::Slownik slownik(Sesja& sesja, Recordset& rs, Kolumna numer, Kolumna nazwa) {
-    if (!rs.otwarty()) rs.Open(sesja.cnPlace);
-    rs.Filter({});
-    rs.Sort({numer});
+KartotekaPracownika::Slownik slownik(Sesja& sesja, Kolumna numer, Kolumna nazwa) {
+    PrzygotowaneZapytanie zapytanie(sesja.cnPlace,
+                                    Zapytanie(*numer.tabela).kolumny(numer, nazwa).wedlug(numer));
     KartotekaPracownika::Slownik wynik;
-    for (const Wiersz w : rs.wiersze())
+    for (auto w = zapytanie.uruchom(); w.nastepny();)
         wynik.append(
             {w.liczba(numer), QString::number(w.liczba(numer)) + QStringLiteral(". ") + w.tekst(nazwa)});
     return wynik;
@@ -75,8 +75,7 @@ KartotekaPracownika::Slownik slownik(Sesja& sesja, Recordset& rs, Kolumna numer,
 } // namespace
 
 KartotekaPracownika::KartotekaPracownika(Otoczenie& otoczenie)
-    : o_(otoczenie), tabele_{&o_.sesja.rsPRACDP, &o_.sesja.rsPRACPR, &o_.sesja.rsPRACSK, &o_.sesja.rsPRACINF,
-                             &o_.sesja.rsPRACZUS} {}
+    : o_(otoczenie), tabele_(otoczenie.sesja.kadry) {}
 
 std::size_t KartotekaPracownika::ktoraTabela(Kolumna kolumna) const {
     const auto ta =
@@ -86,14 +85,14 @@ std::size_t KartotekaPracownika::ktoraTabela(Kolumna kolumna) const {
 }
 
 Wartosc KartotekaPracownika::wartosc(Kolumna kolumna) const {
-    const Recordset& rs = *tabele_[ktoraTabela(kolumna)];
+    const Recordset& rs = tabele_[ktoraTabela(kolumna)];
     const std::optional<Wiersz> wiersz = prcId_ ? rs.szukaj(*prcId_) : std::nullopt;
     return wiersz ? wiersz->wartosc(kolumna) : Wartosc(Null);
 }
 
 void KartotekaPracownika::ustaw(Kolumna kolumna, const Wartosc& wartosc) {
     const std::size_t tabela = ktoraTabela(kolumna);
-    Recordset& rs = *tabele_[tabela];
+    Recordset& rs = tabele_[tabela];
     if (!rs.Znajdz(prcId_.value())) rs.AddNewZero(*prcId_);
     const Klucz klucz{*prcId_, tabela, kolumna.nr};
     const Wartosc przed = rs.wartosc(kolumna);
@@ -151,7 +150,7 @@ bool KartotekaPracownika::Anuluj() {
     if (!o_.rozmowa.pytanieUsuwajace(QStringLiteral("Czy anulować wporwadzone zmiany ?"))) return false;
     for (auto wpis = dziennik_.begin(); wpis != dziennik_.end();) {
         const auto& [klucz, zmiana] = *wpis;
-        Recordset& rs = *tabele_[klucz.tabela];
+        Recordset& rs = tabele_[klucz.tabela];
         if (klucz.prcId != prcId_) {
             ++wpis;
             continue;
@@ -168,7 +167,7 @@ void KartotekaPracownika::Ponow() {
     for (const auto& [klucz, zmiana] : zmiany) {
         if (!o_.sesja.rsPRACDP.Znajdz(klucz.prcId)) continue;
         prcId_ = klucz.prcId;
-        ustaw(tabele_[klucz.tabela]->tabela().nr(klucz.kolumna), zmiana.po);
+        ustaw(tabele_[klucz.tabela].tabela().nr(klucz.kolumna), zmiana.po);
     }
     prcId_ = biezacy;
 }
@@ -214,11 +213,11 @@ bool KartotekaPracownika::miejsceUjemne(int n) const {
 }
 
 KartotekaPracownika::Slownik KartotekaPracownika::urzedy() const {
-    return slownik(o_.sesja, o_.sesja.rsUS, schemat::US("US_ID"), schemat::US("Nazwa"));
+    return slownik(o_.sesja, schemat::US("US_ID"), schemat::US("Nazwa"));
 }
 
 KartotekaPracownika::Slownik KartotekaPracownika::miejscaPracy() const {
-    return slownik(o_.sesja, o_.sesja.rsM_PRACY, schemat::M_PRACY("MP_ID"), schemat::M_PRACY("Nazwa"));
+    return slownik(o_.sesja, schemat::M_PRACY("MP_ID"), schemat::M_PRACY("Nazwa"));
 }
 
 } // namespace tornel::personnel

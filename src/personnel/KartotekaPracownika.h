@@ -2,9 +2,7 @@
 // goes with it, copies of the address, component masks, and storing it all as one action.
 #pragma once
 #include "rules/Otoczenie.h"
-#include "store/Tabela.h"
-#include "store/Wartosc.h"
-#include <array>
+#include "store/Grupa.h"
 #include <map>
 #include <optional>
 #include <QList>
@@ -67,7 +65,7 @@ public:
     [[nodiscard]] bool miejsceDodatnie(int n) const;
     [[nodiscard]] bool miejsceUjemne(int n) const;
 
-    /// Tax offices and workplaces: number, and number with name. Reads `US`, `M_PRACY`, which it opens.
+    /// Tax offices and workplaces: number, and number with name. Reads `US`, `M_PRACY` from the file.
     [[nodiscard]] Slownik urzedy() const;
     [[nodiscard]] Slownik miejscaPracy() const;
 
@@ -89,7 +87,7 @@ private:
     [[nodiscard]] quint32 maska(Kolumna kolumna) const;
 
     Otoczenie& o_;
-    std::array<Recordset*, 5> tabele_;
+    const Grupa& tabele_;
     std::optional<qint64> prcId_;
     std::map<Klucz, Zmiana> dziennik_;
 };

@@ -86,19 +86,18 @@ void wlasneDane(Sesja& s, Ciag& ciag) {
 } // namespace
 
 void DodajPracownikowPrzykladu(Sesja& sesja, int od, int dokad) {
-    const std::array tabele{&sesja.rsPRACDP, &sesja.rsPRACPR, &sesja.rsPRACSK, &sesja.rsPRACZUS,
-                            &sesja.rsPRACINF};
-    std::array<std::array<Wiersz, tabele.size()>, kWzory.size()> wzory;
+    const Grupa& tabele = sesja.kadry;
+    std::array<std::array<Wiersz, schemat::TabelePracownika.size()>, kWzory.size()> wzory;
     for (std::size_t w = 0; w < kWzory.size(); ++w)
-        for (std::size_t t = 0; t < tabele.size(); ++t) wzory[w][t] = wierszPracownika(*tabele[t], kWzory[w]);
+        for (std::size_t t = 0; t < tabele.ile(); ++t) wzory[w][t] = wierszPracownika(tabele[t], kWzory[w]);
 
     Ciag ciag;
     for (int prcId = od; prcId <= dokad; ++prcId) {
         const auto& wzor = wzory[static_cast<std::size_t>(prcId) % kWzory.size()];
-        for (std::size_t t = 0; t < tabele.size(); ++t) {
-            tabele[t]->AddNewZero(prcId);
+        for (std::size_t t = 0; t < tabele.ile(); ++t) {
+            tabele[t].AddNewZero(prcId);
             for (int i = 1; i < static_cast<int>(wzor[t].size()); ++i)
-                tabele[t]->ustaw(tabele[t]->tabela().nr(i), wzor[t][i]);
+                tabele[t].ustaw(tabele[t].tabela().nr(i), wzor[t][i]);
         }
         wlasneDane(sesja, ciag);
     }

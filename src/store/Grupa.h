@@ -14,6 +14,10 @@ public:
     [[nodiscard]] auto begin() const { return uchwyty_.begin(); }
     [[nodiscard]] auto end() const { return uchwyty_.begin() + static_cast<std::ptrdiff_t>(ile_); }
 
+    [[nodiscard]] std::size_t ile() const { return ile_; }
+    /// The handle of the group's table number `i`, from 0.
+    [[nodiscard]] Recordset& operator[](std::size_t i) const { return *uchwyty_[i]; }
+
     /// Opens the tables, those of the month `koncowka` ("200107") if it is given, sorted by their keys and
     /// standing on the first rows. Throws `BladBazy`.
     void Open(Polaczenie& polaczenie, const QString& koncowka = {}) const;

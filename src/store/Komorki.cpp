@@ -1,7 +1,7 @@
 #include "store/Komorki.h"
 #include "common/Blad.h"
+#include <algorithm>
 #include <bit>
-#include <QStringList>
 
 namespace tornel::store {
 
@@ -66,23 +66,21 @@ std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ, 
 
 void zglosUszkodzenie(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa, qint64 nrWiersza,
                       const KolumnaDef& kolumna) {
-    QStringList klucz;
+    QString wiersz;
+    if (nrWiersza > 0) wiersz = QStringLiteral(", wiersz %1").arg(nrWiersza);
     for (const std::string_view k : tabela.kluczPliku()) {
         Instrukcja pytanie(polaczenie, ("SELECT " + nazwaSql(k) + " FROM " + nazwaSql(nazwa.toStdString()) +
                                         " WHERE rowid=?")
                                            .toStdString());
-        if (pytanie.wiaz(0, nrWiersza).wiersz()) klucz.append(napis(k) + QLatin1Char(' ') + pytanie.tekst(0));
+        if (pytanie.wiaz(0, nrWiersza).wiersz())
+            wiersz += QStringLiteral(", %1 %2").arg(napis(k), pytanie.tekst(0));
     }
     QString rzecz = QStringLiteral("liczba");
     if (kolumna.typ == Typ::Date) rzecz = QStringLiteral("data");
     if (kolumna.typ == Typ::Currency) rzecz = QStringLiteral("kwota");
     if (jestTekstem(kolumna.typ)) rzecz = QStringLiteral("wartość");
-    throw UszkodzonaWartosc(
-        QStringLiteral("Uszkodzona %1 w kolumnie %2 tabeli %3, wiersz %4%5 (plik „%6”).")
-            .arg(rzecz, napis(kolumna.nazwa), nazwa)
-            .arg(nrWiersza)
-            .arg(klucz.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(klucz.join(QStringLiteral(", "))),
-                 polaczenie.sciezka()));
+    throw UszkodzonaWartosc(QStringLiteral("Uszkodzona %1 w kolumnie %2 tabeli %3%4 (plik „%5”).")
+                                .arg(rzecz, napis(kolumna.nazwa), nazwa, wiersz, polaczenie.sciezka()));
 }
 
 void wiazWartosc(Instrukcja& instrukcja, int nr, const Wartosc& wartosc) {

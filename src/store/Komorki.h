@@ -29,7 +29,8 @@ private:
 [[nodiscard]] std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ,
                                           int typWartosci);
 
-/// Throws `UszkodzonaWartosc` that names table, row (by its key, as it stands) and column.
+/// Throws `UszkodzonaWartosc` that names table, row (by its number, 0 if unknown, and its key as it stands)
+/// and column.
 [[noreturn]] void zglosUszkodzenie(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa,
                                    qint64 nrWiersza, const KolumnaDef& kolumna);
 

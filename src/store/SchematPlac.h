@@ -300,9 +300,9 @@ inline constexpr TabelaDef TEMP{"TEMP", kolumny::TEMP, {}};
 
 /// The header of a payroll month.
 inline constexpr auto TabeleNaglowka = std::to_array<const TabelaDef*>({&PLACE, &PLACEN, &PLACEK});
-/// The four tables of a payroll month, in the order in which they are made. Those of an overtime month,
-/// `NADGN` and `NADGDzien`, are made by the overtime lists.
+/// The four tables of a payroll month and the two of an overtime month, in the order in which they are made.
 inline constexpr auto TabeleMiesiaca = std::to_array<const TabelaDef*>({&PLA, &PLB, &PLS, &PLD});
+inline constexpr auto TabeleNadgodzin = std::to_array<const TabelaDef*>({&NADGN, &NADGDzien});
 
 /// Amount of additive component `i`, 1 to 30, and of deductive component `i`, 1 to 15, on a list row, zł.
 constexpr Kolumna SP(int i) { return elementSerii(PLS, 2, 30, i); }

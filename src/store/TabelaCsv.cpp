@@ -239,10 +239,12 @@ TabelaPliku ZnajdzTabele(Polaczenie& polaczenie, const QString& nazwa) {
     const QRegularExpressionMatch czesci = miesieczna.match(nazwa.toUpper());
     if (czesci.hasMatch() && polaczenie.jestTabela(nazwa)) {
         const std::string przedrostek = czesci.captured(1).toStdString();
-        for (const TabelaDef* def : {&schemat::PLA, &schemat::PLB, &schemat::PLS, &schemat::PLD,
-                                     &schemat::NADGN, &schemat::NADGDzien})
-            if (def->nazwa == przedrostek)
-                return {def, nazwa.toUpper(), czesci.captured(2).toInt(), czesci.captured(3).toInt()};
+        for (const std::span<const TabelaDef* const> grupa :
+             {std::span<const TabelaDef* const>(schemat::TabeleMiesiaca),
+              std::span<const TabelaDef* const>(schemat::TabeleNadgodzin)})
+            for (const TabelaDef* def : grupa)
+                if (def->nazwa == przedrostek)
+                    return {def, nazwa.toUpper(), czesci.captured(2).toInt(), czesci.captured(3).toInt()};
     }
     throw Blad(QStringLiteral("Nie ma tabeli \"%1\".").arg(nazwa));
 }

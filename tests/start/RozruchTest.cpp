@@ -1,8 +1,11 @@
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
+#include "store/Struktura.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 
 namespace tornel::testy {
 
@@ -132,7 +135,18 @@ TEST_F(RozruchBazyTest, TheNextStartKeepsWhatIsThereAndMendsWhatIsMissing) {
     sesja().rsUZYTKOWNICY.MoveFirst();
     sesja().rsUZYTKOWNICY.Delete();
     sesja().rsUZYTKOWNICY.UpdateBatch(u"Dane testu");
-    otworzPonownie();
+    // A file of an older program; the clerk is told where it was put aside.
+    UsunTabele(sesja().cnPlace, u"ZASILEK"_s);
+    UstawWersje(sesja().cnPlace, 0);
+    program_.reset();
+    const QString czas = QFileInfo(sciezka()).lastModified().toString(u"yyyyMMdd-HHmmss"_s);
+    const QString kopia = folder_.filePath(u"Tornel-wersja-0-%1.mdb"_s.arg(czas));
+    rozmowa_.spodziewaj(
+        u"Baza danych została przystosowana do tej wersji programu. Poprzednia baza danych jest "
+        "w pliku „%1”."_s.arg(kopia),
+        Styl::Informacja);
+    otworz();
+    EXPECT_TRUE(QFile::exists(kopia));
     EXPECT_TRUE(SprawdzLogin(sesja(), u"Admin"_s, {}));
 }
 

@@ -11,12 +11,6 @@ namespace tornel::payroll {
 
 using schemat::NADG;
 
-namespace {
-
-constexpr std::array kTabele{&schemat::NADGN, &schemat::NADGDzien};
-
-} // namespace
-
 Nadgodziny::Nadgodziny(Otoczenie& otoczenie) : o_(otoczenie) { otworz(); }
 
 void Nadgodziny::otworz() {
@@ -55,7 +49,7 @@ std::optional<RokMies> Nadgodziny::NowaLista(const WyborMiesiaca& wybor) {
         s.rsNADG.ustaw(NADG("Mies"), FormatMiesiaca(miesiac->mies));
         RownaniaNadgodzin::zeStalych(o_.stale).naNaglowek(s.rsNADG);
         s.rsNADG.UpdateBatch(transakcja);
-        for (const TabelaDef* tabela : kTabele)
+        for (const TabelaDef* tabela : schemat::TabeleNadgodzin)
             UtworzTabele(s.cnPlace, *tabela,
                          Sesja::nazwaMiesiaca(tabela->nazwa, miesiac->rok, miesiac->mies));
         transakcja.zatwierdz();
@@ -75,7 +69,7 @@ bool Nadgodziny::UsunListe(RokMies miesiac) {
     Sesja& s = o_.sesja;
     try {
         Transakcja transakcja(s.cnPlace, QStringLiteral("Usunięcie listy nadgodzin %1").arg(miesiac.napis()));
-        for (const TabelaDef* tabela : kTabele)
+        for (const TabelaDef* tabela : schemat::TabeleNadgodzin)
             if (const QString nazwa = Sesja::nazwaMiesiaca(tabela->nazwa, miesiac.rok, miesiac.mies);
                 s.cnPlace.jestTabela(nazwa))
                 UsunTabele(s.cnPlace, nazwa);
