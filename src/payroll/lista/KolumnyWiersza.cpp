@@ -102,20 +102,20 @@ constexpr Pracownika<qint64> kLiczbyZUS[] = {
     {&DanePracownika::il_z_wych, PRACZUS("il_z_wych")},
 };
 
-Waluta czytaj(const Recordset& rs, Kolumna k, Waluta) { return rs.kwota(k); }
-qint64 czytaj(const Recordset& rs, Kolumna k, qint64) { return rs.liczba(k); }
-bool czytaj(const Recordset& rs, Kolumna k, bool) { return rs.flaga(k); }
-QString czytaj(const Recordset& rs, Kolumna k, const QString&) { return rs.tekst(k); }
-QDate czytaj(const Recordset& rs, Kolumna k, QDate) { return rs.data(k); }
+Waluta czytaj(const Wiersz& w, Kolumna k, Waluta) { return w.kwota(k); }
+qint64 czytaj(const Wiersz& w, Kolumna k, qint64) { return w.liczba(k); }
+bool czytaj(const Wiersz& w, Kolumna k, bool) { return w.flaga(k); }
+QString czytaj(const Wiersz& w, Kolumna k, const QString&) { return w.tekst(k); }
+QDate czytaj(const Wiersz& w, Kolumna k, QDate) { return w.data(k); }
 
 template <typename Rekord, typename Typ, std::size_t N>
-void wczytaj(const Recordset& rs, Rekord& rekord, const Para<Rekord, Typ> (&pary)[N]) {
-    for (const Para<Rekord, Typ>& p : pary) rekord.*p.pole = czytaj(rs, p.kolumna, Typ{});
+void wczytaj(const Wiersz& wiersz, Rekord& rekord, const Para<Rekord, Typ> (&pary)[N]) {
+    for (const Para<Rekord, Typ>& p : pary) rekord.*p.pole = czytaj(wiersz, p.kolumna, Typ{});
 }
 /// `kolumna(i)` is the column of element i - 1.
 template <typename Typ, std::size_t N>
-void wczytajSerie(const Recordset& rs, std::array<Typ, N>& seria, Kolumna (*kolumna)(int)) {
-    for (std::size_t i = 0; i < N; ++i) seria[i] = czytaj(rs, kolumna(static_cast<int>(i) + 1), Typ{});
+void wczytajSerie(const Wiersz& wiersz, std::array<Typ, N>& seria, Kolumna (*kolumna)(int)) {
+    for (std::size_t i = 0; i < N; ++i) seria[i] = czytaj(wiersz, kolumna(static_cast<int>(i) + 1), Typ{});
 }
 template <typename Rekord, typename Typ, std::size_t N>
 void zapisz(Recordset& rs, const Rekord& przedtem, const Rekord& teraz, const Para<Rekord, Typ> (&pary)[N]) {
@@ -135,39 +135,44 @@ Kolumna dzienRodzaju(int i) { return kDniRodzajow[i - 1]; }
 using namespace kolumnyWiersza;
 
 WierszPlac WczytajWiersz(const Sesja& s) {
+    const Wiersz pla = s.rsPLA.biezacyWiersz(), plb = s.rsPLB.biezacyWiersz();
+    const Wiersz pls = s.rsPLS.biezacyWiersz(), pld = s.rsPLD.biezacyWiersz();
     WierszPlac w;
-    w.klucz = {s.rsPLA.liczba(PLA("PRC_ID")), s.rsPLA.tekst(PLA("LISTA"))};
-    wczytaj(s.rsPLA, w, kTekstyA);
-    wczytaj(s.rsPLA, w, kLiczbyA);
-    wczytaj(s.rsPLA, w, kKwotyA);
-    wczytaj(s.rsPLA, w.dni, kDniA);
-    wczytaj(s.rsPLB, w, kKwotyB);
-    wczytajSerie(s.rsPLB, w.dni.wgRodzaju, dzienRodzaju);
-    wczytajSerie(s.rsPLS, w.skladniki.SP, schemat::SP);
-    wczytajSerie(s.rsPLS, w.skladniki.SM, schemat::SM);
-    wczytajSerie(s.rsPLD, w.skladniki.SOD, schemat::SOD);
-    wczytajSerie(s.rsPLD, w.skladniki.SDO, schemat::SDO);
+    w.klucz = {pla.liczba(PLA("PRC_ID")), pla.tekst(PLA("LISTA"))};
+    wczytaj(pla, w, kTekstyA);
+    wczytaj(pla, w, kLiczbyA);
+    wczytaj(pla, w, kKwotyA);
+    wczytaj(pla, w.dni, kDniA);
+    wczytaj(plb, w, kKwotyB);
+    wczytajSerie(plb, w.dni.wgRodzaju, dzienRodzaju);
+    wczytajSerie(pls, w.skladniki.SP, schemat::SP);
+    wczytajSerie(pls, w.skladniki.SM, schemat::SM);
+    wczytajSerie(pld, w.skladniki.SOD, schemat::SOD);
+    wczytajSerie(pld, w.skladniki.SDO, schemat::SDO);
     return w;
 }
 
 DanePracownika WczytajPracownika(const Sesja& s) {
+    const Wiersz pr = s.rsPRACPR.biezacyWiersz();
     DanePracownika p;
-    wczytaj(s.rsPRACPR, p, kKwotyPracy);
-    wczytaj(s.rsPRACPR, p, kLiczbyPracy);
-    wczytaj(s.rsPRACPR, p, kFlagiPracy);
-    p.Lista = s.rsPRACPR.tekst(PRACPR("Lista"));
-    p.umowa_od = s.rsPRACPR.data(PRACPR("umowa_od"));
+    wczytaj(pr, p, kKwotyPracy);
+    wczytaj(pr, p, kLiczbyPracy);
+    wczytaj(pr, p, kFlagiPracy);
+    p.Lista = pr.tekst(PRACPR("Lista"));
+    p.umowa_od = pr.data(PRACPR("umowa_od"));
     if (s.rsPRACDP.naWierszu()) {
         p.Naz = s.rsPRACDP.tekst(PRACDP("Naz"));
         p.Imie_1 = s.rsPRACDP.tekst(PRACDP("Imie_1"));
     }
     if (s.rsPRACZUS.naWierszu()) {
-        wczytaj(s.rsPRACZUS, p, kKwotyZUS);
-        wczytaj(s.rsPRACZUS, p, kLiczbyZUS);
+        const Wiersz zus = s.rsPRACZUS.biezacyWiersz();
+        wczytaj(zus, p, kKwotyZUS);
+        wczytaj(zus, p, kLiczbyZUS);
     }
     if (s.rsPRACSK.naWierszu()) {
-        wczytajSerie(s.rsPRACSK, p.dodatnie, schemat::DodatniPracownika);
-        wczytajSerie(s.rsPRACSK, p.ujemne, schemat::UjemnyPracownika);
+        const Wiersz sk = s.rsPRACSK.biezacyWiersz();
+        wczytajSerie(sk, p.dodatnie, schemat::DodatniPracownika);
+        wczytajSerie(sk, p.ujemne, schemat::UjemnyPracownika);
     }
     return p;
 }
@@ -190,8 +195,7 @@ void ZapiszZmiany(Sesja& s, const WierszPlac& przedtem, const WierszPlac& w) {
 }
 
 void DopiszWiersz(Sesja& s, const WierszPlac& wiersz) {
-    for (Recordset* rs : {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD})
-        rs->AddNewZero(wiersz.klucz.prcId, wiersz.klucz.lista);
+    s.wierszListy.AddNewZero(wiersz.klucz.prcId, wiersz.klucz.lista);
     static const WierszPlac kPusty;
     ZapiszZmiany(s, kPusty, wiersz);
 }

@@ -19,8 +19,7 @@ namespace {
 
 const QString kWszystkieListy = QStringLiteral(" ");
 
-std::array<Recordset*, 4> tabeleWiersza(Sesja& s) { return {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD}; }
-/// With those that not every row has a record in.
+/// The tables of a row, with those that not every row has a record in.
 std::array<Recordset*, 6> rekordyWiersza(Sesja& s) {
     return {&s.rsPLA, &s.rsPLB, &s.rsPLS, &s.rsPLD, &s.rsZASILEK, &s.rsWPISANE};
 }
@@ -87,7 +86,7 @@ QList<LiniaListy> ListaPlac::Wczytaj_listep() {
 }
 
 void ListaPlac::szukajWiersza(const KluczListy& klucz) {
-    for (Recordset* rs : tabeleWiersza(o_.sesja)) (void)rs->Znajdz(klucz.prcId, klucz.lista);
+    (void)o_.sesja.wierszListy.Znajdz(klucz.prcId, klucz.lista);
 }
 
 void ListaPlac::ustawNa(const KluczListy& klucz) {
@@ -105,7 +104,7 @@ bool ListaPlac::Wypisz_daneP(const KluczListy& klucz) {
                                "z zawieszeniem programu łącznie. ") +
                 QStringLiteral("Usuń pracownika z miesięcznej listy płac."),
             Styl::Wykrzyknik);
-    for (Recordset* rs : tabeleWiersza(o_.sesja))
+    for (Recordset* rs : o_.sesja.wierszListy)
         if (!rs->naWierszu())
             o_.rozmowa.komunikat(QStringLiteral("CRITICAL ERROR !!! Brak rekordu ") +
                                      QString::fromLatin1(rs->tabela().nazwa.data(),
@@ -126,7 +125,7 @@ void ListaPlac::wymagajWiersza() {
     if (!wiersz_) throw Blad(QStringLiteral("Nie wybrano pracownika z listy płac."));
     // Handles that were read again after a failure stand on their first rows.
     ustawNa(KluczListy(*wiersz_));
-    for (const Recordset* rs : tabeleWiersza(o_.sesja))
+    for (const Recordset* rs : o_.sesja.wierszListy)
         if (!rs->naWierszu())
             throw Blad(QStringLiteral("Wiersz pracownika nr %1 jest niepełny: brak rekordu w tabeli %2.")
                            .arg(wiersz_->prcId)
@@ -179,12 +178,8 @@ void ListaPlac::pokazUwagi(const ListaUwag& uwagi) {
         if (uwaga.dotyczy(Zakres::Wiersz)) o_.rozmowa.komunikat(uwaga.tekst, Styl::Wykrzyknik);
 }
 
-bool ListaPlac::naLiscie(const KluczListy& klucz) {
-    Recordset& a = o_.sesja.rsPLA;
-    const Zakladka tu = a.Bookmark();
-    const bool jest = a.Znajdz(klucz.prcId, klucz.lista);
-    a.Bookmark(tu);
-    return jest;
+bool ListaPlac::naLiscie(const KluczListy& klucz) const {
+    return o_.sesja.rsPLA.szukaj(klucz.prcId, klucz.lista).has_value();
 }
 
 QString ListaPlac::symbolNowegoWiersza(const QString& wlasna) const {
@@ -197,10 +192,10 @@ void ListaPlac::wymagajPracownika(qint64 prcId) const {
         throw Blad(QStringLiteral("Nie ma pracownika o numerze %1 w kadrach.").arg(prcId));
 }
 
-std::optional<Waluta> ListaPlac::zapisanyZasilek(const KluczListy& klucz) {
-    Recordset& z = o_.sesja.rsZASILEK;
-    if (!z.Znajdz(klucz.prcId, klucz.lista)) return std::nullopt;
-    return z.kwota(ZASILEK("KWOTA"));
+std::optional<Waluta> ListaPlac::zapisanyZasilek(const KluczListy& klucz) const {
+    const auto zasilek = o_.sesja.rsZASILEK.szukaj(klucz.prcId, klucz.lista);
+    if (!zasilek) return std::nullopt;
+    return zasilek->kwota(ZASILEK("KWOTA"));
 }
 
 void ListaPlac::wpiszZasilek(const RachunekWiersza& r) {
@@ -223,7 +218,7 @@ RachunekWiersza ListaPlac::nowyRachunek(const AkcjaPlac& akcja, const KluczListy
                                         const DanePracownika& pracownik) {
     // No leave has been priced on it, even if a row of this key was removed before.
     RachunekWiersza r{NowyWiersz(akcja.miesiac, klucz, pracownik, akcja.odpowiedzi), Waluta{}};
-    if (o_.sesja.rsPLA.Znajdz(klucz.prcId))
+    if (o_.sesja.rsPLA.szukaj(klucz.prcId))
         r.uwagi.append({QStringLiteral("Pracownik jest w tym miesiącu także na innej liście: nieobecności, "
                                        "urlop, nadgodziny, koszty uzyskania i ulga liczą się na obu.")});
     LiczDni(akcja, r);

@@ -115,11 +115,11 @@ private:
     void wymagajPracownika(qint64 prcId) const;
     void ustawNa(const KluczListy& klucz);
     void szukajWiersza(const KluczListy& klucz);
-    [[nodiscard]] bool naLiscie(const KluczListy& klucz);
+    [[nodiscard]] bool naLiscie(const KluczListy& klucz) const;
     [[nodiscard]] QString symbolNowegoWiersza(const QString& wlasna) const;
     [[nodiscard]] MiesiacPlac miesiac() const { return {{rok_, mies_}, o_.stale, pozycje_}; }
 
-    [[nodiscard]] std::optional<Waluta> zapisanyZasilek(const KluczListy& klucz);
+    [[nodiscard]] std::optional<Waluta> zapisanyZasilek(const KluczListy& klucz) const;
     [[nodiscard]] RachunekWiersza nowyRachunek(const AkcjaPlac& akcja, const KluczListy& klucz,
                                                const DanePracownika& pracownik);
     [[nodiscard]] ZbiorPytan pytaniaWiersza(Obliczenie obliczenie, const WierszPlac& wiersz);

@@ -79,7 +79,7 @@ ZbiorPytan ListaPlac::pytaniaDodawania(const QList<qint64>& numery) {
     ZbiorPytan moga;
     for (const qint64 prcId : numery) {
         if (!s.UstawPracownika(prcId) ||
-            s.rsPLA.Znajdz(prcId, symbolNowegoWiersza(s.rsPRACPR.tekst(schemat::PRACPR("Lista")))))
+            naLiscie({prcId, symbolNowegoWiersza(s.rsPRACPR.tekst(schemat::PRACPR("Lista")))}))
             continue;
         if (!moga.ma(Pytanie::IloscZasilkow)) moga.dodaj(Pytanie::IloscZasilkow, MaIlosciZasilkow(s));
         pomijajacUszkodzonych([&] {
@@ -96,7 +96,7 @@ RaportSerii ListaPlac::DodajPracownikow(const QList<qint64>& numery) {
         wymagajPracownika(numery[i]);
         const DanePracownika pracownik = WczytajPracownika(o_.sesja);
         const KluczListy klucz{numery[i], symbolNowegoWiersza(pracownik.Lista)};
-        if (o_.sesja.rsPLA.Znajdz(klucz.prcId, klucz.lista)) return false;
+        if (naLiscie(klucz)) return false;
         RachunekWiersza r = nowyRachunek(akcja, klucz, pracownik);
         LiczSkladniki(akcja, pracownik, r);
         LiczPlace(akcja, pracownik, kPrzelicz1, r);
@@ -111,7 +111,6 @@ RaportSerii ListaPlac::DodajPracownikow(const QList<qint64>& numery) {
 }
 
 ZbiorPytan ListaPlac::pytaniaSerii(Obliczenie obliczenie, const QList<KluczListy>& wiersze) {
-    Recordset& a = o_.sesja.rsPLA;
     ZbiorPytan moga;
     for (const KluczListy& klucz : wiersze)
         pomijajacUszkodzonych([&] {
@@ -123,8 +122,8 @@ ZbiorPytan ListaPlac::pytaniaSerii(Obliczenie obliczenie, const QList<KluczListy
             } else if (!moga.ma(Pytanie::PomniejszycZasilek)) {
                 const std::optional<Waluta> zapisany = zapisanyZasilek(klucz);
                 // Without days of the insurer an unrecorded benefit is none.
-                if (!zapisany && !(a.Znajdz(klucz.prcId, klucz.lista) && a.liczba(PLA("DNI_L4_ZUS")) > 0))
-                    return;
+                const auto wiersz = o_.sesja.rsPLA.szukaj(klucz.prcId, klucz.lista);
+                if (!zapisany && !(wiersz && wiersz->liczba(PLA("DNI_L4_ZUS")) > 0)) return;
                 szukajWiersza(klucz);
                 moga |= PytaniaPlacy({}, ZasilekChorobowy(miesiac(), WczytajWiersz(o_.sesja), zapisany));
             }

@@ -1,5 +1,6 @@
 #include "payroll/lista/PolaListy.h"
 #include "common/Blad.h"
+#include "store/SchematPlac.h"
 #include <algorithm>
 
 namespace tornel::payroll {
