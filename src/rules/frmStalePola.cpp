@@ -166,10 +166,14 @@ std::optional<std::size_t> okienko(const MiejsceStalej& m) {
     return static_cast<std::size_t>(m.stala.num - kRowNGRob) * kRownanWRzedzie + m.element;
 }
 
-/// The three rows of boxes of the layout by days.
+/// What a box holds, row by row: by days constants 254 to 256, by groups constant 257, which has nothing for
+/// the last two.
 template <typename S>
-auto rzedyDni(S& stale) {
-    return std::array{&stale.RowNGRob, &stale.RowNGSob, &stale.RowNGNie};
+auto rownanie(S& stale, UkladNadgodzin uklad, std::size_t okienko) -> decltype(&stale.RowNGGr[0]) {
+    const std::array rzedy{&stale.RowNGRob, &stale.RowNGSob, &stale.RowNGNie};
+    if (uklad == UkladNadgodzin::WgDni)
+        return &rzedy.at(okienko / kRownanWRzedzie)->at(okienko % kRownanWRzedzie);
+    return okienko < stale.RowNGGr.size() ? &stale.RowNGGr.at(okienko) : nullptr;
 }
 
 Wartosc wartosc(int liczba) { return static_cast<qint64>(liczba); }
@@ -190,33 +194,14 @@ QString tekstZ(const Wartosc& wartosc) {
 
 } // namespace
 
-ZrodloStalych::ZrodloStalych(const Stale& stale) : stale_(stale) {
-    if (!stale_.SzczegRejNadg) {
-        std::ranges::copy(stale_.RowNGGr, okienkaNG_.begin());
-        return;
-    }
-    auto dokad = okienkaNG_.begin();
-    for (const auto* rzad : rzedyDni(stale_)) dokad = std::ranges::copy(*rzad, dokad).out;
-}
-
-Stale ZrodloStalych::doZapisu() const {
-    Stale wynik = stale_;
-    if (!wynik.SzczegRejNadg) {
-        // The last two boxes are of no use here.
-        std::copy_n(okienkaNG_.begin(), wynik.RowNGGr.size(), wynik.RowNGGr.begin());
-        return wynik;
-    }
-    auto skad = okienkaNG_.begin();
-    for (auto* rzad : rzedyDni(wynik)) {
-        std::copy_n(skad, rzad->size(), rzad->begin());
-        skad += static_cast<std::ptrdiff_t>(rzad->size());
-    }
-    return wynik;
-}
+ZrodloStalych::ZrodloStalych(const Stale& stale) : stale_(stale) { przyjmijUklad(); }
 
 Wartosc ZrodloStalych::czytaj(const Pole& pole) const {
     const MiejsceStalej m = miejsce(pole);
-    if (const auto nr = okienko(m)) return okienkaNG_[*nr];
+    if (const auto nr = okienko(m)) {
+        const QString* tekst = rownanie(stale_, uklad_, *nr);
+        return wartosc(tekst ? *tekst : QString());
+    }
     const Warianty naWartosc{
         [&](bool wlaczona) {
             if (pole.rodzaj == Rodzaj::Wybor) return wartosc(wlaczona ? 1 : 0);
@@ -233,7 +218,7 @@ Wartosc ZrodloStalych::czytaj(const Pole& pole) const {
 void ZrodloStalych::zapisz(const Pole& pole, const Wartosc& wartosc) {
     const MiejsceStalej m = miejsce(pole);
     if (const auto nr = okienko(m)) {
-        okienkaNG_[*nr] = tekstZ(wartosc);
+        if (QString* tekst = rownanie(stale_, uklad_, *nr)) *tekst = tekstZ(wartosc);
         return;
     }
     const Warianty zWartosci{

@@ -51,6 +51,9 @@ enum class Podpisy {
 
 } // namespace ekranStalych
 
+/// What the nine boxes of the overtime equations show.
+enum class UkladNadgodzin { WgDni, WgGrup };
+
 /// The constants as they are being edited. Nothing reaches the program or the database from here.
 class ZrodloStalych final : public ZrodloPol {
 public:
@@ -59,15 +62,15 @@ public:
     [[nodiscard]] Wartosc czytaj(const Pole& pole) const override;
     void zapisz(const Pole& pole, const Wartosc& wartosc) override;
 
-    /// The values so far; the overtime equations apart.
+    /// The values so far.
     [[nodiscard]] const Stale& stale() const { return stale_; }
-    /// The values to store, the overtime boxes in the constants of the layout in force.
-    [[nodiscard]] Stale doZapisu() const;
+    /// Lets the overtime boxes show the layout that constant 251 asks for; the equations of the other one
+    /// stay. The fields are to be collected before and shown again after it.
+    void przyjmijUklad() { uklad_ = stale_.SzczegRejNadg ? UkladNadgodzin::WgDni : UkladNadgodzin::WgGrup; }
 
 private:
     Stale stale_;
-    /// The nine boxes, row by row: by days of constants 254 to 256, or by groups of constant 257.
-    std::array<QString, 9> okienkaNG_;
+    UkladNadgodzin uklad_ = UkladNadgodzin::WgGrup;
 };
 
 } // namespace tornel::rules

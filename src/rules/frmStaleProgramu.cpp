@@ -170,8 +170,10 @@ void frmStaleProgramu::poOpuszczeniu(const QString& pole) {
     // The checks of the fields to come look at the values of those left before.
     wiazanie_.zbierz();
     pokazNazwe(pole);
-    if (pole == nazwaPola(wymaganaStala(kSzczegRejNadg)))
-        NadgSzczeg(wiazanie_, zrodlo_.stale().SzczegRejNadg);
+    if (pole != nazwaPola(wymaganaStala(kSzczegRejNadg))) return;
+    zrodlo_.przyjmijUklad();
+    wiazanie_.wczytaj();
+    NadgSzczeg(wiazanie_, zrodlo_.stale().SzczegRejNadg);
 }
 
 void frmStaleProgramu::wybierzFolder(const QString& pole) {
@@ -206,7 +208,7 @@ void frmStaleProgramu::przesunKarte(int oIle) {
 bool frmStaleProgramu::zapiszZmiany() {
     wiazanie_.zbierz();
     if (wiazanie_.wlasnieNieZrozumiano()) return false;
-    const Stale nowe = zrodlo_.doZapisu();
+    const Stale nowe = zrodlo_.stale();
     ZapiszKonfiguracje(o_.sesja, nowe);
     o_.stale = nowe;
     if (porty_.UstawDostepnoscMenu) porty_.UstawDostepnoscMenu();

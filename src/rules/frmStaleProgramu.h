@@ -40,7 +40,7 @@ public:
 
 protected:
     [[nodiscard]] bool jestZmiana() const override {
-        return wiazanie_.jestZmiana() || zrodlo_.doZapisu() != o_.stale;
+        return wiazanie_.jestZmiana() || zrodlo_.stale() != o_.stale;
     }
     [[nodiscard]] bool zapiszZmiany() override;
     void porzucZmiany() override {} // nothing has left the screen's own copy

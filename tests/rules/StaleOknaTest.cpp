@@ -305,19 +305,24 @@ TEST_F(StaleOkna, OkienkaNadgodzinMajaDwaUklady) {
               u"STC*1,STC*2,STC*3,STC*4,STC*5,STC*6,STC*7,STC*8,STC*9,"_s);
     EXPECT_EQ(wPliku(257), u",,,,,,,"_s);
 
-    // The boxes keep their text while the layout changes; what the other layout had stored stays.
+    // Each layout keeps its own equations, typed or stored.
     otworzPonownie();
     otworzEkran();
     EXPECT_EQ(podpisy(), dni);
     wpiszIOpusc(okienko(6), u"7"_s);
     kliknij(u"chkSzczegRejNadg"_s);
     EXPECT_EQ(podpisy(), grupy);
+    EXPECT_EQ(tekst(okienko(0)) + tekst(okienko(6)), QString());
+    wpiszIOpusc(okienko(6), u"5"_s);
+    kliknij(u"chkSzczegRejNadg"_s);
+    EXPECT_EQ(tekst(okienko(6)) + u' ' + tekst(okienko(7)), u"7 STC*8"_s);
+    kliknij(u"chkSzczegRejNadg"_s);
     ok();
-    EXPECT_EQ(wPliku(257), u"STC*1,STC*2,STC*3,STC*4,STC*5,STC*6,7,"_s);
-    EXPECT_EQ(wPliku(256), u"STC*7,STC*8,STC*9,"_s);
+    EXPECT_EQ(wPliku(257), u",,,,,,5,"_s);
+    EXPECT_EQ(wPliku(256), u"7,STC*8,STC*9,"_s);
     otworzEkran();
-    EXPECT_EQ(tekst(okienko(6)), u"7"_s);
-    EXPECT_EQ(tekst(okienko(8)), QString());
+    EXPECT_EQ(tekst(okienko(6)), u"5"_s);
+    EXPECT_EQ(tekst(okienko(0)), QString());
 }
 
 TEST_F(StaleOkna, ZlyWzorMowiSwojeINiczegoNieTrzyma) {

@@ -19,7 +19,7 @@ const QString kNiePoliczony = QStringLiteral(
 const QString kPrzelew = QStringLiteral("Kwota przelewu jest większa od kwoty do wypłaty.");
 
 /// "Nie policzone: 12 (nr 001, 002, ...)", nothing for none.
-QString rodzaj(const QString& nazwa, const QList<WierszDoUwagi>& wiersze, bool StanWiersza::*cecha) {
+QString opisRodzaju(const QString& nazwa, const QList<WierszDoUwagi>& wiersze, bool StanWiersza::*cecha) {
     constexpr qsizetype kNajwiecejNumerow = 10;
     QStringList numery;
     qsizetype ile = 0;
@@ -95,9 +95,9 @@ QList<WierszDoUwagi> PrzejrzyjWiersze(const Pozycje& pozycje, const Recordset& p
 
 QString OpisDoUwagi(const QList<WierszDoUwagi>& wiersze) {
     QStringList linie{
-        rodzaj(QStringLiteral("Wiersze niepoliczone"), wiersze, &StanWiersza::niePoliczony),
-        rodzaj(QStringLiteral("Przelew większy od kwoty do wypłaty"), wiersze,
-               &StanWiersza::przelewPonadWyplate),
+        opisRodzaju(QStringLiteral("Wiersze niepoliczone"), wiersze, &StanWiersza::niePoliczony),
+        opisRodzaju(QStringLiteral("Przelew większy od kwoty do wypłaty"), wiersze,
+                    &StanWiersza::przelewPonadWyplate),
     };
     linie.removeAll(QString());
     return linie.join(QLatin1Char('\n'));
