@@ -11,8 +11,10 @@
 #include "bank/frmKonta.h"
 #include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
+#include "okna/frmPytania.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
+#include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
 #include "payroll/lista/frmPlaceLista.h"
 #include "payroll/miesiace/frmPlace.h"
@@ -38,7 +40,9 @@
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
 #include <QDir>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QSettings>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
@@ -102,6 +106,17 @@ void kadryIUstawienia(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.ekran(skladniki, QStringLiteral("skladniki"));
     frmPrac prac(o, FiltrPracownikow::Wszyscy);
     zrzuty.ekran(prac, QStringLiteral("pracownicy"));
+    prac.findChild<QTabWidget*>()->setCurrentIndex(2);
+    auto* placa = prac.findChild<QLineEdit*>(QStringLiteral("txtPlaca_zas"));
+    UwagaPola::ustaw(*placa, QStringLiteral("„1.500” może znaczyć tysiące albo ułamek. Przyjęto 0,00. "
+                                            "Ctrl+Z przywraca 1800,00."));
+    prac.findChild<QLineEdit*>(QStringLiteral("txtSzukaj"))->setText(QStringLiteral("a"));
+    zrzuty.dialog(prac, QStringLiteral("pole-nie-zrozumialo"));
+    frmPytania pytania(QStringLiteral("Przelicz wszystkich"),
+                       {{QStringLiteral("Czy wyliczyć dni przepracowane ?")},
+                        {QStringLiteral("Czy pomniejszyć kwotę do wypłaty pracownika o zasiłek chorobowy ?")},
+                        {QStringLiteral("Czy doliczyć nadgodziny ?"), 1}});
+    zrzuty.dialog(pytania, QStringLiteral("pytania"));
     frmPrac nikt(o, FiltrPracownikow::Honoraria);
     zrzuty.dialog(nikt, QStringLiteral("pracownicy-pusta"));
     frmNowyPrc nowyPrc(o);
@@ -190,6 +205,8 @@ void pomoc(const Zrzuty& zrzuty, Pomoc& podrecznik, QWidget& okno) {
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir ustawienia; // what the desktop remembers of the windows is not looked at
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ustawienia.path());
     Aplikacja aplikacja(argc, argv);
     Wyglad::zastosuj(aplikacja);
     const Zrzuty zrzuty(Aplikacja::arguments().value(1, QStringLiteral("zrzuty")));

@@ -77,6 +77,7 @@ void ListaModel::ustaw(QList<WierszListy> wiersze) {
     poId_.clear();
     poId_.reserve(wiersze_.size());
     for (int i = 0; i < wiersze_.size(); ++i) poId_.insert(wiersze_.at(i).id, i);
+    kolejnosc_ = posortowane();
     uloz();
     endResetModel();
 }
@@ -109,6 +110,7 @@ void ListaModel::sort(int kolumna, Qt::SortOrder kierunek) {
     for (const QModelIndex& i : dawne) miejsca.push_back(widoczne_[static_cast<std::size_t>(i.row())]);
     kolumnaSortowania_ = kolumna;
     kierunek_ = kierunek;
+    kolejnosc_ = posortowane();
     uloz();
     QModelIndexList nowe;
     for (qsizetype i = 0; i < dawne.size(); ++i)
@@ -146,7 +148,7 @@ std::vector<int> ListaModel::posortowane() const {
 }
 
 void ListaModel::uloz() {
-    widoczne_ = posortowane();
+    widoczne_ = kolejnosc_;
     if (warunek_) std::erase_if(widoczne_, [this](int i) { return !warunek_(wiersze_.at(i)); });
     miejsca_.assign(static_cast<std::size_t>(wiersze_.size()), -1);
     for (std::size_t i = 0; i < widoczne_.size(); ++i)

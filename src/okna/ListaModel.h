@@ -80,7 +80,7 @@ public:
     void sort(int kolumna, Qt::SortOrder kierunek = Qt::AscendingOrder) override;
 
 private:
-    /// Which rows are seen, in which order.
+    /// Which rows are seen, in the order worked out.
     void uloz();
     [[nodiscard]] std::vector<int> posortowane() const;
 
@@ -90,8 +90,9 @@ private:
     Warunek warunek_;
     int kolumnaSortowania_ = -1;
     Qt::SortOrder kierunek_ = Qt::AscendingOrder;
-    std::vector<int> widoczne_; ///< by the row seen, its place in `wiersze_`
-    std::vector<int> miejsca_;  ///< the other way round, -1 for a hidden row
+    std::vector<int> kolejnosc_; ///< all places of `wiersze_` in order, so that filtering sorts nothing
+    std::vector<int> widoczne_;  ///< by the row seen, its place in `wiersze_`
+    std::vector<int> miejsca_;   ///< the other way round, -1 for a hidden row
 };
 
 } // namespace tornel::okna

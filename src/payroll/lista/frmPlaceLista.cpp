@@ -2,7 +2,6 @@
 #include "common/Blad.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
-#include "okna/Aplikacja.h"
 #include "okna/Klepsydra.h"
 #include "okna/PoleSzukania.h"
 #include "okna/WidokListy.h"
@@ -13,13 +12,12 @@
 #include "personnel/frmWybPr.h"
 #include "store/Sesja.h"
 #include <algorithm>
-#include <QCloseEvent>
 #include <QHash>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
+#include <QSplitter>
 #include <QVBoxLayout>
 #include <set>
 
@@ -41,7 +39,8 @@ QLabel* napis(const QString& nazwa) {
 } // namespace
 
 frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
+    : Okno(QStringLiteral("frmPlaceLista"), rodzic, PoEnterze::NastepnePole), o_(otoczenie),
+      lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
       lvwPlace_(new WidokListy(
           {{QStringLiteral("NAZWISKO")}, {QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("LISTA")}},
           {60, 18, 22})),
@@ -49,7 +48,6 @@ frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QStrin
       labPracownik_(napis(QStringLiteral("labPracownik"))), labKwoty_(napis(QStringLiteral("labKwoty"))),
       labIleWierszy_(napis(QStringLiteral("labIleWierszy"))), labUwaga_(Wyglad::baner({}, this)) {
     const Klepsydra klepsydra;
-    setObjectName(QStringLiteral("frmPlaceLista"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* uklad = new QVBoxLayout(this);
     uklad->addWidget(Wyglad::baner(
@@ -57,10 +55,7 @@ frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QStrin
             ? QStringLiteral("Miesiąc jest zablokowany: dane można oglądać, nie można ich zmieniać.")
             : QString(),
         this));
-    auto* srodek = new QHBoxLayout;
-    srodek->addWidget(lewaStrona());
-    srodek->addWidget(prawaStrona(), 1);
-    uklad->addLayout(srodek, 1);
+    uklad->addWidget(dzielnik(lewaStrona(), 43 * Wyglad::kSiatka, prawaStrona()), 1);
     uklad->addWidget(pasek_);
     budujSkroty();
     resize(156 * Wyglad::kSiatka, 92 * Wyglad::kSiatka);
@@ -90,8 +85,6 @@ void frmPlaceLista::polacz() {
         przejrzyjBiezacy();
     });
     connect(zakladki_, &ZakladkiListy::skladnikiZmienione, this, [this] { wskazPrzelicz(true); });
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
-        connect(program, &Aplikacja::danePrzeczytane, this, &frmPlaceLista::pokazPonownie);
 }
 
 void frmPlaceLista::budujSkroty() {
@@ -107,7 +100,6 @@ void frmPlaceLista::budujSkroty() {
 QWidget* frmPlaceLista::lewaStrona() {
     lvwPlace_->setObjectName(QStringLiteral("lvwPlace"));
     auto* lewa = new QWidget;
-    lewa->setFixedWidth(43 * Wyglad::kSiatka);
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(new PoleSzukania(*lvwPlace_, LpNumer, LpNazwisko));
@@ -182,6 +174,14 @@ void frmPlaceLista::pokazListe(const std::optional<KluczListy>& zaznacz) {
 
 void frmPlaceLista::wybierzWiersz(qint64 id) {
     zakladki_->zakoncz();
+    if (zakladki_->wlasnieNieZrozumiano() && lista_.wiersz() && *lista_.wiersz() != linie_.at(id).klucz) {
+        // The row stays until the clerk has seen what its field did not take; not at once, since the view is
+        // still in the middle of its own change.
+        const auto tu = std::ranges::find(linie_, *lista_.wiersz(), &LiniaListy::klucz) - linie_.begin();
+        QMetaObject::invokeMethod(
+            this, [this, tu] { lvwPlace_->wybierz(tu); }, Qt::QueuedConnection);
+        return;
+    }
     przeliczNastepne_ = false;
     wypiszWiersz(linie_.at(id).klucz);
 }
@@ -380,8 +380,9 @@ QList<KluczListy> frmPlaceLista::klucze() const {
     return wynik;
 }
 
-void frmPlaceLista::done(int wynik) {
+bool frmPlaceLista::moznaZamknac() {
     zakladki_->zakoncz();
+    if (zakladki_->wlasnieNieZrozumiano()) return false;
     powiedzOUwagach();
     const Klepsydra klepsydra;
     try {
@@ -392,14 +393,7 @@ void frmPlaceLista::done(int wynik) {
         o_.rozmowa.komunikat(blad.komunikat(), Styl::Krytyczny);
     }
     o_.sesja.ZamknijMiesiac();
-    QDialog::done(wynik);
-}
-
-void frmPlaceLista::closeEvent(QCloseEvent* zdarzenie) {
-    // Refused in advance: should the field in work fail to be stored, the screen has to stay.
-    zdarzenie->ignore();
-    reject();
-    zdarzenie->setAccepted(!isVisible());
+    return true;
 }
 
 void frmPlaceLista::nastepnePole() {
@@ -409,15 +403,7 @@ void frmPlaceLista::nastepnePole() {
 }
 
 void frmPlaceLista::keyPressEvent(QKeyEvent* zdarzenie) {
-    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
-    if (enter) {
-        if (auto* naPrzycisku = qobject_cast<QPushButton*>(focusWidget()))
-            naPrzycisku->click();
-        else
-            nastepnePole();
-    } else if (zdarzenie->key() != Qt::Key_Escape || !zakladki_->cofnijWpisywane()) {
-        QDialog::keyPressEvent(zdarzenie);
-    }
+    if (zdarzenie->key() != Qt::Key_Escape || !zakladki_->cofnijWpisywane()) Okno::keyPressEvent(zdarzenie);
 }
 
 } // namespace tornel::payroll

@@ -1,6 +1,7 @@
 // The working place of a payroll month: its list, the tabs of the row chosen, and the calculations.
 #pragma once
 #include "okna/ListaModel.h"
+#include "okna/Okno.h"
 #include "payroll/lista/KontrolaWierszy.h"
 #include "payroll/lista/ListaPlac.h"
 #include "payroll/miesiace/Miesiace.h"
@@ -8,7 +9,6 @@
 #include "rules/Otoczenie.h"
 #include <map>
 #include <optional>
-#include <QDialog>
 #include <QList>
 #include <utility>
 
@@ -23,7 +23,7 @@ namespace tornel::payroll {
 class PasekListy;
 class ZakladkiListy;
 
-class frmPlaceLista : public QDialog {
+class frmPlaceLista : public Okno {
     Q_OBJECT
 public:
     /// Opens the month on the session's handles; closing the screen closes it. `symbol`: a blank for all
@@ -31,12 +31,12 @@ public:
     frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic = nullptr);
     ~frmPlaceLista() override;
 
-    /// Stores what is pending and the month sums, then closes the month. It stays open when the field in work
-    /// cannot be stored.
-    void done(int wynik) override;
-
 protected:
-    void closeEvent(QCloseEvent* zdarzenie) override;
+    /// Stores what is pending and the month sums, then closes the month. It stays open when the field in work
+    /// cannot be stored, or has just had to say that it did not understand what was typed.
+    [[nodiscard]] bool moznaZamknac() override;
+    void pokazPonownie() override;
+    void nastepnePole() override;
     void keyPressEvent(QKeyEvent* zdarzenie) override;
 
 private:
@@ -50,7 +50,6 @@ private:
     void wybierzWiersz(qint64 id);
     void wypiszWiersz(const KluczListy& klucz);
     void wypiszBiezacy();
-    void pokazPonownie();
     void pokazNaglowek();
     [[nodiscard]] std::optional<KluczListy> biezacy() const;
 
@@ -73,7 +72,6 @@ private:
     void wskazPrzelicz(bool tak);
     void pokazOznaczenie();
     void powiedzOUwagach() const;
-    void nastepnePole();
 
     using Klucz = std::pair<qint64, QString>;
 

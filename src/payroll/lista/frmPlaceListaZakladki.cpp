@@ -188,11 +188,19 @@ void ZakladkiListy::wyroznij(Zakladka zakladka, bool tak) {
 }
 
 void ZakladkiListy::Wypisz_daneP() {
-    wiazanie_.wczytaj();
+    // What a field said of the clerk's text outlives the calculation of its row.
+    if (pokazany_ && pokazany_ == lista_.wiersz())
+        wiazanie_.odswiez();
+    else
+        wiazanie_.wczytaj();
+    pokazany_ = lista_.wiersz();
     opiszStawki();
 }
 
-void ZakladkiListy::Wyczysc_daneP() { wiazanie_.czysc(); }
+void ZakladkiListy::Wyczysc_daneP() {
+    pokazany_.reset();
+    wiazanie_.czysc();
+}
 
 bool ZakladkiListy::cofnijWpisywane() {
     if (!wiazanie_.jestZmiana()) return false;

@@ -48,6 +48,8 @@ public:
 
     /// Leaves the field in work, which stores it.
     void zakoncz() { wiazanie_.zakoncz(); }
+    /// Whether a field has just had to say that it did not understand what was typed.
+    [[nodiscard]] bool wlasnieNieZrozumiano() const { return wiazanie_.wlasnieNieZrozumiano(); }
     /// Takes back what was typed into the field in work; false if there is nothing.
     bool cofnijWpisywane();
     /// Marks a tab as the one that waits for the clerk.
@@ -80,6 +82,7 @@ private:
     Wiazanie wiazanie_;
     QHash<QString, Kolumna> kolumny_;
     QList<const PoleEkranu*> zeStawka_;
+    std::optional<KluczListy> pokazany_;
 };
 
 } // namespace tornel::payroll

@@ -1,7 +1,6 @@
 #include "payroll/miesiace/frmPlace.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
-#include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
 #include "okna/Klepsydra.h"
 #include "okna/Przyciski.h"
@@ -11,10 +10,10 @@
 #include "rules/Stale.h"
 #include "store/Sesja.h"
 #include <algorithm>
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 namespace tornel::payroll {
@@ -56,25 +55,21 @@ QStringList tekstyWiersza(const WierszMiesiaca& w) {
 } // namespace
 
 frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), miesiace_(otoczenie), zrodlo_{&otoczenie.sesja.rsPLACE},
-      wiazanie_(zrodlo_),
+    : OknoEdycji(QStringLiteral("frmPlace"), otoczenie.rozmowa, Zamykanie::Zapis, rodzic,
+                 PoEnterze::PrzyciskDomyslny),
+      o_(otoczenie), miesiace_(otoczenie), zrodlo_{&otoczenie.sesja.rsPLACE}, wiazanie_(zrodlo_),
       lvwLista_(new WidokListy({{QStringLiteral("MIESIĄC"), Qt::AlignLeft, Porzadek::Data},
                                 {QString()},
                                 {QStringLiteral("STATUS")}},
                                {25, 35, 35})) {
     const Klepsydra klepsydra;
-    setObjectName(QStringLiteral("frmPlace"));
     setWindowTitle(QStringLiteral("Lista płac"));
     lvwLista_->setObjectName(QStringLiteral("lvwLista"));
-    lvwLista_->setFixedWidth(44 * Wyglad::kSiatka);
     lvwLista_->ustawPodpowiedz(QStringLiteral(
         "Nie ma jeszcze żadnego miesiąca.\nPrzycisk „Nowy” tworzy pierwszą miesięczną listę płac."));
     budujPrzyciski();
     auto* uklad = new QVBoxLayout(this);
-    auto* srodek = new QHBoxLayout;
-    srodek->addWidget(lvwLista_);
-    srodek->addWidget(ramki(), 1);
-    uklad->addLayout(srodek, 1);
+    uklad->addWidget(dzielnik(lvwLista_, 44 * Wyglad::kSiatka, ramki()), 1);
     uklad->addWidget(
         rzadPrzyciskow({cmdNowy_, cmdUsun_, cmdBlokada_, cmdWejdz_, przyciskPomocy(), cmdAnuluj_}));
     cmdWejdz_->setDefault(true);
@@ -85,8 +80,6 @@ frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic)
         Wypisz_dane(RokMies::zId(id));
     });
     connect(lvwLista_, &WidokListy::wejscie, this, &frmPlace::WejdzNaListe);
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
-        connect(program, &Aplikacja::danePrzeczytane, this, &frmPlace::pokazPonownie);
     connect(&przeglad_, &QTimer::timeout, this, &frmPlace::przejrzyjNastepny);
     Wczytaj_liste();
     lvwLista_->setFocus();
@@ -160,10 +153,13 @@ void frmPlace::Wypisz_dane(std::optional<RokMies> miesiac) {
 }
 
 void frmPlace::zapiszOpis() {
-    wiazanie_.zakoncz();
-    if (!biezacy_ || !wiazanie_.jestZmiana()) return;
+    if (jestZmiana()) (void)zapiszZmiany();
+}
+
+bool frmPlace::zapiszZmiany() {
     miesiace_.ZapiszOpis(*biezacy_, wiazanie_.tekst(kOpis));
     wiazanie_.wczytaj();
+    return true;
 }
 
 void frmPlace::pokazPonownie() {
@@ -188,9 +184,7 @@ void frmPlace::nowy() {
 void frmPlace::usun() {
     zapiszOpis();
     if (!biezacy_) return;
-    const ListaModel& lista = lvwLista_->lista();
-    const int wiersz = lvwLista_->currentIndex().row();
-    const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
+    const qint64 sasiad = lvwLista_->sasiad(biezacy_->id());
     if (miesiace_.Usun_miesiac(*biezacy_)) Wczytaj_liste(RokMies::zId(sasiad));
 }
 
@@ -212,18 +206,6 @@ void frmPlace::WejdzNaListe() {
     frmPlaceLista(o_, *biezacy_, symbol, this).exec();
     Wypisz_dane(biezacy_);
     przejrzyj(doPrzejrzenia_ + QList{*biezacy_});
-}
-
-void frmPlace::done(int wynik) {
-    zapiszOpis();
-    QDialog::done(wynik);
-}
-
-void frmPlace::closeEvent(QCloseEvent* zdarzenie) {
-    // Refused in advance: should the note fail to be stored, the screen has to stay.
-    zdarzenie->ignore();
-    reject();
-    zdarzenie->setAccepted(!isVisible());
 }
 
 } // namespace tornel::payroll

@@ -1,10 +1,10 @@
 // The payroll months: making, deleting and blocking them, their summary, and the way to a month's list.
 #pragma once
+#include "okna/Okno.h"
 #include "okna/Wiazanie.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "rules/Otoczenie.h"
 #include <optional>
-#include <QDialog>
 #include <QList>
 #include <QTimer>
 
@@ -16,17 +16,17 @@ class WidokListy;
 
 namespace tornel::payroll {
 
-class frmPlace : public QDialog {
+class frmPlace : public OknoEdycji {
     Q_OBJECT
 public:
     /// Opens the month headers anew. Throws `BladBazy`.
     explicit frmPlace(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
 
-    /// Stores the month's note first; it stays open when that fails.
-    void done(int wynik) override;
-
 protected:
-    void closeEvent(QCloseEvent* zdarzenie) override;
+    [[nodiscard]] bool jestZmiana() const override { return biezacy_ && wiazanie_.jestZmiana(); }
+    [[nodiscard]] bool zapiszZmiany() override;
+    void porzucZmiany() override { wiazanie_.wczytaj(); }
+    void pokazPonownie() override;
 
 private:
     void budujPrzyciski();
@@ -38,7 +38,6 @@ private:
     /// with rows that need attention.
     void przejrzyj(QList<RokMies> miesiace);
     void przejrzyjNastepny();
-    void pokazPonownie();
     void nowy();
     void usun();
     void blokuj();

@@ -4,7 +4,6 @@
 #include "common/Godziny.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
-#include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
 #include "okna/Klepsydra.h"
 #include "okna/PoleSzukania.h"
@@ -13,12 +12,12 @@
 #include "okna/Wyglad.h"
 #include "payroll/nadgodziny/frmNadgSiatka.h"
 #include "personnel/frmWybPr.h"
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 namespace tornel::payroll {
@@ -80,7 +79,7 @@ WidokListy* tabliczkaRownan() {
 } // namespace
 
 frmNadg::frmNadg(Otoczenie& otoczenie, QWidget* rodzic)
-    : QDialog(rodzic), o_(otoczenie), nadgodziny_(otoczenie),
+    : Okno(QStringLiteral("frmNadg"), rodzic), o_(otoczenie), nadgodziny_(otoczenie),
       lvwLista_(new WidokListy({{QStringLiteral("MIESIĄC"), Qt::AlignLeft, Porzadek::Data}, {QString()}},
                                {35, 65})),
       lvwOsoby_(new WidokListy({{QStringLiteral("NR"), Qt::AlignRight},
@@ -91,15 +90,11 @@ frmNadg::frmNadg(Otoczenie& otoczenie, QWidget* rodzic)
       lvwSumy_(tabliczkaSum(otoczenie.stale)), lvwRownania_(tabliczkaRownan()), siatka_(new SiatkaNadgodzin),
       labOsoba_(new QLabel), labIleOsob_(new QLabel) {
     const Klepsydra klepsydra;
-    setObjectName(QStringLiteral("frmNadg"));
     setWindowTitle(QStringLiteral("Nadgodzinowe listy płac"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     budujPrzyciski();
     auto* uklad = new QVBoxLayout(this);
-    auto* srodek = new QHBoxLayout;
-    srodek->addWidget(lewaStrona());
-    srodek->addWidget(prawaStrona(), 1);
-    uklad->addLayout(srodek, 1);
+    uklad->addWidget(dzielnik(lewaStrona(), 39 * Wyglad::kSiatka, prawaStrona()), 1);
     uklad->addWidget(rzadPrzyciskow({cmdNowaLista_, cmdUsunListe_, cmdNowaOsoba_, cmdUsunOsobe_, cmdOdswiez_,
                                      przyciskPomocy(), cmdAnuluj_}));
     setMinimumSize(128 * Wyglad::kSiatka, 75 * Wyglad::kSiatka); // below it the sums are cut off
@@ -148,8 +143,6 @@ void frmNadg::polacz() {
     connect(&siatka_->nadgodziny(), &ModelNadgodzin::zmieniono, this, &frmNadg::pokazSumy);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
             [this] { findChild<PoleSzukania*>()->setFocus(Qt::ShortcutFocusReason); });
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
-        connect(program, &Aplikacja::danePrzeczytane, this, &frmNadg::pokazPonownie);
 }
 
 QWidget* frmNadg::lewaStrona() {
@@ -160,7 +153,6 @@ QWidget* frmNadg::lewaStrona() {
     lvwOsoby_->setObjectName(QStringLiteral("lvwOsoby"));
     labIleOsob_->setObjectName(QStringLiteral("labIleOsob"));
     auto* lewa = new QWidget;
-    lewa->setFixedWidth(39 * Wyglad::kSiatka);
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(lvwLista_);
@@ -306,9 +298,7 @@ void frmNadg::NowaLista() {
 
 void frmNadg::UsunListe() {
     siatka_->zakoncz();
-    const ListaModel& lista = lvwLista_->lista();
-    const int wiersz = lvwLista_->currentIndex().row();
-    const qint64 sasiad = lista.id(wiersz + 1 < lista.rowCount() ? wiersz + 1 : wiersz - 1);
+    const qint64 sasiad = lvwLista_->sasiad(lvwLista_->wybrany());
     if (nadgodziny_.UsunListe(RokMies::zId(lvwLista_->wybrany()))) pokazListe(RokMies::zId(sasiad));
 }
 
@@ -332,9 +322,7 @@ void frmNadg::NowaOsoba() {
 void frmNadg::UsunOsobe() {
     siatka_->zakoncz();
     if (!lista_ || !lista_->osoba()) return;
-    const ListaModel& osoby = lvwOsoby_->lista();
-    const int wiersz = lvwOsoby_->currentIndex().row();
-    const qint64 sasiad = osoby.id(wiersz + 1 < osoby.rowCount() ? wiersz + 1 : wiersz - 1);
+    const qint64 sasiad = lvwOsoby_->sasiad(lista_->osoba()->prcId);
     if (lista_->UsunOsobe()) pokazOsoby(sasiad);
 }
 
@@ -355,16 +343,9 @@ void frmNadg::odswiez() {
     raport.pokaz(o_.rozmowa);
 }
 
-void frmNadg::done(int wynik) {
+bool frmNadg::moznaZamknac() {
     siatka_->zakoncz();
-    QDialog::done(wynik);
-}
-
-void frmNadg::closeEvent(QCloseEvent* zdarzenie) {
-    // Refused in advance: should the cell in work fail to be stored, the screen has to stay.
-    zdarzenie->ignore();
-    reject();
-    zdarzenie->setAccepted(!isVisible());
+    return true;
 }
 
 } // namespace tornel::payroll

@@ -1,11 +1,11 @@
 // Overtime lists: the months, the persons of a month, the hours of a person with their amounts and sums.
 #pragma once
+#include "okna/Okno.h"
 #include "payroll/nadgodziny/ListaNadgodzin.h"
 #include "payroll/nadgodziny/Nadgodziny.h"
 #include "rules/Otoczenie.h"
 #include <memory>
 #include <optional>
-#include <QDialog>
 
 class QLabel;
 class QPushButton;
@@ -18,18 +18,17 @@ namespace tornel::payroll {
 
 class SiatkaNadgodzin;
 
-class frmNadg : public QDialog {
+class frmNadg : public Okno {
     Q_OBJECT
 public:
     /// Opens the overtime months anew and shows the last one. Throws `BladBazy`.
     explicit frmNadg(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
     ~frmNadg() override;
 
-    /// Stores the cell in work first; the screen stays open when that fails.
-    void done(int wynik) override;
-
 protected:
-    void closeEvent(QCloseEvent* zdarzenie) override;
+    /// Stores the cell in work first; the screen stays open when that fails.
+    [[nodiscard]] bool moznaZamknac() override;
+    void pokazPonownie() override;
 
 private:
     void budujPrzyciski();
@@ -43,7 +42,6 @@ private:
     void WypiszNadgodziny(qint64 prcId);
     void pokazSumy();
     void pokazRownania();
-    void pokazPonownie();
     void ustawDostepnosc();
 
     void NowaLista();
