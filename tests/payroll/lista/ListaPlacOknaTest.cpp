@@ -101,13 +101,13 @@ TEST_F(ListaPlacOknaTest, ZlosliweTekstyWPolachLiczb) {
         QString wpisany, kwota, dni;
     };
     const Przypadek przypadki[] = {
-        {u"abc"_s, u"0,00"_s, u"0"_s},      {u"1,2,3"_s, u"0,00"_s, u"0"_s},
-        {u"1 650"_s, u"1650,00"_s, u"1650"_s},    {u" 17 "_s, u"17,00"_s, u"17"_s},
-        {u"1e300"_s, u"0,00"_s, u"0"_s},    {u"-0"_s, u"0,00"_s, u"0"_s},
-        {u"-5"_s, u"-5,00"_s, u"-5"_s},     {u"😀"_s, u"0,00"_s, u"0"_s},
-        {u"٣٤"_s, u"0,00"_s, u"0"_s},       {u"0,125"_s, u"0,13"_s, u"0"_s},
-        {u"' OR 1=1"_s, u"0,00"_s, u"0"_s}, {u"%1\\0"_s, u"0,00"_s, u"0"_s},
-        {QString(5000, u'7'), {}, u"0"_s},  {u"NaN"_s, u"0,00"_s, u"0"_s},
+        {u"abc"_s, u"0,00"_s, u"0"_s},         {u"1,2,3"_s, u"0,00"_s, u"0"_s},
+        {u"1 650"_s, u"1650,00"_s, u"1650"_s}, {u" 17 "_s, u"17,00"_s, u"17"_s},
+        {u"1e300"_s, u"0,00"_s, u"0"_s},       {u"-0"_s, u"0,00"_s, u"0"_s},
+        {u"-5"_s, u"-5,00"_s, u"-5"_s},        {u"😀"_s, u"0,00"_s, u"0"_s},
+        {u"٣٤"_s, u"0,00"_s, u"0"_s},          {u"0,125"_s, u"0,13"_s, u"0"_s},
+        {u"' OR 1=1"_s, u"0,00"_s, u"0"_s},    {u"%1\\0"_s, u"0,00"_s, u"0"_s},
+        {QString(5000, u'7'), {}, u"0"_s},     {u"NaN"_s, u"0,00"_s, u"0"_s},
     };
     naprawiaj();
     Transakcja szybko(sesja().cnPlace, u"Dane testu"); // spares a sync of the file for each field
