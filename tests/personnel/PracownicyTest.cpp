@@ -231,7 +231,7 @@ TEST_F(PracownicyTest, DeletionNamesTheMonthsAndContractsLeftBehind) {
         rs.Open(sesja().cnPlace, nazwa);
         rs.AddNewZero();
         for (const auto& [kolumna, wartosc] : wartosci) rs.ustaw(kolumna, wartosc);
-        rs.UpdateBatch();
+        rs.UpdateBatch(u"Dane testu");
     };
     using namespace schemat;
     for (const int mies : {12, 2, 1, 4}) {
