@@ -101,13 +101,13 @@ TEST_F(ListaPlacOknaTest, ZlosliweTekstyWPolachLiczb) {
         QString wpisany, kwota, dni;
     };
     const Przypadek przypadki[] = {
-        {u"abc"_s, u"0,00"_s, u"0"_s},      {u"1,2,3"_s, u"0,00"_s, u"0"_s},
-        {u"1 650"_s, u"1650,00"_s, u"1650"_s},    {u" 17 "_s, u"17,00"_s, u"17"_s},
-        {u"1e300"_s, u"0,00"_s, u"0"_s},    {u"-0"_s, u"0,00"_s, u"0"_s},
-        {u"-5"_s, u"-5,00"_s, u"-5"_s},     {u"😀"_s, u"0,00"_s, u"0"_s},
-        {u"٣٤"_s, u"0,00"_s, u"0"_s},       {u"0,125"_s, u"0,13"_s, u"0"_s},
-        {u"' OR 1=1"_s, u"0,00"_s, u"0"_s}, {u"%1\\0"_s, u"0,00"_s, u"0"_s},
-        {QString(5000, u'7'), {}, u"0"_s},  {u"NaN"_s, u"0,00"_s, u"0"_s},
+        {u"abc"_s, u"0,00"_s, u"0"_s},         {u"1,2,3"_s, u"0,00"_s, u"0"_s},
+        {u"1 650"_s, u"1650,00"_s, u"1650"_s}, {u" 17 "_s, u"17,00"_s, u"17"_s},
+        {u"1e300"_s, u"0,00"_s, u"0"_s},       {u"-0"_s, u"0,00"_s, u"0"_s},
+        {u"-5"_s, u"-5,00"_s, u"-5"_s},        {u"😀"_s, u"0,00"_s, u"0"_s},
+        {u"٣٤"_s, u"0,00"_s, u"0"_s},          {u"0,125"_s, u"0,13"_s, u"0"_s},
+        {u"' OR 1=1"_s, u"0,00"_s, u"0"_s},    {u"%1\\0"_s, u"0,00"_s, u"0"_s},
+        {QString(5000, u'7'), {}, u"0"_s},     {u"NaN"_s, u"0,00"_s, u"0"_s},
     };
     naprawiaj();
     Transakcja szybko(sesja().cnPlace, u"Dane testu"); // spares a sync of the file for each field
@@ -404,6 +404,7 @@ TEST_F(ListaPlacOknaTest, MiesiaceNieISymbolListy) {
         EXPECT_EQ(okno.windowTitle(), u"Lista plac (B) za miesiąc 07.2001"_s);
         EXPECT_FALSE(widzet(okno, u"cmdUsun"_s).isEnabled());
         EXPECT_FALSE(widzet(okno, u"cmdDrukuj"_s).isEnabled());
+        rozmowa_.spodziewaj(pytania::naInnejLiscie, Styl::Wykrzyknik);
         rozmowa_.spodziewaj(pytania::dniWylaczone, Styl::Wykrzyknik);
         wybierzOsoby();
         klik(okno, u"cmdNowy"_s);
