@@ -216,7 +216,7 @@ int main(int argc, char** argv) {
     UtworzPrzyklad(plik);
     RozmowaOkien rozmowa;
     Program program(plik, baza.path(), rozmowa);
-    (void)SprawdzUzytkownika(program.sesja(), QStringLiteral("Admin"), {});
+    (void)SprawdzLogin(program.sesja(), QStringLiteral("Admin"), {});
     Otoczenie& o = program.otoczenie();
 
     frmSplash powitanie;
