@@ -197,7 +197,7 @@ TEST_F(RejestryOknaTest, PokrycieIRezygnacjaNiczegoNieDopisuja) {
     // A dismissed employee is offered only once the clerk asks for the dismissed.
     ASSERT_TRUE(sesja().rsPRACPR.Znajdz(7));
     sesja().rsPRACPR.ustawFlage(schemat::PRACPR("Zwoln"), true);
-    sesja().rsPRACPR.UpdateBatch();
+    sesja().rsPRACPR.UpdateBatch(u"Dane testu");
     potem<frmWybPr>([](frmWybPr& okno) {
         EXPECT_EQ(okno.findChild<WidokListy*>()->lista().wiersz(7), -1);
         okno.findChild<QCheckBox*>(u"chkZwolnieni"_s)->click();

@@ -404,6 +404,9 @@ TEST_F(ListaPlacOknaTest, MiesiaceNieISymbolListy) {
         EXPECT_EQ(okno.windowTitle(), u"Lista plac (B) za miesiąc 07.2001"_s);
         EXPECT_FALSE(widzet(okno, u"cmdUsun"_s).isEnabled());
         EXPECT_FALSE(widzet(okno, u"cmdDrukuj"_s).isEnabled());
+        rozmowa_.spodziewaj(u"Pracownik jest w tym miesiącu także na innej liście: nieobecności, urlop, "
+                            u"nadgodziny, koszty uzyskania i ulga liczą się na obu."_s,
+                            Styl::Wykrzyknik);
         rozmowa_.spodziewaj(pytania::dniWylaczone, Styl::Wykrzyknik);
         wybierzOsoby();
         klik(okno, u"cmdNowy"_s);
