@@ -395,8 +395,6 @@ TEST_F(ListaPlacTest, ABlockedMonthIsReadAndNeverWritten) {
     pracownik(2, "placa_zas=1000");
     (void)lista()->DodajPracownikow({1});
     blokada(kLipiec, Odpowiedz::Nie);
-    sesja().cnPlace.wykonaj("UPDATE PLACE SET il_wyplat=0, sum_brutto=0"); // not even to put it right
-    sesja().rsPLACE.Requery();
     skladnik(5, "BZU", false); // since then out of use,
     skladnik(10, "   ", true); // without flags,
     skladnik(3, "BZU", true);  // and put to use
