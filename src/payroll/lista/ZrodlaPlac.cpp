@@ -1,4 +1,5 @@
 #include "payroll/lista/ZrodlaPlac.h"
+#include "common/Blad.h"
 #include "common/Rozmowa.h"
 #include "payroll/lista/StareBrutto.h"
 #include "rules/Stale.h"
@@ -39,28 +40,48 @@ void ZrodlaPlac::dodajPytaniaDni(const MiesiacPlac& miesiac, qint64 prcId, Zakre
         moga.dodaj(Pytanie::SzukacOgolnych);
 }
 
+namespace {
+
+/// A register that cannot be read for damage may hold something: were its question left out, the calculation
+/// would pass the damage by instead of naming the employee.
+template <typename Funkcja>
+bool jestAlboUszkodzone(const Funkcja& jest) {
+    try {
+        return jest();
+    } catch (const BladBazy&) {
+        throw;
+    } catch (const Blad&) {
+        return true;
+    }
+}
+
+} // namespace
+
 void ZrodlaPlac::dodajPytaniaSkladnikow(const MiesiacPlac& miesiac, qint64 prcId, ZbiorPytan& moga) {
     const Stale& c = o_.stale;
     if (c.AktRejNadg && !moga.ma(Pytanie::PrzenosicNadgodziny))
-        moga.dodaj(Pytanie::PrzenosicNadgodziny, nadgodziny_.pracownika(prcId).has_value());
-    if (!moga.ma(Pytanie::LiczycL4) || !moga.ma(Pytanie::PomniejszycZasilek)) {
-        const Nieobecnosci zwolnienia = nieobecnosci_.zwolnieniaRoku(prcId);
-        if (SaZwolnieniaMiesiaca(zwolnienia, miesiac.rm)) {
-            moga.dodaj(Pytanie::LiczycL4);
-            moga.dodaj(Pytanie::ObowiazekZKalendarza, c.OsobHarPrac);
-            moga.dodaj(Pytanie::ZasadniczaPoL4, c.PlZas != 0);
-            // The bonus follows the base salary of the row, and is left alone where that is out of use.
-            moga.dodaj(Pytanie::PremiaPoL4, c.PremPr != 0 && (c.PlZas == 0 || miesiac.aktywny(c.PlZas)));
-            if (PlaciUbezpieczyciel(miesiac, zwolnienia)) moga.dodaj(Pytanie::PomniejszycZasilek);
-        }
+        moga.dodaj(Pytanie::PrzenosicNadgodziny,
+                   jestAlboUszkodzone([&] { return nadgodziny_.pracownika(prcId).has_value(); }));
+    if ((!moga.ma(Pytanie::LiczycL4) || !moga.ma(Pytanie::PomniejszycZasilek)) && jestAlboUszkodzone([&] {
+            return SaZwolnieniaMiesiaca(nieobecnosci_.zwolnieniaRoku(prcId), miesiac.rm);
+        })) {
+        moga.dodaj(Pytanie::LiczycL4);
+        moga.dodaj(Pytanie::ObowiazekZKalendarza, c.OsobHarPrac);
+        moga.dodaj(Pytanie::ZasadniczaPoL4, c.PlZas != 0);
+        // The bonus follows the base salary of the row, and is left alone where that is out of use.
+        moga.dodaj(Pytanie::PremiaPoL4, c.PremPr != 0 && (c.PlZas == 0 || miesiac.aktywny(c.PlZas)));
+        if (jestAlboUszkodzone(
+                [&] { return PlaciUbezpieczyciel(miesiac, nieobecnosci_.zwolnieniaRoku(prcId)); }))
+            moga.dodaj(Pytanie::PomniejszycZasilek);
     }
-    if (!moga.ma(Pytanie::LiczycUrlop) || !moga.ma(Pytanie::JedenSkladnik)) {
-        const Nieobecnosci urlopy = nieobecnosci_.urlopy(prcId);
-        if (urlopy.empty()) return;
+    if ((!moga.ma(Pytanie::LiczycUrlop) || !moga.ma(Pytanie::JedenSkladnik)) &&
+        jestAlboUszkodzone([&] { return !nieobecnosci_.urlopy(prcId).empty(); })) {
         moga.dodaj(Pytanie::LiczycUrlop);
         moga.dodaj(Pytanie::UrlopZKalendarza, c.OsobHarPrac);
         moga.dodaj(Pytanie::SkladnikiPoUrlopie);
-        if (OkresyUrlopow(miesiac.rm, urlopy).size() > 1) moga.dodaj(Pytanie::JedenSkladnik);
+        if (jestAlboUszkodzone(
+                [&] { return OkresyUrlopow(miesiac.rm, nieobecnosci_.urlopy(prcId)).size() > 1; }))
+            moga.dodaj(Pytanie::JedenSkladnik);
     }
 }
 

@@ -80,6 +80,7 @@ TEST_F(MiesiacNieobecnosciTest, OvertimeIsAddedToItsComponentsAfreshEachTime) {
 
     sesja().cnPlace.wykonaj("DROP TABLE NADGN200107");
     ASSERT_TRUE(l->Wypisz_daneP({1, u" "_s}));
+    rozmowa_.spodziewaj(pytania::nadgodziny, Odpowiedz::Tak);
     EXPECT_THROW(l->Przelicz2(), Blad);
     stale().AktRejNadg = false;
     l->Przelicz2();
@@ -493,9 +494,9 @@ TEST_F(DrogiTest, DamagedRegistersHarmNobodyElse) {
          u"kolumnie DZIEN_2 tabeli KALENDARZ"},
         {"damaged overtime", "INSERT INTO NADGN200107 (PRC_ID, SP_K1) VALUES (#, 'x')", nullptr,
          u"kolumnie SP_K1 tabeli NADGN200107"},
-        {"a damaged contract",
-         "INSERT INTO UZL (UZLID, prc_id, data_wyp, Brutto) VALUES (#, #, '2001-03-01', 'x')", nullptr,
-         u"kolumnie Brutto tabeli UZL"},
+        {"a damaged contract, which a batch does not read",
+         "INSERT INTO UZL (UZLID, prc_id, data_wyp, Brutto) VALUES (#, #, '2001-03-01', 'x')",
+         "DN_RO=22 BRUTTO=1001"},
         {"somebody healthy, after all of them",
          "INSERT INTO ZW (prc_id, Data, data_do, st_proc) VALUES (#, '2001-07-02', '2001-07-03', 800000)",
          "DN_RO=20 DN_ZAS=2 SP_20=160 SP_10=1"},
@@ -506,16 +507,18 @@ TEST_F(DrogiTest, DamagedRegistersHarmNobodyElse) {
     s.NrNGS = {10};
     nadgodziny({});
     QList<qint64> numery;
+    QStringList szkody;
     for (const auto& p : przypadki) {
         const qint64 nr = numery.size() + 1;
         numery += nr;
         pracownik(nr, "placa_zas=1000 DOD_10=1");
         wczesniej({2001, 6}, nr, "SP_1=3000 DN_RO=20");
-        sesja().cnPlace.wykonaj(QString::fromLatin1(p.sql)
-                                    .replace(u"#"_s, QString::number(nr))
-                                    .replace(u"MAX"_s, u"9223372036854775807"_s)
-                                    .toStdString());
+        szkody.append(QString::fromLatin1(p.sql)
+                          .replace(u"#"_s, QString::number(nr))
+                          .replace(u"MAX"_s, u"9223372036854775807"_s));
     }
+    // A handle refuses a damaged table, so the damage is done when all rows are there.
+    sesja().cnPlace.wykonaj(szkody.join(u';').toStdString());
     for (const Droga droga : {Droga::SeriaFirmy, Droga::MaleSerie}) {
         const auto niepowodzenia = policz(droga, numery, u"po L-4"_s);
         const auto stan = wiersze();
