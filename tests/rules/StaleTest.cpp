@@ -192,7 +192,7 @@ TEST_F(StaleTest, UstawionaStalaDzialaOdRazuIPoUruchomieniu) {
         std::string zapisane;
     };
     const Przypadek przypadki[] = {
-        {20, QStringLiteral("9.765"), "9,77"},
+        {20, QStringLiteral("9,765"), "9,77"},
         {60, QStringLiteral(" 2 "), "2"},
         {67, QStringLiteral("n"), "False"},
         {527, QStringLiteral("2001-07-31"), "31-07-2001"},
