@@ -42,7 +42,7 @@ QDate data(const Wywolanie& w, const QString& opcja) {
 
 std::optional<Waluta> kwota(const Wywolanie& w, const QString& opcja) {
     if (!w.argumenty.ma(opcja)) return std::nullopt;
-    const auto wartosc = CzytajKwote(w.argumenty.wartosc(opcja));
+    const auto wartosc = CzytajKwote(w.argumenty.wartosc(opcja), Zapis::Dane);
     if (!wartosc || *wartosc < Waluta{})
         throw ZleUzycie(
             QStringLiteral("--%1: \"%2\" nie jest kwotą.").arg(opcja, w.argumenty.wartosc(opcja)));

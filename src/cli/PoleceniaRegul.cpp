@@ -14,7 +14,7 @@ namespace {
 
 void ustawZmienna(ZmienneWzoru& zmienne, const QString& podana) {
     const qsizetype znak = podana.indexOf(QLatin1Char('='));
-    const auto wartosc = znak < 0 ? std::nullopt : CzytajKwote(podana.mid(znak + 1));
+    const auto wartosc = znak < 0 ? std::nullopt : CzytajKwote(podana.mid(znak + 1), Zapis::Dane);
     if (!wartosc) throw ZleUzycie(QStringLiteral("\"%1\" nie ma postaci NAZWA=LICZBA.").arg(podana));
     if (!zmienne.ustaw(podana.left(znak).trimmed().toUpper(), *wartosc))
         throw ZleUzycie(QStringLiteral("Język wzorów nie ma zmiennej %1.").arg(podana.left(znak)));
@@ -40,7 +40,7 @@ int wzor(Wywolanie& w) {
 
 int slownie(Wywolanie& w) {
     const QString& tekst = w.argumenty.pozycje.first();
-    const auto kwota = CzytajKwote(tekst);
+    const auto kwota = CzytajKwote(tekst, Zapis::Dane);
     if (!kwota) throw ZleUzycie(QStringLiteral("\"%1\" nie jest kwotą.").arg(tekst));
     const QString slowa = SlownieKwota(*kwota);
     if (w.json())

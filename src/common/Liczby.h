@@ -15,7 +15,8 @@ enum class Zapis {
     /// "1.500"
     /// alone could be either and is no number.
     Pole,
-    Dane, ///< stored or exchanged: a comma or a dot as the decimal mark, no grouping, a sign before
+    Dane, ///< stored, exchanged or given to a command: a comma or a dot as the decimal mark, no grouping, a
+          ///< sign before
     Wzor, ///< the formula language: a comma only, and an optional exponent ("1,5E+20")
 };
 

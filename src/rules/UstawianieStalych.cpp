@@ -46,7 +46,7 @@ int liczba(const StalaDef& stala, const QString& tekst) {
 }
 
 Waluta kwota(const StalaDef& stala, const QString& tekst) {
-    const auto wynik = CzytajKwote(tekst);
+    const auto wynik = CzytajKwote(tekst, Zapis::Dane);
     if (!wynik) odmow(stala, QStringLiteral("tekst \"%1\" nie jest liczbą.").arg(tekst));
     return *wynik;
 }
