@@ -1,6 +1,6 @@
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
-#include "store/Struktura.h"
+#include "wsparcie/DawnaBaza.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
 #include <QDateTime>
@@ -136,8 +136,7 @@ TEST_F(RozruchBazyTest, TheNextStartKeepsWhatIsThereAndMendsWhatIsMissing) {
     sesja().rsUZYTKOWNICY.Delete();
     sesja().rsUZYTKOWNICY.UpdateBatch(u"Dane testu");
     // A file of an older program; the clerk is told where it was put aside.
-    UsunTabele(sesja().cnPlace, u"ZASILEK"_s);
-    UstawWersje(sesja().cnPlace, 0);
+    dawnaBaza(sesja().cnPlace);
     program_.reset();
     const QString czas = QFileInfo(sciezka()).lastModified().toString(u"yyyyMMdd-HHmmss"_s);
     const QString kopia = folder_.filePath(u"Tornel-wersja-0-%1.mdb"_s.arg(czas));

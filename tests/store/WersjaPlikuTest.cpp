@@ -4,6 +4,7 @@
 #include "common/Blad.h"
 #include "store/Sesja.h"
 #include "store/Struktura.h"
+#include "wsparcie/DawnaBaza.h"
 #include "wsparcie/Proces.h"
 #include "wsparcie/Przestrzen.h"
 #include <QDateTime>
@@ -29,9 +30,7 @@ protected:
             sesja.rsKONTA.AddNewZero(1);
             sesja.rsKONTA.UpdateBatch(u"Dane testu");
             nowa_ = budowa(sesja.cnPlace);
-            for (const QString& tabela : {QStringLiteral("ZASILEK"), QStringLiteral("WPISANE")})
-                UsunTabele(sesja.cnPlace, tabela);
-            UstawWersje(sesja.cnPlace, 0);
+            dawnaBaza(sesja.cnPlace);
             sesja.cnPlace.wykonaj("VACUUM"); // what stood in a free page is not brought back
         }
         QFile plik(plik_);
