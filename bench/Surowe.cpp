@@ -10,16 +10,16 @@ using namespace tornel::start;
 namespace {
 
 /// All values of a table as they stand in the file, so that the writing alone is measured.
-struct Wiersze {
+struct SuroweWiersze {
     std::string nazwa;
     int kolumn = 0;
     std::vector<sqlite3_value*> wartosci;
-    ~Wiersze() {
+    ~SuroweWiersze() {
         for (sqlite3_value* w : wartosci) sqlite3_value_free(w);
     }
 };
 
-void wczytaj(sqlite3* baza, Wiersze& cel) {
+void wczytaj(sqlite3* baza, SuroweWiersze& cel) {
     sqlite3_stmt* s = nullptr;
     sqlite3_prepare_v2(baza, ("SELECT * FROM " + cel.nazwa).c_str(), -1, &s, nullptr);
     cel.kolumn = sqlite3_column_count(s);
@@ -29,7 +29,7 @@ void wczytaj(sqlite3* baza, Wiersze& cel) {
     sqlite3_finalize(s);
 }
 
-void wpisz(sqlite3* baza, const Wiersze& wiersze) {
+void wpisz(sqlite3* baza, const SuroweWiersze& wiersze) {
     std::string znaki("?");
     for (int k = 1; k < wiersze.kolumn; ++k) znaki += ",?";
     sqlite3_stmt* s = nullptr;
@@ -51,7 +51,7 @@ double ZapiszSurowo(Sesja& sesja, int miesiac) {
     QFile::remove(plik);
     UtworzBaze(plik);
     Polaczenie cel(plik, Polaczenie::Sposob::Istniejaca);
-    std::vector<Wiersze> tabele(schemat::TabeleMiesiaca.size());
+    std::vector<SuroweWiersze> tabele(schemat::TabeleMiesiaca.size());
     for (std::size_t i = 0; i < tabele.size(); ++i) {
         const QString nazwa = Sesja::nazwaMiesiaca(schemat::TabeleMiesiaca[i]->nazwa, 2001, miesiac);
         UtworzTabele(cel, *schemat::TabeleMiesiaca[i], nazwa);
@@ -61,7 +61,7 @@ double ZapiszSurowo(Sesja& sesja, int miesiac) {
     QElapsedTimer zegar;
     zegar.start();
     cel.wykonaj("BEGIN");
-    for (const Wiersze& tabela : tabele) wpisz(cel.uchwyt(), tabela);
+    for (const SuroweWiersze& tabela : tabele) wpisz(cel.uchwyt(), tabela);
     cel.wykonaj("COMMIT");
     return static_cast<double>(zegar.nsecsElapsed()) / 1e9;
 }
