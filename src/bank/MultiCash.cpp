@@ -129,7 +129,7 @@ std::optional<int> MultiCash::wykonaj(const PrzebiegMCS& przebieg, Recordset& do
         doOznaczenia.Bookmark(zakladka);
         doOznaczenia.ustawFlage(znak, true);
     }
-    doOznaczenia.UpdateBatch();
+    doOznaczenia.UpdateBatch(u"Plik przelewów dla banku");
     o_.rozmowa.komunikat(QStringLiteral("Plik ") + QDir::toNativeSeparators(plik) +
                              QStringLiteral(" został utworzony."),
                          Styl::Informacja);

@@ -145,7 +145,7 @@ void Przelewy::ZapiszPrzelewy(const QList<Przelew>& przelewy) {
     const Przelew& ostatni = przelewy.constLast();
     for (const auto& [kolumna, pole] : teksty) rs.ustaw(kolumna, ostatni.*pole);
     rs.ustaw(PRZELEW("Kwota"), ostatni.Kwota);
-    rs.UpdateBatch();
+    rs.UpdateBatch(u"Przelew");
 }
 
 QList<KontoNadawcy> KontaNadawcy(Otoczenie& otoczenie) {
