@@ -22,7 +22,7 @@ const QList<OpcjaPolecenia>& opcjeOgolne() {
 const QList<Polecenie>& polecenia() {
     static const QList<Polecenie> wszystkie =
         poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
-        poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku();
+        poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaWydrukow();
     return wszystkie;
 }
 

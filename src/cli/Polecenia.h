@@ -35,5 +35,6 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaListy();
 [[nodiscard]] QList<Polecenie> poleceniaNadgodzin();
 [[nodiscard]] QList<Polecenie> poleceniaBanku();
+[[nodiscard]] QList<Polecenie> poleceniaWydrukow();
 
 } // namespace tornel::cli

@@ -5,6 +5,7 @@
 #include "rules/SkladnikiPlac.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
+#include <QRegularExpression>
 
 namespace tornel::reports {
 
@@ -45,10 +46,8 @@ constexpr PoleKolumna kKolumny[] = {
 
 /// What a payslip takes off the pay besides the components.
 constexpr std::pair<PoleListyPlac, QStringView> kPotracane[] = {
-    {Emerytalna, u"Fundusz emerytalny"},
-    {Rentowa, u"Fundusz rentowy"},
-    {Chorobowa, u"Fundusz chorobowy"},
-    {Zdrowotna, u"Ubezpieczenie zdrowotne"},
+    {Emerytalna, u"Fundusz emerytalny"}, {Rentowa, u"Fundusz rentowy"},
+    {Chorobowa, u"Fundusz chorobowy"},   {Zdrowotna, u"Ubezpieczenie zdrowotne"},
     {Zaliczka, u"Zaliczka na podatek"},
 };
 

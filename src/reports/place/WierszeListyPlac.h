@@ -13,8 +13,8 @@ class ListaPlac;
 
 namespace tornel::reports {
 
-/// The fields of a row. Behind the last of them stand the components: `polePlusa(1)` to `polePlusa(30)`, `poleMinusa(1)` to
-/// `poleMinusa(15)`.
+/// The fields of a row. Behind the last of them stand the components: `polePlusa(1)` to `polePlusa(30)`,
+/// `poleMinusa(1)` to `poleMinusa(15)`.
 enum PoleListyPlac : int {
     Numer,
     Osoba,
@@ -54,15 +54,15 @@ inline constexpr int kPolListyPlac = OstatniePole + 45;
 struct NaglowekListyPlac {
     QString firma;
     RokMies miesiac;
-    QString symbol;               ///< blank for all lists
-    QStringList plusy, minusy;    ///< names by number, from 1; element 0 is empty
+    QString symbol;                         ///< blank for all lists
+    QStringList plusy, minusy;              ///< names by number, from 1; element 0 is empty
     QList<int> uzywanePlusy, uzywaneMinusy; ///< numbers of the positions in use, ascending
 };
 
 class WierszeListyPlac final : public WierszeDruku {
 public:
-    /// The rows of the list in work, or of one employee. They are read from the session's handles each time a page is drawn, so the month
-    /// stays open and unchanged for as long as the print lives.
+    /// The rows of the list in work, or of one employee. They are read from the session's handles each time a
+    /// page is drawn, so the month stays open and unchanged for as long as the print lives.
     WierszeListyPlac(Otoczenie& otoczenie, const ListaPlac& lista, std::optional<qint64> prcId = {});
 
     [[nodiscard]] const NaglowekListyPlac& naglowek() const { return naglowek_; }

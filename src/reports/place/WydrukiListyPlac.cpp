@@ -11,7 +11,7 @@ namespace {
 
 using Rodzaj = Element::Rodzaj;
 
-constexpr double kWiersz = 4.6;  // mm
+constexpr double kWiersz = 4.6; // mm
 constexpr double kLiniaBloku = 3.9;
 
 QString zaMiesiac(const NaglowekListyPlac& n) {
@@ -31,7 +31,8 @@ OpisWydruku podstawa(const NaglowekListyPlac& n, QStringView nazwa, const QStrin
 }
 
 Pasmo stopka(const OpisWydruku& opis, QDate dzien) {
-    return stopkaStrony(opis.strona, QStringLiteral("%1      Wydrukowano %2").arg(opis.tytul, FormatDaty(dzien)));
+    return stopkaStrony(opis.strona,
+                        QStringLiteral("%1      Wydrukowano %2").arg(opis.tytul, FormatDaty(dzien)));
 }
 
 /// A table with the sums of the page and of the whole.
@@ -106,11 +107,13 @@ struct Siatka {
     int linii;
     double y;
 
-    void dodaj(QList<Element>& elementy, int i, const QString& napis, int pole, Format format, Pismo pismo) const {
+    void dodaj(QList<Element>& elementy, int i, const QString& napis, int pole, Format format,
+               Pismo pismo) const {
         const double xKolumny = x + (i / linii) * (szer + odstep), yLinii = y + (i % linii) * kLiniaBloku;
         constexpr double kKwota = 19;
-        elementy.append(
-            {.miejsce = {xKolumny, yLinii, szer - kKwota, kLiniaBloku}, .tekst = napis, .pismo = Pismo::Drobne});
+        elementy.append({.miejsce = {xKolumny, yLinii, szer - kKwota, kLiniaBloku},
+                         .tekst = napis,
+                         .pismo = Pismo::Drobne});
         elementy.append({.rodzaj = Rodzaj::Pole,
                          .miejsce = {xKolumny + szer - kKwota, yLinii, kKwota, kLiniaBloku},
                          .pole = pole,
@@ -120,13 +123,11 @@ struct Siatka {
     }
 };
 
-OpisWydruku wersja1(const NaglowekListyPlac& n, QDate dzien) {
-    OpisWydruku opis = podstawa(n, u"lista-plac", QStringLiteral("Lista płac"), true);
-    const double szer = opis.strona.szerTresci();
-    QList<std::pair<QString, int>> skladniki;
-    for (const int i : n.uzywanePlusy) skladniki.append({n.plusy[i], polePlusa(i)});
-    for (const int i : n.uzywaneMinusy) skladniki.append({n.minusy[i], poleMinusa(i)});
-    static const QList<std::pair<QString, int>> wyliczenie{
+using Pozycje = QList<std::pair<QString, int>>; // captions with their fields
+
+/// What every employee's block tells of the computation.
+const Pozycje& wyliczenie() {
+    static const Pozycje pozycje{
         {QStringLiteral("Brutto"), Brutto},
         {QStringLiteral("Fundusz emerytalny"), Emerytalna},
         {QStringLiteral("Fundusz rentowy"), Rentowa},
@@ -143,70 +144,103 @@ OpisWydruku wersja1(const NaglowekListyPlac& n, QDate dzien) {
         {QStringLiteral("Przelewem"), Przelewem},
         {QStringLiteral("Gotówką"), Gotowka},
     };
+    return pozycje;
+}
+
+/// Days at the top of a block or the bottom of a slip.
+void dodajDni(QList<Element>& e, double x, double y, double krok) {
+    static const Pozycje dni{{QStringLiteral("Dni pracy:"), DniPracy},
+                             {QStringLiteral("Dni urlopu:"), DniUrlopu},
+                             {QStringLiteral("Dni L-4:"), DniChorobowe}};
+    for (const auto& [napis, pole] : dni) {
+        e.append({.miejsce = {x, y, 18, 4}, .tekst = napis, .pismo = Pismo::Drobne});
+        e.append(
+            {.rodzaj = Rodzaj::Pole, .miejsce = {x + 18, y, 8, 4}, .pole = pole, .format = Format::Liczba});
+        x += krok;
+    }
+}
+
+/// Only components that somebody has in the month: the block stays as small as the month allows.
+Pozycje uzyteSkladniki(const WierszeListyPlac& wiersze) {
+    const NaglowekListyPlac& n = wiersze.naglowek();
+    Pozycje wynik;
+    const auto dodaj = [&](const QString& nazwa, int pole) {
+        if (wiersze.uzyty(pole)) wynik.append({nazwa, pole});
+    };
+    for (const int i : n.uzywanePlusy) dodaj(n.plusy[i], polePlusa(i));
+    for (const int i : n.uzywaneMinusy) dodaj(n.minusy[i], poleMinusa(i));
+    return wynik;
+}
+
+Pasmo blokPracownika(const Pozycje& skladniki, double szer) {
     constexpr int kKolumnySkladnikow = 3, kLiniiWyliczenia = 8;
-    const int linii = std::max(kLiniiWyliczenia,
-                               static_cast<int>((skladniki.size() + kKolumnySkladnikow - 1) / kKolumnySkladnikow));
-    constexpr double kTytulBloku = 5, kKolumna = 53, kOdstep = 3;
+    constexpr double kTytulBloku = 5, kKolumna = 53, kOdstep = 3, kPodpis = 52;
+    const int linii = std::max(
+        kLiniiWyliczenia, static_cast<int>((skladniki.size() + kKolumnySkladnikow - 1) / kKolumnySkladnikow));
     Pasmo blok{.rola = Rola::Wiersz, .wys = kTytulBloku + linii * kLiniaBloku + 3};
     QList<Element>& e = blok.elementy;
     e.append({.rodzaj = Rodzaj::Linia, .miejsce = {0, 0, szer, 0}});
-    e.append({.rodzaj = Rodzaj::Pole, .miejsce = {0, 0.5, 12, 4.5}, .pole = Numer, .format = Format::Liczba, .pismo = Pismo::Wazne});
+    e.append({.rodzaj = Rodzaj::Pole,
+              .miejsce = {0, 0.5, 12, 4.5},
+              .pole = Numer,
+              .format = Format::Liczba,
+              .pismo = Pismo::Wazne});
     e.append({.rodzaj = Rodzaj::Pole, .miejsce = {13, 0.5, 90, 4.5}, .pole = Osoba, .pismo = Pismo::Wazne});
-    const std::pair<QString, int> dni[] = {{QStringLiteral("Dni pracy:"), DniPracy},
-                                           {QStringLiteral("urlopu:"), DniUrlopu},
-                                           {QStringLiteral("L-4:"), DniChorobowe}};
-    double x = 110;
-    for (const auto& [napis, pole] : dni) {
-        e.append({.miejsce = {x, 0.5, 16, 4.5}, .tekst = napis, .pismo = Pismo::Drobne, .ulozenie = Ulozenie::Prawo});
-        e.append({.rodzaj = Rodzaj::Pole, .miejsce = {x + 17, 0.5, 8, 4.5}, .pole = pole, .format = Format::Liczba});
-        x += 24;
-    }
+    dodajDni(e, 112, 0.5, 28);
     const Siatka lewa{0, kKolumna, kOdstep, linii, kTytulBloku};
     for (int i = 0; i < skladniki.size(); ++i)
         lewa.dodaj(e, i, skladniki[i].first, skladniki[i].second, Format::KwotaBezZera, Pismo::Zwykle);
-    const double prawaX = kKolumnySkladnikow * (kKolumna + kOdstep);
-    const Siatka prawa{prawaX, 50, kOdstep, kLiniiWyliczenia, kTytulBloku};
-    for (int i = 0; i < wyliczenie.size(); ++i)
-        prawa.dodaj(e, i, wyliczenie[i].first, wyliczenie[i].second, Format::Kwota,
-                    wyliczenie[i].second == DoWyplaty || wyliczenie[i].second == Brutto ? Pismo::Wazne
-                                                                                         : Pismo::Zwykle);
-    const double podpisY = blok.wys - 4;
-    e.append({.miejsce = {szer - 52, podpisY - 5, 52, 4},
-              .tekst = QStringLiteral("......................................................"),
+    const Siatka prawa{kKolumnySkladnikow * (kKolumna + kOdstep), 50, kOdstep, kLiniiWyliczenia, kTytulBloku};
+    for (int i = 0; i < wyliczenie().size(); ++i) {
+        const auto& [napis, pole] = wyliczenie()[i];
+        const bool glowna = pole == DoWyplaty || pole == Brutto;
+        prawa.dodaj(e, i, napis, pole, Format::Kwota, glowna ? Pismo::Wazne : Pismo::Zwykle);
+    }
+    e.append({.miejsce = {szer - kPodpis, blok.wys - 5, kPodpis, 4},
+              .tekst = QStringLiteral("podpis ............................................."),
               .pismo = Pismo::Drobne,
-              .ulozenie = Ulozenie::Srodek});
-    e.append({.miejsce = {szer - 52, podpisY - 1.5, 52, 3},
-              .tekst = QStringLiteral("podpis"),
-              .pismo = Pismo::Drobne,
-              .ulozenie = Ulozenie::Srodek});
+              .ulozenie = Ulozenie::Prawo});
+    return blok;
+}
 
-    const auto sumy = [&](const QString& podpis, Rodzaj rodzaj) {
-        QList<Element> s{{.rodzaj = Rodzaj::Linia, .miejsce = {0, 0, szer, 0}},
-                         {.miejsce = {0, 1, 36, 4}, .tekst = podpis, .pismo = Pismo::Wazne}};
-        const std::pair<QString, int> pola[] = {{QStringLiteral("Brutto"), Brutto},
-                                                {QStringLiteral("Składki"), SkladkiPracownika},
-                                                {QStringLiteral("Zdrowotne"), Zdrowotna},
-                                                {QStringLiteral("Podatek"), Zaliczka},
-                                                {QStringLiteral("Do wypłaty"), DoWyplaty},
-                                                {QStringLiteral("Przelewem"), Przelewem},
-                                                {QStringLiteral("Gotówką"), Gotowka}};
-        double xs = 37;
-        const double krok = (szer - xs) / static_cast<double>(std::size(pola));
-        for (const auto& [napis, pole] : pola) {
-            s.append({.miejsce = {xs, 1, 15, 4}, .tekst = napis, .pismo = Pismo::Drobne});
-            s.append({.rodzaj = rodzaj, .miejsce = {xs + 12, 1, krok - 14, 4}, .pole = pole, .format = Format::Kwota,
-                      .pismo = Pismo::Wazne, .ulozenie = Ulozenie::Prawo});
-            xs += krok;
-        }
-        return s;
-    };
+/// The sums of the page or of the list on one line.
+QList<Element> sumyBlokow(const QString& podpis, Rodzaj rodzaj, double szer) {
+    static const Pozycje pola{
+        {QStringLiteral("Brutto"), Brutto},        {QStringLiteral("Składki"), SkladkiPracownika},
+        {QStringLiteral("Zdrowotne"), Zdrowotna},  {QStringLiteral("Podatek"), Zaliczka},
+        {QStringLiteral("Do wypłaty"), DoWyplaty}, {QStringLiteral("Przelewem"), Przelewem},
+        {QStringLiteral("Gotówką"), Gotowka}};
+    QList<Element> s{{.rodzaj = Rodzaj::Linia, .miejsce = {0, 0, szer, 0}},
+                     {.miejsce = {0, 1, 36, 4}, .tekst = podpis, .pismo = Pismo::Wazne}};
+    double x = 37;
+    const double krok = (szer - x) / static_cast<double>(pola.size());
+    for (const auto& [napis, pole] : pola) {
+        s.append({.miejsce = {x, 1, 15, 4}, .tekst = napis, .pismo = Pismo::Drobne});
+        s.append({.rodzaj = rodzaj,
+                  .miejsce = {x + 12, 1, krok - 14, 4},
+                  .pole = pole,
+                  .format = Format::Kwota,
+                  .pismo = Pismo::Wazne,
+                  .ulozenie = Ulozenie::Prawo});
+        x += krok;
+    }
+    return s;
+}
+
+OpisWydruku wersja1(const WierszeListyPlac& wiersze, QDate dzien) {
+    const NaglowekListyPlac& n = wiersze.naglowek();
+    OpisWydruku opis = podstawa(n, u"lista-plac", QStringLiteral("Lista płac"), true);
+    constexpr double kSumy = 6;
+    const double szer = opis.strona.szerTresci();
     Pasmo dolStrony = stopka(opis, dzien);
-    for (Element& el : dolStrony.elementy) el.miejsce.y += 6;
-    dolStrony.elementy += sumy(QStringLiteral("Razem strona"), Rodzaj::SumaStr);
-    dolStrony.wys += 6;
+    for (Element& e : dolStrony.elementy) e.miejsce.y += kSumy;
+    dolStrony.elementy += sumyBlokow(QStringLiteral("Razem strona"), Rodzaj::SumaStr, szer);
+    dolStrony.wys += kSumy;
     opis.arkusze = {{naglowekWydruku(opis.strona, n.firma, QStringLiteral("Lista płac"), zaMiesiac(n)),
-                     blok,
-                     {.rola = Rola::StopkaWydruku, .wys = 6, .elementy = sumy(QStringLiteral("Razem lista"), Rodzaj::Suma)},
+                     blokPracownika(uzyteSkladniki(wiersze), szer),
+                     {.rola = Rola::StopkaWydruku,
+                      .wys = kSumy,
+                      .elementy = sumyBlokow(QStringLiteral("Razem lista"), Rodzaj::Suma, szer)},
                      dolStrony}};
     return opis;
 }
@@ -226,7 +260,8 @@ OpisWydruku pokwitowania(const NaglowekListyPlac& n) {
         e.append({.miejsce = m, .tekst = t, .pismo = pismo, .ulozenie = u});
     };
     const auto pole = [&](Miejsce m, int nr, Format f, Pismo pismo, Ulozenie u = Ulozenie::Lewo) {
-        e.append({.rodzaj = Rodzaj::Pole, .miejsce = m, .pole = nr, .format = f, .pismo = pismo, .ulozenie = u});
+        e.append(
+            {.rodzaj = Rodzaj::Pole, .miejsce = m, .pole = nr, .format = f, .pismo = pismo, .ulozenie = u});
     };
     tekst({0, 2, szer, 3.5}, n.firma, Pismo::Drobne);
     tekst({0, 5.5, 80, 5}, QStringLiteral("Pokwitowanie ") + zaMiesiac(n), Pismo::Podtytul);
@@ -239,7 +274,8 @@ OpisWydruku pokwitowania(const NaglowekListyPlac& n) {
     pole({0, yLinii, polowa - 24, wysLinii}, SpisNalezne, Format::Tekst, Pismo::Zwykle);
     pole({polowa - 24, yLinii, 24, wysLinii}, SpisKwot, Format::Tekst, Pismo::Zwykle, Ulozenie::Prawo);
     pole({polowa + 4, yLinii, polowa - 24, wysLinii}, SpisPotracane, Format::Tekst, Pismo::Zwykle);
-    pole({szer - 24, yLinii, 24, wysLinii}, SpisKwotPotracanych, Format::Tekst, Pismo::Zwykle, Ulozenie::Prawo);
+    pole({szer - 24, yLinii, 24, wysLinii}, SpisKwotPotracanych, Format::Tekst, Pismo::Zwykle,
+         Ulozenie::Prawo);
     const double d = wys - kDolSlipu;
     e.append({.rodzaj = Rodzaj::Linia, .miejsce = {0, d, szer, 0}});
     tekst({0, d + 0.5, 16, 4}, QStringLiteral("Brutto:"), Pismo::Drobne);
@@ -252,17 +288,10 @@ OpisWydruku pokwitowania(const NaglowekListyPlac& n) {
     pole({szer - 28, d + 0.5, 28, 4}, DoWyplaty, Format::Kwota, Pismo::Wazne, Ulozenie::Prawo);
     tekst({0, d + 5, 16, 4}, QStringLiteral("Słownie:"), Pismo::Drobne);
     pole({16, d + 5, szer - 16, 4}, Slownie, Format::Tekst, Pismo::Zwykle);
-    const std::pair<QString, int> dni[] = {{QStringLiteral("Dni pracy:"), DniPracy},
-                                           {QStringLiteral("Dni urlopu:"), DniUrlopu},
-                                           {QStringLiteral("Dni L-4:"), DniChorobowe}};
-    double x = 0;
-    for (const auto& [napis, nr] : dni) {
-        tekst({x, d + 9.5, 18, 4}, napis, Pismo::Drobne);
-        pole({x + 18, d + 9.5, 8, 4}, nr, Format::Liczba, Pismo::Zwykle);
-        x += 28;
-    }
-    tekst({szer - 62, d + 9.5, 62, 4}, QStringLiteral("podpis ....................................................."),
-          Pismo::Drobne, Ulozenie::Prawo);
+    dodajDni(e, 0, d + 9.5, 28);
+    tekst({szer - 62, d + 9.5, 62, 4},
+          QStringLiteral("podpis ....................................................."), Pismo::Drobne,
+          Ulozenie::Prawo);
     e.append({.rodzaj = Rodzaj::Przerywana, .miejsce = {0, wys - 0.2, szer, 0}});
     opis.arkusze = {{p}};
     return opis;
@@ -286,7 +315,7 @@ std::shared_ptr<const Uklad> UlozWydrukListy(WydrukListy ktory, Otoczenie& otocz
     const NaglowekListyPlac& n = wiersze->naglowek();
     switch (ktory) {
     case WydrukListy::ListaPlac:
-        return std::make_shared<Uklad>(wersja1(n, dzien), wiersze);
+        return std::make_shared<Uklad>(wersja1(*wiersze, dzien), wiersze);
     case WydrukListy::Wersja2:
         return std::make_shared<Uklad>(wersja2(n, dzien), wiersze);
     case WydrukListy::Wersja3:

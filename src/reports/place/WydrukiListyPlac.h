@@ -22,8 +22,8 @@ struct OpisWydrukuListy {
 };
 [[nodiscard]] std::span<const OpisWydrukuListy> wydrukiListy();
 
-/// The print of the list in work; `prcId` narrows it to one employee. `dzien` is the day of printing. The open month must not change while the print lives. Reads
-/// `PLA`, `PLB`, `PLS`, `PLACEN`. Throws `Blad`.
+/// The print of the list in work; `prcId` narrows it to one employee. `dzien` is the day of printing. The
+/// open month must not change while the print lives. Reads `PLA`, `PLB`, `PLS`, `PLACEN`. Throws `Blad`.
 [[nodiscard]] std::shared_ptr<const Uklad> UlozWydrukListy(WydrukListy ktory, Otoczenie& otoczenie,
                                                            const ListaPlac& lista, QDate dzien,
                                                            std::optional<qint64> prcId = {});

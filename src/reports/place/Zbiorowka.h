@@ -9,11 +9,11 @@ class WierszeListyPlac;
 
 /// `opis` brings page and title, `stopka` the foot of the pages. Reads `PLA`, `PLB` of the open month, `US`.
 [[nodiscard]] std::shared_ptr<const Uklad> UlozZbiorowke(OpisWydruku opis, Otoczenie& otoczenie,
-                                                         const WierszeListyPlac& wiersze, const QString& zaMiesiac,
-                                                         const Pasmo& stopka);
+                                                         const WierszeListyPlac& wiersze,
+                                                         const QString& zaMiesiac, const Pasmo& stopka);
 
-/// How many pieces of each denomination pay out the amounts one by one, the largest first; what is left over goes to
-/// nobody. Denominations in zł.
+/// How many pieces of each denomination pay out the amounts one by one, the largest first; what is left over
+/// goes to nobody. Denominations in zł.
 struct Nominal {
     Waluta nominal;
     qint64 sztuk = 0;
