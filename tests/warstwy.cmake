@@ -2,8 +2,8 @@
 cmake_minimum_required(VERSION 3.25)
 
 # A folder may include itself and those before it.
-set(FOLDERY common store rules personnel payroll bank contracts tax zus reports start app cli)
-set(DLA_OKIEN common store okna)
+set(FOLDERY common store druk rules personnel payroll bank contracts tax zus reports start app cli)
+set(DLA_OKIEN common store druk okna)
 set(POZA_QTWIDGETS "^Q(PrintDialog|PrintPreviewDialog|PrintPreviewWidget|PageSetupDialog|AbstractPrintDialog)$")
 set(BLEDY "")
 

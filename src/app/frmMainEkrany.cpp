@@ -3,6 +3,7 @@
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
 #include "bank/frmKonta.h"
+#include "okna/Drukowanie.h"
 #include "payroll/miesiace/frmPlace.h"
 #include "payroll/nadgodziny/frmNadg.h"
 #include "personnel/frmDniWolne.h"
@@ -13,8 +14,10 @@
 #include "personnel/frmRejZwoln.h"
 #include "personnel/frmTrDoPr.h"
 #include "personnel/frmUS.h"
+#include "reports/place/WydrukiListyPlac.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
+#include "rules/Stale.h"
 
 namespace tornel::app {
 
@@ -24,6 +27,27 @@ namespace {
 template <typename Ekran>
 void zarejestruj(frmMain& okno, Otoczenie& otoczenie, Wejscie wejscie) {
     okno.rejestruj(wejscie, [&] { Ekran(otoczenie, &okno).exec(); });
+}
+
+/// The prints of the payroll list, by the captions of its menu.
+PortWydrukow wydrukiListyPlac(Otoczenie& otoczenie) {
+    const QString dlaWybranego = QStringLiteral("Pokwitowanie dla wybranego");
+    PortWydrukow port;
+    for (const reports::OpisWydrukuListy& w : reports::wydrukiListy())
+        port.dostepne.append(w.napis.toString());
+    port.dostepne.append(dlaWybranego);
+    port.drukuj = [&otoczenie, dlaWybranego](const QString& napis, const ListaPlac& lista,
+                                             std::optional<qint64> prcId, QWidget* rodzic) {
+        const bool wybrany = napis == dlaWybranego;
+        auto ktory = reports::WydrukListy::Pokwitowania;
+        for (const reports::OpisWydrukuListy& w : reports::wydrukiListy())
+            if (w.napis == napis) ktory = w.ktory;
+        const auto podglad = otoczenie.stale.DrukReszta ? Podglad::Nie : Podglad::Tak;
+        PokazWydruk(reports::UlozWydrukListy(ktory, otoczenie, lista, QDate::currentDate(),
+                                             wybrany ? prcId : std::nullopt),
+                    podglad, otoczenie.rozmowa, rodzic);
+    };
+    return port;
 }
 
 } // namespace
@@ -39,7 +63,8 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     };
     for (const auto& [wejscie, filtr] : kadry)
         okno.rejestruj(wejscie, [&, f = filtr] { frmPrac(otoczenie, f, &okno).exec(); });
-    zarejestruj<frmPlace>(okno, otoczenie, Wejscie::ListaPlac);
+    okno.rejestruj(Wejscie::ListaPlac,
+                   [&] { frmPlace(otoczenie, &okno, wydrukiListyPlac(otoczenie)).exec(); });
     zarejestruj<frmNadg>(okno, otoczenie, Wejscie::Nadgodziny);
     zarejestruj<frmSkladnikiPlac>(okno, otoczenie, Wejscie::SkladnikiPlac);
     zarejestruj<frmDniWolne>(okno, otoczenie, Wejscie::DniWolneOgolne);

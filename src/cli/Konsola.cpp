@@ -20,9 +20,9 @@ const QList<OpcjaPolecenia>& opcjeOgolne() {
 }
 
 const QList<Polecenie>& polecenia() {
-    static const QList<Polecenie> wszystkie = poleceniaBazy() + poleceniaRegul() + poleceniaKadr() +
-                                              poleceniaNieobecnosci() + poleceniaTabel() +
-                                              poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin();
+    static const QList<Polecenie> wszystkie =
+        poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
+        poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaWydrukow();
     return wszystkie;
 }
 

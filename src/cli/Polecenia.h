@@ -34,5 +34,7 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaMiesiecy();
 [[nodiscard]] QList<Polecenie> poleceniaListy();
 [[nodiscard]] QList<Polecenie> poleceniaNadgodzin();
+[[nodiscard]] QList<Polecenie> poleceniaBanku();
+[[nodiscard]] QList<Polecenie> poleceniaWydrukow();
 
 } // namespace tornel::cli

@@ -8,11 +8,15 @@ namespace common {}
 namespace store {
 using namespace common;
 }
-namespace okna { // what screens share
+namespace druk { // prints as data and their pages
 using namespace store;
+}
+namespace okna { // what screens share
+using namespace druk;
 }
 namespace rules {
 using namespace store;
+using namespace druk;
 using namespace okna; // by its screens only, as in the folders below
 } // namespace rules
 namespace personnel {
@@ -24,8 +28,11 @@ using namespace personnel;
 namespace bank {
 using namespace payroll;
 }
-namespace start {
+namespace reports {
 using namespace bank;
+}
+namespace start {
+using namespace reports;
 }
 namespace app {
 using namespace start;

@@ -38,13 +38,14 @@ QLabel* napis(const QString& nazwa) {
 
 } // namespace
 
-frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic)
+frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic,
+                             PortWydrukow wydruki)
     : Okno(QStringLiteral("frmPlaceLista"), rodzic, PoEnterze::NastepnePole), o_(otoczenie),
-      lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
+      wydruki_(std::move(wydruki)), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
       lvwPlace_(new WidokListy(
           {{QStringLiteral("NAZWISKO")}, {QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("LISTA")}},
           {60, 18, 22})),
-      zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy),
+      zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy(wydruki_.dostepne)),
       labPracownik_(napis(QStringLiteral("labPracownik"))), labKwoty_(napis(QStringLiteral("labKwoty"))),
       labIleWierszy_(napis(QStringLiteral("labIleWierszy"))), labUwaga_(Wyglad::baner({}, this)) {
     const Klepsydra klepsydra;
@@ -74,6 +75,7 @@ void frmPlaceLista::polacz() {
     connect(pasek_, &PasekListy::nowy, this, &frmPlaceLista::nowy);
     connect(pasek_, &PasekListy::usun, this, &frmPlaceLista::usun);
     connect(pasek_, &PasekListy::przepisz, this, &frmPlaceLista::przepisz);
+    connect(pasek_, &PasekListy::wydruk, this, &frmPlaceLista::drukuj);
     connect(pasek_, &PasekListy::przeliczDni, this, &frmPlaceLista::przeliczDni);
     connect(pasek_, &PasekListy::przelicz, this, &frmPlaceLista::przelicz);
     connect(pasek_, &PasekListy::caloscNaKonto, this, &frmPlaceLista::caloscNaKonto);
@@ -333,6 +335,13 @@ void frmPlaceLista::przepisz() {
     zakladki_->porzucSumy();
     zakladki_->Wypisz_daneP();
     wskazPrzelicz(true);
+}
+
+void frmPlaceLista::drukuj(const QString& napis) {
+    zakladki_->zakoncz(); // what is typed goes onto the paper
+    const auto klucz = biezacy();
+    wydruki_.drukuj(napis, lista_, klucz ? std::optional(klucz->prcId) : std::nullopt, this);
+    wypiszBiezacy();
 }
 
 void frmPlaceLista::przeliczDni() {

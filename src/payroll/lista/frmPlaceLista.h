@@ -4,6 +4,7 @@
 #include "okna/Okno.h"
 #include "payroll/lista/KontrolaWierszy.h"
 #include "payroll/lista/ListaPlac.h"
+#include "payroll/lista/PortWydrukow.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "payroll/nieobecnosci/frmWykazy.h"
 #include "rules/Otoczenie.h"
@@ -28,7 +29,8 @@ class frmPlaceLista : public Okno {
 public:
     /// Opens the month on the session's handles; closing the screen closes it. `symbol`: a blank for all
     /// lists. Throws `Blad` for a month that is not there.
-    frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic = nullptr);
+    frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic = nullptr,
+                  PortWydrukow wydruki = {});
     ~frmPlaceLista() override;
 
 protected:
@@ -60,6 +62,7 @@ private:
     void przelicz();
     void przepisz();
     void przeliczDni();
+    void drukuj(const QString& napis);
     void seria(const QList<Obliczenie>& obliczenia);
     void poSerii();
     [[nodiscard]] QList<KluczListy> klucze() const;
@@ -76,6 +79,7 @@ private:
     using Klucz = std::pair<qint64, QString>;
 
     Otoczenie& o_;
+    PortWydrukow wydruki_;
     WykazyOkien wykazy_{this};
     ListaPlac lista_;
     QList<LiniaListy> linie_;

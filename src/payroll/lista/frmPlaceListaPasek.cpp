@@ -26,7 +26,8 @@ constexpr QStringView kWydruki[] = {
 
 } // namespace
 
-PasekListy::PasekListy(QWidget* rodzic) : QWidget(rodzic) {
+PasekListy::PasekListy(QStringList dostepneWydruki, QWidget* rodzic)
+    : QWidget(rodzic), dostepneWydruki_(std::move(dostepneWydruki)) {
     cmdNowy_ = przycisk(QStringLiteral("cmdNowy"), QStringLiteral("&Nowy prac."), u"nowy");
     cmdUsun_ = przycisk(QStringLiteral("cmdUsun"), QStringLiteral("&Usuń prac."), u"usun");
     cmdPrzepisz_ = przycisk(QStringLiteral("Command1"), QStringLiteral("Przepisz"));
@@ -86,9 +87,11 @@ void PasekListy::budujMenu() {
     auto* wydruki = new QMenu(this);
     wydruki->setToolTipsVisible(true);
     for (const QStringView opis : kWydruki) {
-        QAction* wydruk = wydruki->addAction(opis.toString());
-        wydruk->setEnabled(false);
-        wydruk->setToolTip(QStringLiteral("Ten wydruk nie jest jeszcze dostępny."));
+        QAction* pozycja = wydruki->addAction(opis.toString());
+        pozycja->setEnabled(dostepneWydruki_.contains(opis));
+        if (!pozycja->isEnabled())
+            pozycja->setToolTip(QStringLiteral("Ten wydruk nie jest jeszcze dostępny."));
+        connect(pozycja, &QAction::triggered, this, [this, opis] { emit wydruk(opis.toString()); });
     }
     cmdDrukuj_->setMenu(wydruki);
 }

@@ -11,7 +11,7 @@ namespace tornel::payroll {
 class PasekListy : public QWidget {
     Q_OBJECT
 public:
-    explicit PasekListy(QWidget* rodzic = nullptr);
+    explicit PasekListy(QStringList dostepneWydruki, QWidget* rodzic = nullptr);
 
     /// Opens and closes the buttons: nothing is changed in a blocked month, and a list without rows can only
     /// be added to.
@@ -32,9 +32,13 @@ signals:
     void caloscNaKontoWszystkich();
     void seria(const QList<Obliczenie>& obliczenia);
     void powrot();
+    /// The entry of "Drukuj" with this caption.
+    void wydruk(const QString& napis);
 
 private:
     void budujMenu();
+
+    QStringList dostepneWydruki_;
 
     QPushButton *cmdNowy_, *cmdUsun_, *cmdPrzepisz_, *cmdDni_, *cmdPrzelicz_, *cmdCalaLista_, *cmdKonto_,
         *cmdDrukuj_, *cmdAnuluj_;

@@ -54,10 +54,11 @@ QStringList tekstyWiersza(const WierszMiesiaca& w) {
 
 } // namespace
 
-frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic)
+frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic, PortWydrukow wydruki)
     : OknoEdycji(QStringLiteral("frmPlace"), otoczenie.rozmowa, Zamykanie::Zapis, rodzic,
                  PoEnterze::PrzyciskDomyslny),
-      o_(otoczenie), miesiace_(otoczenie), zrodlo_{&otoczenie.sesja.rsPLACE}, wiazanie_(zrodlo_),
+      o_(otoczenie), wydruki_(std::move(wydruki)), miesiace_(otoczenie), zrodlo_{&otoczenie.sesja.rsPLACE},
+      wiazanie_(zrodlo_),
       lvwLista_(new WidokListy({{QStringLiteral("MIESIĄC"), Qt::AlignLeft, Porzadek::Data},
                                 {QString()},
                                 {QStringLiteral("STATUS")}},
@@ -203,7 +204,7 @@ void frmPlace::WejdzNaListe() {
         if (podany && !podany->isEmpty()) symbol = podany->left(1);
     }
     przeglad_.stop(); // what the clerk waits for goes first
-    frmPlaceLista(o_, *biezacy_, symbol, this).exec();
+    frmPlaceLista(o_, *biezacy_, symbol, this, wydruki_).exec();
     Wypisz_dane(biezacy_);
     przejrzyj(doPrzejrzenia_ + QList{*biezacy_});
 }

@@ -2,6 +2,7 @@
 #pragma once
 #include "okna/Okno.h"
 #include "okna/Wiazanie.h"
+#include "payroll/lista/PortWydrukow.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "rules/Otoczenie.h"
 #include <optional>
@@ -20,7 +21,7 @@ class frmPlace : public OknoEdycji {
     Q_OBJECT
 public:
     /// Opens the month headers anew. Throws `BladBazy`.
-    explicit frmPlace(Otoczenie& otoczenie, QWidget* rodzic = nullptr);
+    explicit frmPlace(Otoczenie& otoczenie, QWidget* rodzic = nullptr, PortWydrukow wydruki = {});
 
 protected:
     [[nodiscard]] bool jestZmiana() const override { return biezacy_ && wiazanie_.jestZmiana(); }
@@ -44,6 +45,7 @@ private:
     void WejdzNaListe();
 
     Otoczenie& o_;
+    PortWydrukow wydruki_; ///< of the lists
     Miesiace miesiace_;
     ZrodloWierszy zrodlo_;
     Wiazanie wiazanie_;

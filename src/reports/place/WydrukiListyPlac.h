@@ -1,0 +1,31 @@
+// The prints of a payroll list.
+#pragma once
+#include "druk/Uklad.h"
+#include "rules/Otoczenie.h"
+#include <optional>
+#include <QDate>
+
+namespace tornel::payroll {
+class ListaPlac;
+} // namespace tornel::payroll
+
+namespace tornel::reports {
+
+/// Which print, in the order of the menu.
+enum class WydrukListy { ListaPlac, Wersja2, Wersja3, Pokwitowania, Zbiorowka };
+
+/// Its caption in the menu, and the name by which the console calls it.
+struct OpisWydrukuListy {
+    WydrukListy ktory;
+    QStringView napis;
+    QStringView nazwa;
+};
+[[nodiscard]] std::span<const OpisWydrukuListy> wydrukiListy();
+
+/// The print of the list in work; `prcId` narrows it to one employee. `dzien` is the day of printing. The
+/// open month must not change while the print lives. Reads `PLA`, `PLB`, `PLS`, `PLACEN`. Throws `Blad`.
+[[nodiscard]] std::shared_ptr<const Uklad> UlozWydrukListy(WydrukListy ktory, Otoczenie& otoczenie,
+                                                           const ListaPlac& lista, QDate dzien,
+                                                           std::optional<qint64> prcId = {});
+
+} // namespace tornel::reports

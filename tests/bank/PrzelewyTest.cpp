@@ -1,0 +1,75 @@
+// Payments: transfer orders cut to their form, taxes by office, the bank's file and its marks.
+#include "bank/Przelewy.h"
+#include "bank/MultiCash.h"
+#include "wsparcie/KonsolaTestowa.h"
+#include "wsparcie/Przestrzen.h"
+#include <gtest/gtest.h>
+
+namespace tornel::testy {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(Przelewy, TheFormCutsNamesAndAccounts) {
+    const struct {
+        QString konto, b1, b2, b3;
+    } konta[] = {
+        {u"10101010-222-333"_s, u"10101010"_s, u"222-333"_s, {}},
+        {u"10101010222-333"_s, u"10101010"_s, u"222-333"_s, {}},
+        {u"20202020"_s + u"4"_s.repeated(30), u"20202020"_s, u"4"_s.repeated(24), u"4"_s.repeated(6)},
+        {u"2020"_s, u"2020"_s, {}, {}}};
+    for (const auto& k : konta) {
+        const Przelew p = UlozPrzelew({{}, k.konto, {}, {}, {}, {}});
+        EXPECT_EQ((QStringList{p.nrrachodb1, p.nrrachodb2, p.nrrachodb3}), (QStringList{k.b1, k.b2, k.b3}));
+    }
+    const Przelew p = UlozPrzelew({u"ą"_s.repeated(91), {}, {}, {}, {}, u"płaca"_s});
+    EXPECT_EQ(p.nazodb + p.nazodbcd, u"Ą"_s.repeated(90)) << "what is longer is lost";
+    EXPECT_EQ(p.LK, u"PŁ"_s);
+    EXPECT_EQ(PoMyslniku(u"1-2-3"_s), u"2-3"_s);
+    EXPECT_EQ(PoMyslniku(u"123"_s), QString());
+}
+
+using PrzelewyKonsoli = KonsolaTestowa;
+
+// Each step starts where the one before it left the database and the folder.
+TEST_F(PrzelewyKonsoli, OrdersAndTheBanksFile) {
+    const QString katalog = folder_.path();
+    const auto multicash = [&](const char* reszta) {
+        return uruchom(QStringList{u"--tak"_s, u"multicash"_s, u"2001-02"_s, u"--wystawienie"_s,
+                                   u"09-07-2001"_s, u"--platnosc"_s, u"10-07-2001"_s, u"--konto"_s, u"1"_s,
+                                   u"--szczegoly"_s, u"Płaca"_s, u"--katalog"_s} +
+                       QString::fromUtf8(reszta).split(u' '));
+    };
+    const auto przelewy = uruchom("--json przelew pracownicy 2001-02 --konto 1 --tytul Płaca");
+    EXPECT_EQ(przelewy.status, 0) << przelewy.bledy.toStdString();
+    EXPECT_EQ(przelewy.wyjscie.count(u"\"LK\":\"PŁ\""_s), przelewy.wyjscie.count(u"\"nazodb\""_s));
+    EXPECT_EQ(uruchom("przelew pracownicy 2001-02 --konto 99 --tytul x").status, 1);
+    EXPECT_EQ(uruchom("przelew podatek 2001-02 --konto 1").status, 0);
+    EXPECT_EQ(
+        uruchom("przelew podatek UZL --konto 1 --od 01-01-2001 --do 31-12-2001").bledy.section(u'\n', 0, 0),
+        u"Brak umów - zleceń spełniających podane kryteria. Sprawdź czy podany okres jest prawidłowy oraz "
+        u"czy "
+        u"ustalono kwoty do przelewów."_s);
+
+    // A folder that is not there: no file, no mark.
+    const QString przed = tabela("PLB200102");
+    const auto bezKatalogu = multicash((katalog + u"/nie --paczka 0"_s).toUtf8().constData());
+    EXPECT_EQ(bezKatalogu.status, 1);
+    EXPECT_TRUE(bezKatalogu.bledy.contains(u"Żaden przelew nie został oznaczony"_s));
+    EXPECT_EQ(tabela("PLB200102"), przed);
+
+    EXPECT_EQ(multicash((katalog + u" --paczka 0"_s).toUtf8().constData()).status, 0);
+    const QByteArray plikBanku = czytaj(plik("01070900.pli"));
+    EXPECT_EQ(plikBanku.count("\r\n"), tabela("PLB200102").count(u";T\n"_s));
+    EXPECT_TRUE(plikBanku.startsWith("110,20010710,"));
+    // All are marked now: nothing to write leaves the file as it is.
+    const auto drugi = multicash((katalog + u" --paczka 0"_s).toUtf8().constData());
+    EXPECT_EQ(drugi.status, 1);
+    EXPECT_TRUE(drugi.bledy.contains(u"Brak danych spełniających podane kryteria"_s));
+    EXPECT_EQ(czytaj(plik("01070900.pli")), plikBanku);
+}
+
+} // namespace
+
+} // namespace tornel::testy
