@@ -115,19 +115,20 @@ int odswiez(Wywolanie& w) {
     return raport(w, ListaNadgodzin(w.otoczenie(), miesiac).Odswiez());
 }
 
-QJsonArray tekstyJson(const WgGrup<Waluta>& wartosci) {
+template <typename T>
+QJsonArray tekstyJson(const WgGrup<T>& wartosci, QString (*tekst)(T)) {
     QJsonArray json;
-    for (const Waluta wartosc : wartosci) json.append(TekstKwoty(wartosc));
+    for (const T wartosc : wartosci) json.append(tekst(wartosc));
     return json;
 }
 
 void dopiszSumy(QJsonObject& cel, const SumyNadgodzin& sumy) {
-    cel.insert(QStringLiteral("godziny"), tekstyJson(sumy.godziny));
-    cel.insert(QStringLiteral("kwoty"), tekstyJson(sumy.kwoty));
+    cel.insert(QStringLiteral("godziny"), tekstyJson(sumy.godziny, TekstGodzin));
+    cel.insert(QStringLiteral("kwoty"), tekstyJson(sumy.kwoty, TekstKwoty));
 }
 
 void dopiszGodziny(QStringList& wiersz, const SumyNadgodzin& sumy) {
-    for (const Waluta ile : sumy.godziny) wiersz.append(FormatGodzin(ile));
+    for (const Godziny ile : sumy.godziny) wiersz.append(FormatGodzin(ile));
 }
 
 void dopiszNazwyGrup(QStringList& wiersz, const ListaNadgodzin& otwarta) {

@@ -3,19 +3,27 @@
 
 namespace tornel::common {
 
-QString FormatGodzin(Waluta godziny) {
-    const bool ujemne = godziny < Waluta{};
-    const auto bezwzgledne = (ujemne ? -godziny : godziny).surowa();
+Waluta KwotaZaGodziny(Godziny godziny, Waluta stawkaGodzinowa) {
+    return Iloczyn(stawkaGodzinowa, godziny.dziesietnie());
+}
+
+QString FormatGodzin(Godziny godziny) {
+    const bool ujemne = godziny < Godziny{};
+    const auto bezwzgledne = (ujemne ? -godziny : godziny).dziesietnie().surowa();
     const auto dziesiate = bezwzgledne / 1000 + (bezwzgledne % 1000 >= 500 ? 1 : 0);
     const QString tekst =
         QString::number(dziesiate / 10) + QLatin1Char(',') + QString::number(dziesiate % 10);
     return ujemne && dziesiate != 0 ? QLatin1Char('-') + tekst : tekst;
 }
 
-std::optional<Waluta> CzytajGodziny(const QString& tekst, Waluta najwiecej) {
-    if (tekst.trimmed().isEmpty()) return Waluta{};
-    const auto godziny = CzytajKwote(tekst);
-    if (!godziny || *godziny < -najwiecej || *godziny > najwiecej || godziny->surowa() % 100 != 0) return {};
+QString TekstGodzin(Godziny godziny) { return TekstKwoty(godziny.dziesietnie()); }
+
+std::optional<Godziny> CzytajGodziny(const QString& tekst, Godziny najwiecej) {
+    if (tekst.trimmed().isEmpty()) return Godziny{};
+    const auto liczba = CzytajKwote(tekst);
+    if (!liczba || liczba->surowa() % 100 != 0) return {};
+    const Godziny godziny(*liczba);
+    if (godziny < -najwiecej || godziny > najwiecej) return {};
     return godziny;
 }
 

@@ -88,8 +88,8 @@ Waluta& Waluta::operator-=(Waluta b) {
 
 Waluta Round(Waluta kwota, int miejsca) { return ulamek(kwota.surowa(), 1, miejsca); }
 
-Waluta Procent(Waluta kwota, Waluta stawka, int miejsca) {
-    return ulamek(static_cast<Szeroka>(kwota.surowa()) * stawka.surowa(), 10000 * 100, miejsca);
+Waluta Procent(Waluta kwota, Stawka stawka, int miejsca) {
+    return ulamek(static_cast<Szeroka>(kwota.surowa()) * stawka.procent().surowa(), 10000 * 100, miejsca);
 }
 
 Waluta Proporcja(Waluta kwota, std::int64_t licznik, std::int64_t mianownik, int miejsca) {

@@ -10,9 +10,9 @@
 
 namespace tornel::common {
 
-/// An amount in zł (or a percentage) with exactly four decimal places. Addition, subtraction and comparison
-/// are exact; an overflow throws `Przepelnienie`. There is no conversion from double without a named
-/// rounding.
+/// An amount in zł (or a stored percentage, which becomes a `Stawka` where it is calculated with) with
+/// exactly four decimal places. Addition, subtraction and comparison are exact; an overflow throws
+/// `Przepelnienie`. There is no conversion from double without a named rounding.
 class Waluta {
 public:
     constexpr Waluta() = default;
@@ -45,11 +45,25 @@ private:
     std::int64_t surowa_ = 0;
 };
 
+/// A rate in percent with exactly four decimal places. A type of its own, so that a calculation cannot take
+/// it for an amount.
+class Stawka {
+public:
+    constexpr Stawka() = default;
+    explicit constexpr Stawka(Waluta procent) : procent_(procent) {}
+
+    [[nodiscard]] constexpr Waluta procent() const { return procent_; }
+    friend constexpr auto operator<=>(Stawka, Stawka) = default;
+
+private:
+    Waluta procent_;
+};
+
 /// Rounds to `miejsca` decimal places (0 to 4; more leaves the value), half to even.
 [[nodiscard]] Waluta Round(Waluta kwota, int miejsca);
 
-/// `kwota` * `stawka` / 100, formed exactly and rounded once, half to even, to `miejsca` places.
-[[nodiscard]] Waluta Procent(Waluta kwota, Waluta stawka, int miejsca = 4);
+/// `stawka` of `kwota`, formed exactly and rounded once, half to even, to `miejsca` places.
+[[nodiscard]] Waluta Procent(Waluta kwota, Stawka stawka, int miejsca = 4);
 
 /// `kwota` * `licznik` / `mianownik`, formed exactly and rounded once, half to even, to `miejsca` places.
 /// Throws `Blad` for a zero `mianownik`.

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <type_traits>
 
 namespace tornel::testy {
 
@@ -45,7 +46,7 @@ TEST(Waluta, OverflowThrowsAndLeavesTheOperand) {
     EXPECT_EQ(mala.surowa(), kMin);
     EXPECT_THROW((void)-w(kMin), Przepelnienie);
     EXPECT_THROW((void)Iloczyn(w(kMax), w(1'0001)), Przepelnienie);
-    EXPECT_THROW((void)Procent(w(kMax), w(100'0001)), Przepelnienie);
+    EXPECT_THROW((void)Procent(w(kMax), Stawka(w(100'0001))), Przepelnienie);
     EXPECT_THROW((void)Waluta::zlotych(922'337'203'685'478), Przepelnienie);
     EXPECT_EQ(Waluta::zlotych(-922'337'203'685'477).surowa(), -922'337'203'685'477'0000);
     EXPECT_EQ((w(kMax) - w(kMax)).surowa(), 0);
@@ -67,8 +68,9 @@ TEST(Waluta, PercentAndProportionAreFormedExactlyAndRoundedOnce) {
         {kMax, 100'0000, 4, kMax},
         {kMin, 100'0000, 4, kMin},
     };
+    static_assert(!std::is_convertible_v<Waluta, Stawka> && !std::is_convertible_v<Stawka, Waluta>);
     for (const auto& p : procenty)
-        EXPECT_EQ(Procent(w(p.kwota), w(p.stawka), p.miejsca).surowa(), p.wynik)
+        EXPECT_EQ(Procent(w(p.kwota), Stawka(w(p.stawka)), p.miejsca).surowa(), p.wynik)
             << p.kwota << " at " << p.stawka;
 
     const struct {

@@ -6,7 +6,7 @@ namespace tornel::payroll {
 
 namespace {
 
-void dolicz(SumyWiersza& sumy, const PozycjaSkladnika& pozycja, Waluta kwota, Waluta wsk_ubr) {
+void dolicz(SumyWiersza& sumy, const PozycjaSkladnika& pozycja, Waluta kwota, Stawka wsk_ubr) {
     if (kwota.zero()) return;
     const Waluta ubruttowiona = Procent(kwota, wsk_ubr, 2);
     if (pozycja.brutto) {
@@ -28,17 +28,18 @@ void dolicz(SumyWiersza& sumy, const PozycjaSkladnika& pozycja, Waluta kwota, Wa
 
 Podstawy WyliczPodstawy(const MiesiacPlac& miesiac, const WierszPlac& w, const Odpowiedzi& odpowiedzi) {
     Podstawy p;
+    const Stawka wsk_ubr(w.wsk_ubr);
     for (std::size_t i = 0; i < w.skladniki.SP.size(); ++i) {
         const PozycjaSkladnika& pozycja = miesiac.pozycje.dodatnie[i];
         if (!pozycja.aktywna()) continue;
         if (!pozycja.brutto) p.Dodatki += w.skladniki.SP[i];
-        dolicz(p.sumy, pozycja, w.skladniki.SP[i], w.wsk_ubr);
+        dolicz(p.sumy, pozycja, w.skladniki.SP[i], wsk_ubr);
     }
     for (std::size_t i = 0; i < w.skladniki.SM.size(); ++i) {
         const PozycjaSkladnika& pozycja = miesiac.pozycje.ujemne[i];
         if (!pozycja.aktywna()) continue;
         if (!pozycja.brutto) p.Potracenia += w.skladniki.SM[i];
-        dolicz(p.sumy, pozycja, -w.skladniki.SM[i], w.wsk_ubr);
+        dolicz(p.sumy, pozycja, -w.skladniki.SM[i], wsk_ubr);
     }
     p.zus_ppe = w.PPE > w.zus_ppe && odpowiedzi.ma(Pytanie::ZwiekszycPPE) ? w.PPE : w.zus_ppe;
     const Waluta doliczonePpe = p.zus_ppe - w.PPE;
@@ -54,7 +55,9 @@ Skladki Skladki::zWiersza(const WierszPlac& w) {
 }
 
 Skladki WyliczSkladki(const MiesiacPlac& miesiac, const Podstawy& podstawy, const WierszPlac& w) {
-    const auto skladka = [&](Waluta stawka) { return Procent(podstawy.sumy.PodstawaZUS, stawka, 2); };
+    const auto skladka = [&](Waluta procent) {
+        return Procent(podstawy.sumy.PodstawaZUS, Stawka(procent), 2);
+    };
     const Stale& c = miesiac.stale;
     Skladki s;
     s.skl_fp = skladka(w.ST_SKL_FP);
@@ -77,7 +80,7 @@ Waluta WyliczNetto(Waluta Brutto, const Skladki& skladki, Waluta Kup) {
     return NieMniejNizZero(Round(Brutto - skladki.pracownika() - Kup, 2));
 }
 
-Waluta WyliczUbzdr(const Podstawy& podstawy, const Skladki& skladki, Waluta wsk_ubzdr) {
+Waluta WyliczUbzdr(const Podstawy& podstawy, const Skladki& skladki, Stawka wsk_ubzdr) {
     return Procent(podstawy.sumy.PodstawaUbzdr - skladki.pracownika(), wsk_ubzdr, 2);
 }
 
@@ -91,7 +94,7 @@ bool GrupaStala(const DanePracownika& p) { return p.gr_pod >= 1 && p.gr_pod <= 3
 StawkaPodatku UstalStawke(const MiesiacPlac& miesiac, const DanePracownika& p, const BruttoRoku& rok,
                           Waluta Brutto) {
     const Stale& c = miesiac.stale;
-    const Waluta stawki[] = {c.PodatekG1, c.PodatekG2, c.PodatekG3};
+    const Stawka stawki[] = {Stawka(c.PodatekG1), Stawka(c.PodatekG2), Stawka(c.PodatekG3)};
     // A fixed group wins over all cumulation, without a warning.
     if (GrupaStala(p)) return {stawki[p.gr_pod - 1], {}};
 
@@ -117,12 +120,12 @@ StawkaPodatku UstalStawke(const MiesiacPlac& miesiac, const DanePracownika& p, c
     return wynik;
 }
 
-ZaliczkaPodatku WyliczPodatek(const MiesiacPlac& miesiac, Waluta stawka, Waluta Netto, Waluta Ppd,
+ZaliczkaPodatku WyliczPodatek(const MiesiacPlac& miesiac, Stawka stawka, Waluta Netto, Waluta Ppd,
                               Waluta Ubzdr) {
     ZaliczkaPodatku z;
     z.pod_doch = Procent(Round(Netto, miesiac.stale.ZaokPod), stawka, 2);
     // The tax is computed with the exact rate; the column is a whole number.
-    z.st_pd = Round(stawka, 0).surowa() / 10000;
+    z.st_pd = Round(stawka.procent(), 0).surowa() / 10000;
     const Waluta zaliczka = z.pod_doch - Ppd;
     z.Ubzdr = zaliczka < Ubzdr ? NieMniejNizZero(zaliczka) : Ubzdr;
     z.Podatek = Round(NieMniejNizZero(zaliczka - z.Ubzdr), miesiac.stale.ZaokZal);
@@ -192,7 +195,7 @@ WynikPlacy PoliczPlace(const MiesiacPlac& miesiac, const DanePlacy& dane, Kroki 
     const Skladki skladki = kroki.skladki ? WyliczSkladki(miesiac, podstawy, w) : Skladki::zWiersza(w);
     const Waluta Kup = kroki.koszty ? WyliczKosztyUzyskania(p) : w.Kup;
     const Waluta Netto = kroki.netto ? WyliczNetto(podstawy.Brutto, skladki, Kup) : w.Netto;
-    const Waluta ubzdr_nal = kroki.ubzdr ? WyliczUbzdr(podstawy, skladki, w.wsk_ubzdr) : w.ubzdr_nal;
+    const Waluta ubzdr_nal = kroki.ubzdr ? WyliczUbzdr(podstawy, skladki, Stawka(w.wsk_ubzdr)) : w.ubzdr_nal;
     const Waluta Ubzdr = kroki.odliczane ? ubzdr_nal : w.Ubzdr;
     const Waluta Ppd = kroki.ulga ? WyliczUlge(miesiac, p) : w.Ppd;
     const StawkaPodatku stawka = UstalStawke(miesiac, p, dane.rok, podstawy.Brutto);

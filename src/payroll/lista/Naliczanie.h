@@ -45,7 +45,7 @@ struct BruttoRoku {
 };
 
 struct StawkaPodatku {
-    Waluta stawka; ///< percent, exact
+    Stawka stawka; ///< exact
     ListaUwag uwagi;
 };
 
@@ -67,7 +67,7 @@ struct ZaliczkaPodatku {
 /// The income that is taxed.
 [[nodiscard]] Waluta WyliczNetto(Waluta Brutto, const Skladki& skladki, Waluta Kup);
 /// `ubzdr_nal`: the health insurance due.
-[[nodiscard]] Waluta WyliczUbzdr(const Podstawy& podstawy, const Skladki& skladki, Waluta wsk_ubzdr);
+[[nodiscard]] Waluta WyliczUbzdr(const Podstawy& podstawy, const Skladki& skladki, Stawka wsk_ubzdr);
 /// `Ppd`: the month's tax credit by the employee.
 [[nodiscard]] Waluta WyliczUlge(const MiesiacPlac& miesiac, const DanePracownika& pracownik);
 
@@ -77,7 +77,7 @@ struct ZaliczkaPodatku {
 [[nodiscard]] StawkaPodatku UstalStawke(const MiesiacPlac& miesiac, const DanePracownika& pracownik,
                                         const BruttoRoku& rok, Waluta Brutto);
 /// `Ubzdr` is the health insurance to be deducted, before it is cut down to the tax.
-[[nodiscard]] ZaliczkaPodatku WyliczPodatek(const MiesiacPlac& miesiac, Waluta stawka, Waluta Netto,
+[[nodiscard]] ZaliczkaPodatku WyliczPodatek(const MiesiacPlac& miesiac, Stawka stawka, Waluta Netto,
                                             Waluta Ppd, Waluta Ubzdr);
 /// `zaliczka` is the advance before the health deduction, `zasilek` the sick benefit to be taken off.
 [[nodiscard]] Waluta Dowyplaty(const MiesiacPlac& miesiac, const Podstawy& podstawy, const Skladki& skladki,

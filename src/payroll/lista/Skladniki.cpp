@@ -19,7 +19,7 @@ SkladnikiWiersza WypelnijSkladniki(const MiesiacPlac& miesiac, SkladnikiWiersza 
         if (i == miesiac.stale.PlZas)
             s.sp(i) = p.placa_zas;
         else if (i == miesiac.stale.PremPr)
-            s.sp(i) = Procent(p.placa_zas, p.Premia_pr);
+            s.sp(i) = Procent(p.placa_zas, Stawka(p.Premia_pr));
         else
             s.sp(i) = p.dodatnie[static_cast<std::size_t>(i - 1)];
         WypelnijOkres(miesiac, s, i, p);

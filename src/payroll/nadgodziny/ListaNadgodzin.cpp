@@ -30,7 +30,7 @@ SumyNadgodzin czytajSumy(const Recordset& rs, KolumnaGrupy godziny, KolumnaGrupy
         const auto i = static_cast<std::size_t>(g - 1);
         // Most groups are empty; taking a double apart into decimals costs more than all the rest.
         if (const double liczba = rs.rzeczywista(godziny(g)); liczba != 0)
-            s.godziny[i] = Waluta::zLiczby(liczba);
+            s.godziny[i] = Godziny::zLiczby(liczba);
         s.kwoty[i] = rs.kwota(kwota(g));
     }
     return s;
@@ -46,8 +46,8 @@ void wpiszSumy(Recordset& rs, KolumnaGrupy godziny, KolumnaGrupy kwota, const Su
 
 } // namespace
 
-Waluta SumyNadgodzin::godzinyRazem() const {
-    return std::accumulate(godziny.begin(), godziny.end(), Waluta{});
+Godziny SumyNadgodzin::godzinyRazem() const {
+    return std::accumulate(godziny.begin(), godziny.end(), Godziny{});
 }
 
 Waluta SumyNadgodzin::kwotaRazem() const { return std::accumulate(kwoty.begin(), kwoty.end(), Waluta{}); }
@@ -327,12 +327,12 @@ bool ListaNadgodzin::zmienWiersze(qsizetype od, qsizetype ile, const Zmiana& zmi
 }
 
 bool ListaNadgodzin::ZmienGodziny(qsizetype wiersz, int grupa, const QString& wpisane) {
-    const Waluta najwiecej = szczegolowa() ? kNajwiecejGodzinDnia : kNajwiecejGodzinMiesiaca;
+    const Godziny najwiecej = szczegolowa() ? kNajwiecejGodzinDnia : kNajwiecejGodzinMiesiaca;
     const auto godziny = CzytajGodziny(wpisane, najwiecej);
     if (!godziny) {
         o_.rozmowa.komunikat(
             QStringLiteral("Godziny podaje się liczbą od -%1 do %1, najwyżej z dwoma miejscami po przecinku.")
-                .arg(TekstKwoty(najwiecej)),
+                .arg(TekstGodzin(najwiecej)),
             Styl::Wykrzyknik);
         return false;
     }

@@ -1,5 +1,6 @@
 // The open overtime list of a month: its persons, their hours by time group and what these are worth.
 #pragma once
+#include "common/Godziny.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "payroll/nadgodziny/RownaniaNadgodzin.h"
 #include "store/Recordset.h"
@@ -13,10 +14,10 @@ namespace tornel::payroll {
 
 /// Hours and amounts (zł) by time group.
 struct SumyNadgodzin {
-    WgGrup<Waluta> godziny{};
+    WgGrup<Godziny> godziny{};
     WgGrup<Waluta> kwoty{};
 
-    [[nodiscard]] Waluta godzinyRazem() const;
+    [[nodiscard]] Godziny godzinyRazem() const;
     [[nodiscard]] Waluta kwotaRazem() const;
     SumyNadgodzin& operator+=(const SumyNadgodzin& inne);
 };
@@ -38,8 +39,8 @@ struct WierszNadgodzin {
 };
 
 /// Hours that a cell can hold in either direction: of a day, and of a whole month.
-inline constexpr Waluta kNajwiecejGodzinDnia = Waluta::zSurowej(24'0000);
-inline constexpr Waluta kNajwiecejGodzinMiesiaca = Waluta::zSurowej(744'0000);
+inline constexpr Godziny kNajwiecejGodzinDnia = Godziny::calych(24);
+inline constexpr Godziny kNajwiecejGodzinMiesiaca = Godziny::calych(744);
 
 /// The caption of group 1 to 7: element of constant 253, "Grupa n" where that is empty.
 [[nodiscard]] QString NazwaGrupyNadgodzin(const Stale& stale, int grupa);

@@ -100,11 +100,11 @@ Waluta StawkiNadgodzin::stawka(const QString& rownanie, Waluta sgp) {
 }
 
 WgGrup<Waluta> StawkiNadgodzin::kwoty(const RownaniaNadgodzin& rownania, QDate dzien,
-                                      const WgGrup<Waluta>& godziny, Waluta sgp) {
+                                      const WgGrup<Godziny>& godziny, Waluta sgp) {
     WgGrup<Waluta> wynik{};
     for (int g = 1; g <= kGrupNadgodzin; ++g) {
         const auto i = static_cast<std::size_t>(g - 1);
-        if (!godziny[i].zero()) wynik[i] = Iloczyn(stawka(rownania.dla(dzien, g), sgp), godziny[i]);
+        if (!godziny[i].zero()) wynik[i] = KwotaZaGodziny(godziny[i], stawka(rownania.dla(dzien, g), sgp));
     }
     return wynik;
 }

@@ -1,5 +1,6 @@
 // The rate equations of overtime: which one a time group has on which day, and what an hour is worth by it.
 #pragma once
+#include "common/Godziny.h"
 #include "common/Rozmowa.h"
 #include "payroll/nadgodziny/KolumnyNadgodzin.h"
 #include "rules/Otoczenie.h"
@@ -49,7 +50,7 @@ public:
     /// equation is not looked at; an equation with a formula error is told and gives 0. Throws `BladWzoru`
     /// for one that cannot be carried to an end, `Przepelnienie`.
     [[nodiscard]] WgGrup<Waluta> kwoty(const RownaniaNadgodzin& rownania, QDate dzien,
-                                       const WgGrup<Waluta>& godziny, Waluta sgp);
+                                       const WgGrup<Godziny>& godziny, Waluta sgp);
 
 private:
     /// Passes each message on once; the language has no questions.

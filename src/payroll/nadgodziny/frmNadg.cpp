@@ -36,7 +36,7 @@ QStringList tekstyOsoby(const OsobaNadgodzin& o) {
 
 QStringList tekstyGodzin(const QString& nazwa, const SumyNadgodzin& s) {
     QStringList wynik{nazwa};
-    for (const Waluta ile : s.godziny) wynik.append(FormatGodzin(ile));
+    for (const Godziny ile : s.godziny) wynik.append(FormatGodzin(ile));
     return wynik + QStringList{FormatGodzin(s.godzinyRazem())};
 }
 

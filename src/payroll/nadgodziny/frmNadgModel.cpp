@@ -108,7 +108,7 @@ QString ModelNadgodzin::tekst(const Komorka& k) const {
 
 QString ModelNadgodzin::doEdycji(const Komorka& k) const {
     const WierszNadgodzin& w = wiersze_.at(k.wiersz);
-    if (k.rodzaj == Rodzaj::Godziny) return TekstKwoty(w.sumy.godziny.at(nr(k)));
+    if (k.rodzaj == Rodzaj::Godziny) return TekstGodzin(w.sumy.godziny.at(nr(k)));
     return k.rodzaj == Rodzaj::Stawka ? TekstKwoty(w.stawka) : tekst(k);
 }
 

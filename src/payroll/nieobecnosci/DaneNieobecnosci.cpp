@@ -96,7 +96,7 @@ Nieobecnosci DaneNieobecnosci::urlopy(qint64 prcId) {
 Nieobecnosci DaneNieobecnosci::zwolnieniaRoku(qint64 prcId) {
     if (!zwolnienia_) {
         const auto reszta = [](Nieobecnosc& n, const WierszeZapytania& wiersz) {
-            n.st_proc = wiersz.kwota(ZW("st_proc"));
+            n.st_proc = Stawka(wiersz.kwota(ZW("st_proc")));
         };
         zwolnienia_ = std::make_unique<Rejestr>(sesja_, Zapytanie(ZW).kolumny(ZW("st_proc")),
                                                 Rejestr::Kolumny{ZW("prc_id"), ZW("Data"), ZW("data_do")},

@@ -23,7 +23,7 @@ struct Nieobecnosc {
     QDate data_do;  ///< last day
     int Rodzaj = 0; ///< kind of a vacation, 0 to 6
     Waluta Kwota;   ///< fixed amount of a vacation, zł; 0 for none
-    Waluta st_proc; ///< pay of a sick leave, percent
+    Stawka st_proc; ///< pay of a sick leave
 };
 /// Rows of one employee in the order of `DATA`, `DATA_DO`.
 using Nieobecnosci = std::span<const Nieobecnosc>;

@@ -113,7 +113,7 @@ public:
         }
         return skladniki_->pracownika(prcId);
     }
-    using Stawki = TrzyKolumny<Ktory::Ostatni, Waluta>;
+    using Stawki = TrzyKolumny<Ktory::Ostatni, Stawka>;
     using Dni = TrzyKolumny<Ktory::Pierwszy, qint64>;
 
     [[nodiscard]] Stawki stawki(qint64 prcId) {
@@ -121,7 +121,8 @@ public:
         constexpr Kolumna fe = PLB("WSK_FEPRC"), fr = PLB("WSK_FRPRC"), fc = PLB("WSK_FCPRC");
         if (!stawki_)
             otworz(stawki_, Zapytanie(PLB).kolumny(PLB("LISTA"), fe, fr, fc), [=](const WierszeZapytania& w) {
-                return Stawki{std::string(w.utf8(PLB("LISTA"))), {w.kwota(fe), w.kwota(fr), w.kwota(fc)}};
+                return Stawki{std::string(w.utf8(PLB("LISTA"))),
+                              {Stawka(w.kwota(fe)), Stawka(w.kwota(fr)), Stawka(w.kwota(fc))}};
             });
         return stawki_->pracownika(prcId);
     }

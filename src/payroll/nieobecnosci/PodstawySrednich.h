@@ -22,8 +22,8 @@ namespace tornel::payroll {
 struct PodstawaL4 {
     QString miesiac;  ///< year, a blank and the month's name
     Waluta skladniki; ///< the components of constant 107 of all his rows, zł
-    /// His contribution rates on the last of his rows, percent.
-    Waluta wsk_feprc, wsk_frprc, wsk_fcprc;
+    /// His contribution rates on the last of his rows.
+    Stawka wsk_feprc, wsk_frprc, wsk_fcprc;
 };
 
 /// The same for vacation pay.

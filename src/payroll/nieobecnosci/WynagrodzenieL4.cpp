@@ -22,7 +22,7 @@ Uwaga nieaktywny(int nr, const char16_t* dalej) {
     return {QStringLiteral("Składnik nr ") + QString::number(nr) + QString::fromUtf16(dalej)};
 }
 
-Waluta bezSkladek(Waluta brutto, Waluta fe, Waluta fr, Waluta fc) {
+Waluta bezSkladek(Waluta brutto, Stawka fe, Stawka fr, Stawka fc) {
     return brutto - Procent(brutto, fe) - Procent(brutto, fr) - Procent(brutto, fc);
 }
 
@@ -66,7 +66,8 @@ SrednieL4 PoprawionaSrednia(SrednieL4 srednie, std::optional<Waluta> zostawiona,
     const Waluta srednia = zostawiona.value_or(Waluta{});
     if (srednia == srednie.SredniaBrutto) return srednie; // so the row comes out as in a batch
     srednie.SredniaBrutto = srednia;
-    srednie.SredniaNetto = Round(bezSkladek(srednia, w.wsk_feprc, w.wsk_frprc, w.wsk_fcprc), 2);
+    srednie.SredniaNetto =
+        Round(bezSkladek(srednia, Stawka(w.wsk_feprc), Stawka(w.wsk_frprc), Stawka(w.wsk_fcprc)), 2);
     return srednie;
 }
 
@@ -75,7 +76,7 @@ namespace {
 /// A leave's days in the month, with its part of each payer.
 struct CzescZwolnienia {
     QDate od, dokad;
-    Waluta st_proc;
+    Stawka st_proc;
     int dniPracodawcy = 0;
     int dniZUS = 0;
 };
@@ -195,7 +196,7 @@ void przeliczPlacePoL4(const MiesiacPlac& miesiac, const WierszPlac& w, const Da
         return;
     }
     const Waluta placa = nrPlacy == 0 ? p.placa_zas : wynik.skladniki.sp(nrPlacy);
-    wynik.skladniki.sp(nrPremii) = Procent(placa, p.Premia_pr);
+    wynik.skladniki.sp(nrPremii) = Procent(placa, Stawka(p.Premia_pr));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "store/Struktura.h"
 #include "wsparcie/PlaceTestowe.h"
 #include "wsparcie/Przestrzen.h"
+#include <type_traits>
 
 namespace tornel::testy {
 
@@ -98,10 +99,11 @@ TEST(GodzinyTest, HoursAreReadAndShown) {
         const auto godziny = CzytajGodziny(p.wpisane, kNajwiecejGodzinDnia);
         ASSERT_EQ(godziny.has_value(), *p.wynik != '\0');
         if (!godziny) continue;
-        EXPECT_EQ(TekstKwoty(*godziny).toStdString(), p.wynik);
+        EXPECT_EQ(TekstGodzin(*godziny).toStdString(), p.wynik);
         EXPECT_EQ(FormatGodzin(*godziny).toStdString(), p.pokazane);
     }
-    EXPECT_EQ(FormatGodzin(zl(-1.25)), u"-1,3"_s);
+    static_assert(!std::is_convertible_v<Waluta, Godziny>);
+    EXPECT_EQ(FormatGodzin(Godziny(zl(-1.25))), u"-1,3"_s);
 }
 
 TEST_F(NadgodzinyTest, MonthsComeAndGoWhole) {
