@@ -20,9 +20,10 @@ const QList<OpcjaPolecenia>& opcjeOgolne() {
 }
 
 const QList<Polecenie>& polecenia() {
-    static const QList<Polecenie> wszystkie =
-        poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
-        poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaWydrukow();
+    static const QList<Polecenie> wszystkie = poleceniaBazy() + poleceniaRegul() + poleceniaKadr() +
+                                              poleceniaNieobecnosci() + poleceniaTabel() +
+                                              poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() +
+                                              poleceniaBanku() + poleceniaWydrukow();
     return wszystkie;
 }
 

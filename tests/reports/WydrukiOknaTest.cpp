@@ -76,7 +76,7 @@ TEST(Uklad, ATextLongerThanItsLineIsBrokenOrFails) {
     for (const QString& linia :
          zlam(u"nazwisko-bez-przerwy-i-bez-konca drugie"_s.repeated(5), Pismo::Zwykle, 30))
         EXPECT_LE(szerTekstu(linia, Pismo::Zwykle), 30.001) << linia.toStdString();
-    OpisWydruku opis{.tytul = u"X"_s, .arkusze = {{{.rola = Rola::Wiersz, .wys = 400}}}};
+    OpisWydruku opis{.nazwa = u"x"_s, .tytul = u"X"_s, .arkusze = {{{.rola = Rola::Wiersz, .wys = 400}}}};
     EXPECT_THROW(Uklad(opis, std::make_shared<WierszeWPamieci>(QList<QList<Wartosc>>{{Wartosc(Null)}})),
                  Blad);
 }
@@ -102,23 +102,8 @@ protected:
     Program program_{folder_->filePath(u"Tornel.mdb"_s), folder_->path(), rozmowa_};
 };
 
-// The sums on paper are those that the month's header holds.
-TEST_F(WydrukiListyTest, EachPrintTellsTheMonthAsItIsStored) {
-    Otoczenie& o = program_.otoczenie();
-    ListaPlac lista(o, 2001, 3, u" "_s);
-    const auto tekst = [&](WydrukListy w, std::optional<qint64> prcId = {}) {
-        return TekstWydruku(*UlozWydrukListy(w, o, lista, QDate(2001, 4, 2), prcId));
-    };
-    for (const WydrukListy w :
-         {WydrukListy::ListaPlac, WydrukListy::Wersja2, WydrukListy::Wersja3, WydrukListy::Zbiorowka}) {
-        const QString t = tekst(w);
-        for (const QString& fragment :
-             {u"za miesiąc Marzec 2001"_s, u"40 670,77"_s, u"25 432,85"_s, u"Wydrukowano 02-04-2001"_s})
-            EXPECT_TRUE(t.contains(fragment)) << static_cast<int>(w) << " " << fragment.toStdString();
-    }
-    EXPECT_EQ(
-        tekst(WydrukListy::Pokwitowania, 2),
-        QString::fromUtf8(R"(1 010,012 Wytwórnia Mebli "Jarzębina", Spółka z o.o., Garbarska 12, 26-610 Radom
+constexpr const char* kPokwitowanie =
+    R"(1 010,012 Wytwórnia Mebli "Jarzębina", Spółka z o.o., Garbarska 12, 26-610 Radom
 1 010,016 Pokwitowanie za miesiąc Marzec 2001
 1 092,016 2
 1 106,016 Bielak Jan
@@ -163,7 +148,23 @@ TEST_F(WydrukiListyTest, EachPrintTellsTheMonthAsItIsStored) {
 1 066,096 Dni L-4:
 1 084,096 18
 1 138,096 podpis .....................................................
-)"));
+)";
+
+// The sums on paper are those that the month's header holds.
+TEST_F(WydrukiListyTest, EachPrintTellsTheMonthAsItIsStored) {
+    Otoczenie& o = program_.otoczenie();
+    ListaPlac lista(o, 2001, 3, u" "_s);
+    const auto tekst = [&](WydrukListy w, std::optional<qint64> prcId = {}) {
+        return TekstWydruku(*UlozWydrukListy(w, o, lista, QDate(2001, 4, 2), prcId));
+    };
+    for (const WydrukListy w :
+         {WydrukListy::ListaPlac, WydrukListy::Wersja2, WydrukListy::Wersja3, WydrukListy::Zbiorowka}) {
+        const QString t = tekst(w);
+        for (const QString& fragment :
+             {u"za miesiąc Marzec 2001"_s, u"40 670,77"_s, u"25 432,85"_s, u"Wydrukowano 02-04-2001"_s})
+            EXPECT_TRUE(t.contains(fragment)) << static_cast<int>(w) << " " << fragment.toStdString();
+    }
+    EXPECT_EQ(tekst(WydrukListy::Pokwitowania, 2), QString::fromUtf8(kPokwitowanie));
 }
 
 TEST_F(WydrukiListyTest, AFileIsWrittenWholeOrNotAtAll) {

@@ -395,6 +395,9 @@ TEST_F(ListaPlacTest, ABlockedMonthIsReadAndNeverWritten) {
     pracownik(2, "placa_zas=1000");
     (void)lista()->DodajPracownikow({1});
     blokada(kLipiec, Odpowiedz::Nie);
+    ASSERT_TRUE(sesja().ZnajdzMiesiac(kLipiec));
+    sesja().rsPLACE.ustaw(schemat::PLACE("il_wyplat"), 7);
+    sesja().rsPLACE.UpdateBatch(u"Próba");
     skladnik(5, "BZU", false); // since then out of use,
     skladnik(10, "   ", true); // without flags,
     skladnik(3, "BZU", true);  // and put to use
@@ -422,7 +425,7 @@ TEST_F(ListaPlacTest, ABlockedMonthIsReadAndNeverWritten) {
     };
     for (const auto& zmiana : zmiany) EXPECT_THROW(zmiana(), Blad);
     l->ZapiszSumy();
-    oczekujSum(kLipiec, "il_wyplat=0 sum_brutto=0");
+    oczekujSum(kLipiec, "il_wyplat=7 sum_brutto=1000");
     EXPECT_EQ(wierszeWPliku(), "1 ");
 }
 
