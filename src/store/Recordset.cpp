@@ -266,7 +266,7 @@ QList<Zakladka> Recordset::wiersze(qint64 pierwszy) const {
 
 Recordset::KluczWiersza Recordset::klucz(int wiersz) const {
     const auto kolumna = [&](std::size_t i) {
-        return tabela_->klucz.size() > i ? komorka(wiersz, tabela_->numer(tabela_->klucz[i])) : 0;
+        return kolumnyKlucza_[i] >= 0 ? komorka(wiersz, kolumnyKlucza_[i]) : 0;
     };
     return {kolumna(0), kolumna(1)};
 }
@@ -364,8 +364,7 @@ void Recordset::zapisz(Kolumna k, Komorka wartosc) {
     const int wiersz = biezacy();
     if (komorka(wiersz, k.nr) == wartosc) return;
     zaznaczZmiane(wiersz);
-    const bool kluczowa = std::any_of(tabela_->klucz.begin(), tabela_->klucz.end(),
-                                      [&](std::string_view n) { return tabela_->numer(n) == k.nr; });
+    const bool kluczowa = k.nr == kolumnyKlucza_[0] || k.nr == kolumnyKlucza_[1];
     const bool sortujaca =
         std::any_of(sort_.begin(), sort_.end(), [&](const Kolumna& s) { return s.nr == k.nr; });
     if (kluczowa) odindeksuj(wiersz);
@@ -439,12 +438,12 @@ void Recordset::AddNew() { przyjmijNowy(nowyWiersz()); }
 void Recordset::AddNewZero() { przyjmijNowy(nowyWierszZer()); }
 
 void Recordset::AddNewZero(qint64 pierwszy, const QString& drugi) {
-    const Kolumna kluczowa = tabela_->nr(tabela_->numer(tabela_->klucz[0]));
+    const Kolumna kluczowa = tabela_->nr(kolumnyKlucza_[0]);
     if (const auto [min, maks] = zakresTypu(kluczowa.def().typ); pierwszy < min || pierwszy > maks)
         throw Przepelnienie(QStringLiteral("Numer %1 nie mieści się w tabeli %2.").arg(pierwszy).arg(nazwa_));
     const int wiersz = nowyWierszZer();
     komorka(wiersz, kluczowa.nr) = pierwszy;
-    if (!drugi.isNull()) komorka(wiersz, tabela_->numer(tabela_->klucz[1])) = tekstNaKomorke(drugi);
+    if (!drugi.isNull()) komorka(wiersz, kolumnyKlucza_[1]) = tekstNaKomorke(drugi);
     przyjmijNowy(wiersz);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 #include "store/Kryterium.h"
 #include "store/Polaczenie.h"
+#include <array>
 #include <functional>
 #include <iterator>
 #include <limits>
@@ -76,7 +77,10 @@ private:
 
 class Recordset {
 public:
-    explicit Recordset(const TabelaDef& tabela) : tabela_(&tabela) {}
+    explicit Recordset(const TabelaDef& tabela) : tabela_(&tabela) {
+        for (std::size_t i = 0; i < kolumnyKlucza_.size() && i < tabela.klucz.size(); ++i)
+            kolumnyKlucza_[i] = tabela.numer(tabela.klucz[i]);
+    }
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
     Recordset(Recordset&&) = default;
@@ -258,6 +262,7 @@ private:
     void przyjmijNowy(int wiersz);
 
     const TabelaDef* tabela_;
+    std::array<int, 2> kolumnyKlucza_{-1, -1}; // ordinals, -1 for a key that has fewer columns
     Polaczenie* polaczenie_ = nullptr;
     QString nazwa_;
     Warunek warunekOtwarcia_;

@@ -35,6 +35,15 @@ WarunekZapytania::WarunekZapytania(Kolumna kolumna, Kryterium::Operator op, Stro
     miejsca_.push_back({kolumna, std::move(strona)});
 }
 
+WarunekZapytania WarunekZapytania::bezDaty(Kolumna k) {
+    wymagajKolumny(k);
+    WarunekZapytania wynik;
+    const QByteArray nazwa = nazwaSql(k.def().nazwa);
+    wynik.sql_ = "(typeof(" + nazwa + ") <> 'text' OR " + nazwa +
+                 " NOT GLOB '[0-9][0-9][0-9][0-9]-[0-9][0-9]-[0-9][0-9]')";
+    return wynik;
+}
+
 WarunekZapytania WarunekZapytania::zlacz(const char* spojnik, const WarunekZapytania& b) const {
     if (sql_.isEmpty()) return b;
     WarunekZapytania wynik;

@@ -35,6 +35,10 @@ public:
         return a.zlacz(" OR ", b);
     }
 
+    /// A stored value that is not in the form of a date: no comparison finds it, but whoever reads the row
+    /// has to meet it. Null is one.
+    [[nodiscard]] static WarunekZapytania bezDaty(Kolumna k);
+
 private:
     friend class Zapytanie;
     friend class PrzygotowaneZapytanie;

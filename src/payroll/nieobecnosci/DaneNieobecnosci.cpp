@@ -21,13 +21,13 @@ public:
     Rejestr(Sesja& sesja, Zapytanie zapytanie, const Kolumny& kolumny, Reszta reszta, QDate od, QDate dokad,
             Odczyt odczyt)
         : odczyt_(odczyt), kolumny_(kolumny), reszta_(reszta), od_(od), dokad_(dokad),
-          zapytanie_(sesja.cnPlace, zDatami(zapytanie, kolumny, odczyt)) {
-        if (odczyt == Odczyt::Wszystkich) czytaj(zapytanie_.uruchom());
+          zapytanie_(sesja.cnPlace, wOkresie(zapytanie, kolumny, odczyt)) {
+        if (odczyt == Odczyt::Wszystkich) czytaj(zapytanie_.uruchom(od_, dokad_));
     }
 
     [[nodiscard]] Nieobecnosci pracownika(qint64 prcId) {
         if (odczyt_ == Odczyt::PoJednym && prcId_ != prcId) {
-            czytaj(zapytanie_.uruchom(prcId));
+            czytaj(zapytanie_.uruchom(od_, dokad_, prcId));
             prcId_ = prcId;
         }
         const std::span<Nieobecnosc> swoje = wiersze_.pracownika(prcId);
@@ -36,10 +36,12 @@ public:
     }
 
 private:
-    /// All rows: a damaged date would slip through a comparison in the file.
-    static const Zapytanie& zDatami(Zapytanie& zapytanie, const Kolumny& k, Odczyt odczyt) {
+    /// The rows of the period, and those whose dates are damaged: they must not slip through the comparison.
+    static const Zapytanie& wOkresie(Zapytanie& zapytanie, const Kolumny& k, Odczyt odczyt) {
         zapytanie.kolumny(k.prcId, k.od, k.dokad);
-        return odczyt == Odczyt::PoJednym ? zapytanie.gdzie(k.prcId == Parametr{0}) : zapytanie;
+        zapytanie.gdzie(k.dokad >= Parametr{0} || WarunekZapytania::bezDaty(k.dokad));
+        zapytanie.gdzie(k.od <= Parametr{1} || WarunekZapytania::bezDaty(k.od));
+        return odczyt == Odczyt::PoJednym ? zapytanie.gdzie(k.prcId == Parametr{2}) : zapytanie;
     }
 
     void czytaj(WierszeZapytania wiersze) {
