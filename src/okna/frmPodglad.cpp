@@ -84,6 +84,7 @@ QWidget* frmPodglad::pasek() {
     txtSzukaj_->setObjectName(QStringLiteral("txtSzukaj"));
     txtSzukaj_->setClearButtonEnabled(true);
     txtSzukaj_->setMinimumWidth(24 * Wyglad::kSiatka);
+    connect(txtSzukaj_, &QLineEdit::returnPressed, this, &frmPodglad::szukaj);
     labWynik_->setObjectName(QStringLiteral("labWynik"));
     labWynik_->setMinimumWidth(16 * Wyglad::kSiatka);
     rzad->addWidget(labWynik_);
@@ -215,7 +216,6 @@ bool frmPodglad::zapiszCsv(const QString& plik) {
 
 void frmPodglad::keyPressEvent(QKeyEvent* zdarzenie) {
     const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
-    if (enter && txtSzukaj_->hasFocus()) return szukaj();
     if (enter) {
         if (auto* cmd = qobject_cast<QPushButton*>(focusWidget())) cmd->click();
         return;
