@@ -1,12 +1,12 @@
 #include "bank/MultiCash.h"
 #include "common/Blad.h"
+#include "common/Pliki.h"
 #include "common/PolaKedu.h"
 #include "common/Rozmowa.h"
 #include "rules/Stale.h"
 #include "store/Sesja.h"
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace tornel::bank {
 
@@ -120,11 +120,11 @@ std::optional<int> MultiCash::wykonaj(const PrzebiegMCS& przebieg, Recordset& do
         o_.rozmowa.komunikat(QStringLiteral("Brak danych spełniających podane kryteria"), Styl::Wykrzyknik);
         return 0;
     }
-    QSaveFile cel(plik);
-    if (!cel.open(QIODevice::WriteOnly) || cel.write(bajty) != bajty.size() || !cel.commit())
-        throw Blad(QStringLiteral(
-                       "Nie można zapisać pliku „%1”: %2. Żaden przelew nie został oznaczony jako wysłany.")
-                       .arg(QDir::toNativeSeparators(plik), cel.errorString()));
+    try {
+        ZapiszPlik(plik, bajty);
+    } catch (const Blad& blad) {
+        throw Blad(blad.komunikat() + QStringLiteral(" Żaden przelew nie został oznaczony jako wysłany."));
+    }
     for (const Zakladka zakladka : zapisane) {
         doOznaczenia.Bookmark(zakladka);
         doOznaczenia.ustawFlage(znak, true);

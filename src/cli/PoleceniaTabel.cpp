@@ -1,5 +1,5 @@
-#include "cli/Pliki.h"
 #include "cli/Polecenia.h"
+#include "common/Pliki.h"
 #include "personnel/Pracownicy.h"
 #include "store/Sesja.h"
 #include "store/TabelaCsv.h"

@@ -1,4 +1,5 @@
 #include "cli/Polecenia.h"
+#include "common/Pliki.h"
 #include "druk/Wyjscie.h"
 #include "payroll/lista/ListaPlac.h"
 #include "reports/place/WydrukiListyPlac.h"
@@ -38,7 +39,7 @@ int wydruk(Wywolanie& w) {
     if (a.ma(kPdf)) (void)druk::ZapiszPdf(*uklad, a.wartosc(kPdf));
     if (a.ma(kPng))
         for (const QString& plik : druk::ZapiszPng(*uklad, a.wartosc(kPng))) w.pisz(plik);
-    if (a.ma(kCsv)) druk::ZapiszPlik(a.wartosc(kCsv), druk::CsvWydruku(*uklad));
+    if (a.ma(kCsv)) ZapiszPlik(a.wartosc(kCsv), druk::CsvWydruku(*uklad));
     if (a.ma(kTekst)) w.piszSurowo(druk::TekstWydruku(*uklad).toUtf8());
     return status::Wykonane;
 }

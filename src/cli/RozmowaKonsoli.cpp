@@ -1,6 +1,6 @@
 #include "cli/RozmowaKonsoli.h"
-#include "cli/Pliki.h"
 #include "common/Blad.h"
+#include "common/Pliki.h"
 
 namespace tornel::cli {
 

@@ -1,10 +1,12 @@
 #include "druk/Wyjscie.h"
 #include "common/Blad.h"
 #include "common/Csv.h"
+#include "common/Pliki.h"
 #include "druk/Pisma.h"
 #include "druk/PlotnoMalarza.h"
 #include <algorithm>
 #include <cmath>
+#include <QBuffer>
 #include <QDir>
 #include <QImage>
 #include <QPageLayout>
@@ -98,9 +100,9 @@ QStringList ZapiszPng(const Uklad& uklad, const QString& katalog, int rozdzielcz
         malarz.end();
         const QString plik = QDir(katalog).filePath(
             QStringLiteral("%1-%2.png").arg(uklad.opis().nazwa).arg(s + 1, 2, 10, QLatin1Char('0')));
-        QSaveFile cel(plik);
-        if (!cel.open(QIODevice::WriteOnly) || !obraz.save(&cel, "PNG") || !cel.commit())
-            nieZapisano(plik, cel.errorString());
+        QBuffer bajty;
+        obraz.save(&bajty, "PNG");
+        ZapiszPlik(plik, bajty.data());
         pliki.append(plik);
     }
     return pliki;
@@ -149,12 +151,6 @@ QByteArray CsvWydruku(const Uklad& uklad) {
             return kwota ? TekstKwoty(*kwota) : tekstPola(wartosc, Format::Tekst);
         });
     return wynik;
-}
-
-void ZapiszPlik(const QString& plik, const QByteArray& bajty) {
-    QSaveFile cel(plik);
-    if (!cel.open(QIODevice::WriteOnly) || cel.write(bajty) != bajty.size() || !cel.commit())
-        nieZapisano(plik, cel.errorString());
 }
 
 } // namespace tornel::druk

@@ -27,7 +27,5 @@ QStringList ZapiszPng(const Uklad& uklad, const QString& katalog, int rozdzielcz
 [[nodiscard]] QString TekstWydruku(const Uklad& uklad);
 /// The named fields of all rows: UTF-8, a header row, semicolons.
 [[nodiscard]] QByteArray CsvWydruku(const Uklad& uklad);
-/// Writes bytes to a file, whole or not at all. Throws `Blad` that names the file.
-void ZapiszPlik(const QString& plik, const QByteArray& bajty);
 
 } // namespace tornel::druk

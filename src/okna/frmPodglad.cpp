@@ -1,5 +1,6 @@
 #include "okna/frmPodglad.h"
 #include "common/Blad.h"
+#include "common/Pliki.h"
 #include "common/Rozmowa.h"
 #include "druk/Wyjscie.h"
 #include "okna/Drukowanie.h"

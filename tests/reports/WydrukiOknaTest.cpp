@@ -1,6 +1,7 @@
 // Prints: what stands on which page, sums over page breaks, the list's prints as text, files whole or not at
 // all.
 #include "common/Blad.h"
+#include "common/Pliki.h"
 #include "druk/Pisma.h"
 #include "druk/Tabela.h"
 #include "druk/Wyjscie.h"

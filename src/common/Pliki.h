@@ -1,10 +1,10 @@
-// The files that a command reads and writes besides the database.
+// The files that are read and written besides the database.
 #pragma once
 #include "common/Przestrzenie.h"
 #include <QByteArray>
 #include <QString>
 
-namespace tornel::cli {
+namespace tornel::common {
 
 /// The whole content. Throws `Blad` that names the file.
 [[nodiscard]] QByteArray CzytajPlik(const QString& sciezka);
@@ -13,4 +13,4 @@ namespace tornel::cli {
 /// Replaces the file at once or leaves it as it was. Throws `Blad` that names the file.
 void ZapiszPlik(const QString& sciezka, const QByteArray& tresc);
 
-} // namespace tornel::cli
+} // namespace tornel::common

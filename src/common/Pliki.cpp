@@ -1,11 +1,11 @@
-#include "cli/Pliki.h"
+#include "common/Pliki.h"
 #include "common/Blad.h"
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStringConverter>
 
-namespace tornel::cli {
+namespace tornel::common {
 
 namespace {
 
@@ -47,4 +47,4 @@ void ZapiszPlik(const QString& sciezka, const QByteArray& tresc) {
                        .arg(sciezka, przyczynaZapisu(QFileInfo(sciezka))));
 }
 
-} // namespace tornel::cli
+} // namespace tornel::common
