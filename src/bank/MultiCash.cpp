@@ -137,21 +137,19 @@ std::optional<int> MultiCash::wykonaj(const PrzebiegMCS& przebieg, Recordset& do
 }
 
 std::optional<int> MultiCash::zListy(const PrzebiegMCS& przebieg, const QString& symbol) {
-    Recordset &a = o_.sesja.rsPLA, &b = o_.sesja.rsPLB;
-    const Zakladka tu = a.Bookmark(), tuB = b.Bookmark();
+    Recordset& plb = o_.sesja.rsPLB;
     QList<std::pair<Zakladka, Wyplata>> pozycje;
-    for (a.MoveFirst(); !a.EOF_(); a.MoveNext()) {
+    for (const Wiersz a : o_.sesja.rsPLA.wiersze()) {
         const QString lista = a.tekst(PLA("LISTA"));
         const Wyplata w{a.liczba(PLA("PRC_ID")), a.kwota(PLA("PRZELEWEM"))};
-        if ((!symbol.trimmed().isEmpty() && lista != symbol) || !(w.kwota > Waluta{}) ||
-            !b.Znajdz(w.komu, lista))
-            continue;
-        if (!b.flaga(PLB("WYS_MCS")) && b.liczba(PLB("PACZKA")) == przebieg.paczka)
-            pozycje.append({b.Bookmark(), w});
+        if ((!symbol.trimmed().isEmpty() && lista != symbol) || !(w.kwota > Waluta{})) continue;
+        const auto b = plb.szukaj(w.komu, lista);
+        if (b && !b->flaga(PLB("WYS_MCS")) && b->liczba(PLB("PACZKA")) == przebieg.paczka)
+            pozycje.append({b->zakladka(), w});
     }
-    const auto wynik = wykonaj(przebieg, b, PLB("WYS_MCS"), pozycje);
-    a.Bookmark(tu);
-    b.Bookmark(tuB);
+    const Zakladka tu = plb.Bookmark();
+    const auto wynik = wykonaj(przebieg, plb, PLB("WYS_MCS"), pozycje);
+    plb.Bookmark(tu);
     return wynik;
 }
 

@@ -2,6 +2,7 @@
 #include "common/Blad.h"
 #include "store/Sesja.h"
 #include <algorithm>
+#include <vector>
 
 namespace tornel::bank {
 
@@ -53,12 +54,11 @@ private:
 };
 
 /// The rows of the list in work.
-template <typename Zrob>
-void dlaListy(Recordset& pla, const QString& symbol, Zrob zrob) {
-    const Zakladka tu = pla.Bookmark();
-    for (pla.MoveFirst(); !pla.EOF_(); pla.MoveNext())
-        if (symbol.trimmed().isEmpty() || pla.tekst(PLA("LISTA")) == symbol) zrob();
-    pla.Bookmark(tu);
+std::vector<Wiersz> wierszeListy(const Recordset& pla, const QString& symbol) {
+    std::vector<Wiersz> wynik;
+    for (const Wiersz a : pla.wiersze())
+        if (symbol.trimmed().isEmpty() || a.tekst(PLA("LISTA")) == symbol) wynik.push_back(a);
+    return wynik;
 }
 
 /// The contracts whose date `kolumna` lies in the period and which are paid by transfer, in their order.
@@ -86,19 +86,18 @@ const RodzajWyplat* rodzajWyplat(const QString& tabela) {
 QString tytulPodatku() { return QStringLiteral("Przelew dla podatku"); }
 
 QList<Wyplata> Wyplaty::zListy(const QString& symbol, const QList<qint64>& numery) const {
-    Recordset& a = o_.sesja.rsPLA;
     QList<Wyplata> wynik;
-    dlaListy(a, symbol, [&] {
+    for (const Wiersz& a : wierszeListy(o_.sesja.rsPLA, symbol)) {
         const Wyplata w{a.liczba(PLA("PRC_ID")), a.kwota(PLA("PRZELEWEM"))};
         if (w.kwota > Waluta{} && (numery.isEmpty() || numery.contains(w.komu))) wynik.append(w);
-    });
+    }
     return wynik;
 }
 
 QList<Wyplata> Wyplaty::podatekListy(const QString& symbol) const {
-    Recordset& a = o_.sesja.rsPLA;
     SumyWgOdbiorcy sumy;
-    dlaListy(a, symbol, [&] { sumy.dodaj(a.liczba(PLA("US_ID")), a.kwota(PLA("PODATEK"))); });
+    for (const Wiersz& a : wierszeListy(o_.sesja.rsPLA, symbol))
+        sumy.dodaj(a.liczba(PLA("US_ID")), a.kwota(PLA("PODATEK")));
     return sumy.dodatnie();
 }
 
