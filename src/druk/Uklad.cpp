@@ -66,7 +66,6 @@ public:
     void zloz() {
         otworzStrone();
         for (const int i : rola(Rola::NaglowekWydruku)) postaw(i, -1, {});
-        if (!poczatekTresci_) poczatekTresci_ = true;
         for (const int i : rola(Rola::NaglowekStrony)) postaw(i, -1, {});
         const int ile = u_.wiersze_->ile();
         for (int wiersz = 0; wiersz < ile; ++wiersz) {
@@ -191,7 +190,6 @@ private:
     std::array<bool, 7> rosnace_{};
     double stopka_ = 0, dol_ = 0;
     double y_ = 0, gora_ = 0; // where the next band stands, and where the headers end
-    bool poczatekTresci_ = false;
     bool otwarte_ = false; // within a group
     int wiersz_ = -1;      // the group's first row
     Sumy strony_, calosci_;

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] int stron() const;
     /// Draws a page, counted from 0. Throws whatever the rows throw.
     void rysuj(int strona, Plotno& plotno) const;
-    /// The pages on which a text stands, whatever its case, from 0, in order; asked page by page.
+    /// Whether a text stands on the page, whatever its case.
     [[nodiscard]] bool zawiera(int strona, const QString& tekst) const;
 
 private:
