@@ -4,6 +4,7 @@
 #include "rules/Otoczenie.h"
 #include "store/Tabela.h"
 #include <optional>
+#include <QDate>
 #include <QList>
 #include <QString>
 

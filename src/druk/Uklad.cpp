@@ -190,8 +190,8 @@ private:
     std::array<bool, 7> rosnace_{};
     double stopka_ = 0, dol_ = 0;
     double y_ = 0, gora_ = 0; // where the next band stands, and where the headers end
-    bool otwarte_ = false; // within a group
-    int wiersz_ = -1;      // the group's first row
+    bool otwarte_ = false;    // within a group
+    int wiersz_ = -1;         // the group's first row
     Sumy strony_, calosci_;
     std::vector<Sumy> grupy_;
 };
