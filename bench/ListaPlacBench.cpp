@@ -111,7 +111,7 @@ void Wsad(benchmark::State& stan, int miesiac, Absencje absencje) {
     const auto ile = static_cast<int>(stan.range(0));
     const QString baza = kopiaFirmy(ile, miesiac - 1);
     RozmowaCicha rozmowa;
-    double wsad = 0, surowy = 0;
+    double wsad = 0, surowy = 0, rejestry = 0;
     int wierszy = 0;
     for (auto _ : stan) {
         zerujSzczytPamieci();
@@ -126,9 +126,11 @@ void Wsad(benchmark::State& stan, int miesiac, Absencje absencje) {
         wsad = sekundy([&] { wierszy = lista.DodajPracownikow(numery).wykonane; });
         stan.counters["pamiec_MiB"] = szczytPamieciMiB();
         surowy = ZapiszSurowo(program.sesja(), miesiac);
+        if (absencje == Absencje::Sa) rejestry = CzytajSurowo(program.sesja(), {"URL", "ZW"});
         stan.SetIterationTime(wsad);
     }
     stan.counters["wierszy"] = wierszy;
+    stan.counters["rejestry_ms"] = rejestry * 1e3;
     stan.counters["us_na_wiersz"] = wsad * 1e6 / wierszy;
     stan.counters["surowo_ms"] = surowy * 1e3;
     stan.counters["razy"] = wsad / surowy;

@@ -35,7 +35,11 @@ std::optional<QDate> zPozycji(QStringView dziesiec) {
 
 } // namespace
 
-int DniWMiesiacu(int rok, int mies) { return QDate(rok, mies, 1).daysInMonth(); }
+int DniWMiesiacu(int rok, int mies) {
+    static constexpr std::array<int, 12> dni = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    if (mies < 1 || mies > 12) return 0;
+    return mies == 2 && QDate::isLeapYear(rok) ? 29 : dni[static_cast<std::size_t>(mies - 1)];
+}
 
 QDate PierwszyDzien(int rok, int mies) { return {rok, mies, 1}; }
 

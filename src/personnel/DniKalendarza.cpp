@@ -9,10 +9,11 @@ using schemat::KALENDARZ;
 DniKalendarza DniKalendarza::nowyMiesiac(int rok, int mies) {
     DniKalendarza wynik;
     const int dlugosc = DniWMiesiacu(rok, mies);
-    for (int d = 1; d <= 31; ++d)
-        wynik.ustaw(d, d > dlugosc                                       ? NieMa
-                       : QDate(rok, mies, d).dayOfWeek() >= Qt::Saturday ? Wolny
-                                                                         : Roboczy);
+    const int pierwszy = QDate(rok, mies, 1).dayOfWeek();
+    for (int d = 1; d <= 31; ++d) {
+        const bool wolny = (pierwszy + d - 2) % 7 + 1 >= Qt::Saturday;
+        wynik.ustaw(d, d > dlugosc ? NieMa : wolny ? Wolny : Roboczy);
+    }
     return wynik;
 }
 

@@ -32,6 +32,10 @@ public:
     }
     /// Whether all of them stand on a row.
     [[nodiscard]] bool naWierszu() const;
+    /// So many rows will be added to each.
+    void zapowiedzNowe(qsizetype ile) const {
+        for (Recordset* rs : *this) rs->zapowiedzNowe(ile);
+    }
     /// A new row in each, with its key.
     template <typename... Klucz>
     void AddNewZero(const Klucz&... klucz) const {

@@ -2,8 +2,17 @@
 #include "common/Blad.h"
 #include <algorithm>
 #include <bit>
+#include <chrono>
 
 namespace tornel::store {
+
+namespace {
+
+/// The Julian day number of 1 January 1970. Dates of whole tables go through here, so the days are counted by
+/// the standard library, several times faster than a QDate.
+constexpr qint64 kDzien1970 = 2'440'588;
+
+} // namespace
 
 bool pasuje(const Wartosc& wartosc, Typ typ) {
     switch (rodzajWartosci(typ)) {
@@ -26,22 +35,24 @@ std::optional<qint64> dzienZTekstu(std::string_view t) {
     const auto zgodny = [](char c, char z) { return z == '-' ? c == '-' : c >= '0' && c <= '9'; };
     if (!std::equal(t.begin(), t.end(), wzor.begin(), wzor.end(), zgodny)) return std::nullopt;
     const auto cyfra = [&](std::size_t i) { return t[i] - '0'; };
-    const QDate d(cyfra(0) * 1000 + cyfra(1) * 100 + cyfra(2) * 10 + cyfra(3), cyfra(5) * 10 + cyfra(6),
-                  cyfra(8) * 10 + cyfra(9));
-    return d.isValid() ? std::optional(d.toJulianDay()) : std::nullopt;
+    const std::chrono::year_month_day d(
+        std::chrono::year(cyfra(0) * 1000 + cyfra(1) * 100 + cyfra(2) * 10 + cyfra(3)),
+        std::chrono::month(static_cast<unsigned>(cyfra(5) * 10 + cyfra(6))),
+        std::chrono::day(static_cast<unsigned>(cyfra(8) * 10 + cyfra(9))));
+    if (!d.ok() || d.year() < std::chrono::year(1)) return std::nullopt;
+    return std::chrono::sys_days(d).time_since_epoch().count() + kDzien1970;
 }
 
 TekstDnia::TekstDnia(qint64 dzien) {
-    int rok = 0, mies = 0, d = 0;
-    QDate::fromJulianDay(dzien).getDate(&rok, &mies, &d);
+    const std::chrono::year_month_day d(std::chrono::sys_days(std::chrono::days(dzien - kDzien1970)));
     const auto pisz = [&](int od, int ile, int liczba) {
         for (int i = od + ile - 1; i >= od; --i, liczba /= 10)
             znaki_[i] = static_cast<char>('0' + liczba % 10);
     };
-    pisz(0, 4, rok);
+    pisz(0, 4, static_cast<int>(d.year()));
     znaki_[4] = znaki_[7] = '-';
-    pisz(5, 2, mies);
-    pisz(8, 2, d);
+    pisz(5, 2, static_cast<int>(static_cast<unsigned>(d.month())));
+    pisz(8, 2, static_cast<int>(static_cast<unsigned>(d.day())));
 }
 
 std::optional<qint64> slowo(const Instrukcja& instrukcja, int kolumna, Typ typ, int jest) {

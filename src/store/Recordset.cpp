@@ -49,6 +49,7 @@ void Recordset::wczytaj() {
                znakOperatora(warunekOtwarcia_[i].op) + "?";
     teksty_ = {QString()};
     pula_ = {{QString(), 0}};
+    ostatnieTeksty_.fill(0);
     Instrukcja instrukcja(*polaczenie_, sql.toStdString());
     for (qsizetype i = 0; i < warunekOtwarcia_.size(); ++i)
         wiazWartosc(instrukcja, static_cast<int>(i), warunekOtwarcia_[i].wartosc);
@@ -85,6 +86,16 @@ void Recordset::czytajWiersz(const Instrukcja& instrukcja, int wiersz, int pierw
         if (!wartosc) zglosUszkodzenie(*polaczenie_, *tabela_, nazwa_, nrWiersza, k);
         komorka(wiersz, i) = *wartosc;
     }
+}
+
+void Recordset::zapowiedzNowe(qsizetype ile) {
+    const std::size_t wierszy = rowid_.size() + static_cast<std::size_t>(ile);
+    komorki_.reserve(wierszy * tabela_->kolumny.size());
+    rowid_.reserve(wierszy);
+    stany_.reserve(wierszy);
+    kolejnosc_.reserve(wierszy);
+    oczekujace_.reserve(oczekujace_.size() + static_cast<std::size_t>(ile));
+    indeks_.reserve(wierszy);
 }
 
 int Recordset::nowyWiersz() {
@@ -133,6 +144,10 @@ void Recordset::wstawDoKolejnosci(int wiersz) {
 }
 
 int Recordset::miejsceWKolejnosci(int wiersz) const {
+    // Mostly the next row is asked for, or all stand as they were read.
+    for (const int domysl : {pozycja_ + 1, wiersz})
+        if (domysl >= 0 && domysl < RecordCount() && kolejnosc_[static_cast<std::size_t>(domysl)] == wiersz)
+            return domysl;
     auto od = kolejnosc_.begin(), dokad = kolejnosc_.end();
     if (!sort_.isEmpty())
         std::tie(od, dokad) = std::equal_range(kolejnosc_.begin(), kolejnosc_.end(), wiersz,
@@ -232,8 +247,13 @@ int Recordset::wierszKlucza(KluczWiersza szukany, IleKolumn kolumny) const {
 }
 
 Recordset::Komorka Recordset::tekstWPuli(const QString& tekst) const {
+    if (tekst.isEmpty()) return 0;
+    Komorka& ostatni = ostatnieTeksty_[(static_cast<std::size_t>(tekst.size()) + tekst[0].unicode()) %
+                                       ostatnieTeksty_.size()];
+    if (tekst == puli(ostatni)) return ostatni;
     const auto miejsce = pula_.constFind(tekst);
-    return miejsce == pula_.constEnd() ? kNull : *miejsce;
+    if (miejsce == pula_.constEnd()) return kNull;
+    return ostatni = *miejsce;
 }
 
 int Recordset::wierszKlucza(qint64 k) const { return wierszKlucza({k, 0}, IleKolumn::Pierwsza); }
@@ -343,8 +363,7 @@ Wartosc Recordset::wartoscKomorki(int wiersz, int kolumna) const {
 }
 
 Recordset::Komorka Recordset::tekstNaKomorke(const QString& tekst) {
-    const auto miejsce = pula_.constFind(tekst);
-    if (miejsce != pula_.constEnd()) return *miejsce;
+    if (const Komorka znana = tekstWPuli(tekst); znana != kNull) return znana;
     const auto nowa = static_cast<Komorka>(teksty_.size());
     teksty_.append(tekst);
     pula_.insert(tekst, nowa);

@@ -163,6 +163,8 @@ public:
     void ustawFlage(Kolumna k, bool wlaczona);
     void ustaw(Kolumna k, bool) = delete;
 
+    /// So many rows will be added: their place is made at once.
+    void zapowiedzNowe(qsizetype ile);
     /// A new row with null in every column, current from now on.
     void AddNew();
     /// A new row with numbers 0, texts empty, dates null; current from now on.
@@ -271,6 +273,8 @@ private:
     std::vector<Stan> stany_;
     QList<QString> teksty_;
     QHash<QString, Komorka> pula_;
+    // Asked for last: rows one behind the other mostly have the same symbols and flags.
+    mutable std::array<Komorka, 16> ostatnieTeksty_{};
     std::vector<int> kolejnosc_; // rows in sort order that pass the filter
     QList<Kolumna> sort_;
     Warunek filtr_;

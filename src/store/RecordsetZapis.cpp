@@ -60,14 +60,14 @@ void Recordset::sprawdzKonflikt(int wiersz) {
 
 void Recordset::zapiszWiersz(int wiersz) {
     const auto w = static_cast<std::size_t>(wiersz);
-    const QByteArray tabela = nazwaSql(nazwa_.toStdString());
+    const auto tabela = [this] { return nazwaSql(nazwa_.toStdString()); };
     if (stany_[w] == Stan::Nowy) {
         if (!wstaw_) {
             QByteArray znaki("?");
             for (int i = 1; i < szerokosc(); ++i) znaki += ",?";
             wstaw_ = std::make_unique<Instrukcja>(
                 *polaczenie_,
-                ("INSERT INTO " + tabela + " (" + listaKolumn(*tabela_) + ") VALUES (" + znaki + ")")
+                ("INSERT INTO " + tabela() + " (" + listaKolumn(*tabela_) + ") VALUES (" + znaki + ")")
                     .toStdString());
         }
         wiazWiersz(*wstaw_, wiersz);
@@ -78,8 +78,8 @@ void Recordset::zapiszWiersz(int wiersz) {
     sprawdzKonflikt(wiersz);
     if (stany_[w] == Stan::Usuniety) {
         if (!usun_)
-            usun_ = std::make_unique<Instrukcja>(*polaczenie_,
-                                                 ("DELETE FROM " + tabela + " WHERE rowid=?").toStdString());
+            usun_ = std::make_unique<Instrukcja>(
+                *polaczenie_, ("DELETE FROM " + tabela() + " WHERE rowid=?").toStdString());
         usun_->wiaz(0, rowid_[w]).wykonaj();
         return;
     }
@@ -88,7 +88,7 @@ void Recordset::zapiszWiersz(int wiersz) {
         for (const KolumnaDef& k : tabela_->kolumny)
             pola += (pola.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa) + "=?";
         zmien_ = std::make_unique<Instrukcja>(
-            *polaczenie_, ("UPDATE " + tabela + " SET " + pola + " WHERE rowid=?").toStdString());
+            *polaczenie_, ("UPDATE " + tabela() + " SET " + pola + " WHERE rowid=?").toStdString());
     }
     wiazWiersz(*zmien_, wiersz);
     zmien_->wiaz(szerokosc(), rowid_[w]).wykonaj();

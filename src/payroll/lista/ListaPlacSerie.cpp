@@ -105,6 +105,7 @@ RaportSerii ListaPlac::DodajPracownikow(const QList<qint64>& numery) {
         uwagi = std::move(r.uwagi);
         return true;
     };
+    o_.sesja.wierszListy.zapowiedzNowe(numery.size());
     return wykonajSerie(QStringLiteral("Nowi pracownicy na liście płac"),
                         {numery.size(), [&](qsizetype i) { return numery[i]; },
                          [&] { return pytaniaDodawania(numery); }, krok});

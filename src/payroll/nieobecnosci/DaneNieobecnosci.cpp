@@ -22,7 +22,7 @@ public:
             Odczyt odczyt)
         : odczyt_(odczyt), kolumny_(kolumny), reszta_(reszta), od_(od), dokad_(dokad),
           zapytanie_(sesja.cnPlace, wOkresie(zapytanie, kolumny, odczyt)) {
-        if (odczyt == Odczyt::Wszystkich) czytaj(zapytanie_.uruchom(od_, dokad_));
+        if (odczyt == Odczyt::Wszystkich) czytaj(zapytanie_.uruchom());
     }
 
     [[nodiscard]] Nieobecnosci pracownika(qint64 prcId) {
@@ -36,12 +36,14 @@ public:
     }
 
 private:
-    /// The rows of the period, and those whose dates are damaged: they must not slip through the comparison.
+    /// One employee's rows of the period, and those whose dates are damaged: they must not slip through the
+    /// comparison. A whole register is read faster than its dates are compared in the file.
     static const Zapytanie& wOkresie(Zapytanie& zapytanie, const Kolumny& k, Odczyt odczyt) {
         zapytanie.kolumny(k.prcId, k.od, k.dokad);
+        if (odczyt == Odczyt::Wszystkich) return zapytanie;
         zapytanie.gdzie(k.dokad >= Parametr{0} || WarunekZapytania::bezDaty(k.dokad));
         zapytanie.gdzie(k.od <= Parametr{1} || WarunekZapytania::bezDaty(k.od));
-        return odczyt == Odczyt::PoJednym ? zapytanie.gdzie(k.prcId == Parametr{2}) : zapytanie;
+        return zapytanie.gdzie(k.prcId == Parametr{2});
     }
 
     void czytaj(WierszeZapytania wiersze) {

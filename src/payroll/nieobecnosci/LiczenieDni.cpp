@@ -74,8 +74,8 @@ WynikDni Przelicz_Dni(RokMies miesiac, const DaneDni& dane) {
 }
 
 int DniObowiazkuPracy(RokMies miesiac, const std::optional<DniKalendarza>& kalendarz) {
-    return kalendarz.value_or(DniKalendarza::nowyMiesiac(miesiac.rok, miesiac.mies))
-        .ile(DniKalendarza::Roboczy);
+    const auto dni = kalendarz ? *kalendarz : DniKalendarza::nowyMiesiac(miesiac.rok, miesiac.mies);
+    return dni.ile(DniKalendarza::Roboczy);
 }
 
 } // namespace tornel::payroll
