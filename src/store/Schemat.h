@@ -14,7 +14,7 @@ inline constexpr auto Tabele = std::to_array<const TabelaDef*>({
     &KON,   &UZYTKOWNICY, &PRACDP, &PRACSK,  &PRACINF, &PRACPR,   &PRACZUS, &RODZINA,   &UMOP,
     &SZ_PL, &PLACE,       &PLACEN, &PLACEK,  &NADG,    &URL,      &ZW,      &KALENDARZ, &UZL,
     &UOD,   &HON,         &US,     &M_PRACY, &KONTA,   &PRZELEW,  &ZUS,     &PIT4,      &PIT11,
-    &PIT40, &PIT8B,       &DRUKLP, &TEMP,    &LSTOBEC, &LSTOBEC2, &ZASILEK, &WPISANE,
+    &PIT40, &PIT8B,       &DRUKLP, &TEMP,    &LSTOBEC, &LSTOBEC2, &ZASILEK, &WPISANE,   &WYKONANE,
 });
 
 /// The tables whose rows correspond one to one, in groups.

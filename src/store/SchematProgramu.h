@@ -1,4 +1,4 @@
-// Schema of what the program keeps for itself: its constants and users.
+// Schema of what the program keeps for itself: its constants, its users, what it printed and wrote.
 #pragma once
 #include "store/SeriaKolumn.h"
 
@@ -24,15 +24,34 @@ inline constexpr KolumnaDef UZYTKOWNICY[] = {
     {"Typ", Short}, // 0 administrator, otherwise bits: 1 "Kadry", 2 "Płace"
 };
 
+/// Papers printed and files written, never changed afterwards.
+inline constexpr KolumnaDef WYKONANE[] = {
+    {"ROKMIES", Text, 6, true}, // yyyymm that it is about; of one about no month, in which it was made
+    {"NR", Integer, 0, true},   // within the month, from 1 in the order of making
+    {"RODZAJ", Text, 20},       // what it is
+    {"ZRODLO", Text, 10},       // table of its data
+    {"LISTA", Text, 50},        // list symbols, empty for all
+    {"KOMU", Integer},          // employee or tax office, 0 for no single one
+    {"DOKUMENT", Integer},      // number of the contract or declaration
+    {"KWOTA", Currency},        // zł
+    {"DZIEN", Date},            // when and by whom it was made
+    {"CZAS", Text, 8},
+    {"KTO", Text, 30},
+    {"PLIK", Memo},
+    {"OPIS", Memo},
+};
+
 } // namespace kolumny
 
 namespace klucze {
 inline constexpr std::string_view Num[] = {"Num"};
 inline constexpr std::string_view Uzytkownik[] = {"Nazwa"};
+inline constexpr std::string_view Wykonanie[] = {"ROKMIES", "NR"};
 } // namespace klucze
 
 inline constexpr TabelaDef KON{"KON", kolumny::KON, klucze::Num};
 inline constexpr TabelaDef UZYTKOWNICY{"UZYTKOWNICY", kolumny::UZYTKOWNICY, klucze::Uzytkownik};
+inline constexpr TabelaDef WYKONANE{"WYKONANE", kolumny::WYKONANE, klucze::Wykonanie};
 
 } // namespace schemat
 

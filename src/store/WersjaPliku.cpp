@@ -23,6 +23,14 @@ constexpr KrokWersji kKroki[] = {
                    "\"LISTA\" TEXT(1), \"DODATNIE\" INTEGER, \"UJEMNE\" INTEGER)");
          p.wykonaj("CREATE UNIQUE INDEX \"I_WPISANE\" ON \"WPISANE\" (\"ROKMIES\", \"PRC_ID\", \"LISTA\")");
      }},
+    {u"spis wydruków i plików",
+     [](Polaczenie& p) {
+         p.wykonaj("CREATE TABLE \"WYKONANE\" (\"ROKMIES\" TEXT(6) NOT NULL, \"NR\" INTEGER NOT NULL, "
+                   "\"RODZAJ\" TEXT(20), \"ZRODLO\" TEXT(10), \"LISTA\" TEXT(50), \"KOMU\" INTEGER, "
+                   "\"DOKUMENT\" INTEGER, \"KWOTA\" CURRENCY, \"DZIEN\" DATE, \"CZAS\" TEXT(8), "
+                   "\"KTO\" TEXT(30), \"PLIK\" MEMO TEXT, \"OPIS\" MEMO TEXT)");
+         p.wykonaj("CREATE UNIQUE INDEX \"I_WYKONANE\" ON \"WYKONANE\" (\"ROKMIES\", \"NR\")");
+     }},
 };
 
 /// A name that no file has yet, beside the database: Tornel-wersja-0-20010731-1530.mdb.

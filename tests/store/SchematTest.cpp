@@ -101,10 +101,11 @@ TEST(Schemat, EveryTableIsSound) {
         EXPECT_LE(tabela->klucz.size(), 2U);
     }
     for (const char* nazwa :
-         {"KON",    "UZYTKOWNICY", "PRACDP",  "PRACSK", "PRACINF", "PRACPR",    "PRACZUS", "SZ_PL",  "PLACE",
-          "PLACEN", "PLACEK",      "NADG",    "URL",    "ZW",      "KALENDARZ", "UZL",     "UOD",    "HON",
-          "UMOP",   "RODZINA",     "M_PRACY", "US",     "KONTA",   "PRZELEW",   "ZUS",     "PIT4",   "PIT11",
-          "PIT40",  "PIT8B",       "DRUKLP",  "TEMP",   "LSTOBEC", "LSTOBEC2",  "ZASILEK", "WPISANE"})
+         {"KON",      "UZYTKOWNICY", "PRACDP",  "PRACSK",  "PRACINF", "PRACPR", "PRACZUS",   "SZ_PL",
+          "PLACE",    "PLACEN",      "PLACEK",  "NADG",    "URL",     "ZW",     "KALENDARZ", "UZL",
+          "UOD",      "HON",         "UMOP",    "RODZINA", "M_PRACY", "US",     "KONTA",     "PRZELEW",
+          "ZUS",      "PIT4",        "PIT11",   "PIT40",   "PIT8B",   "DRUKLP", "TEMP",      "LSTOBEC",
+          "LSTOBEC2", "ZASILEK",     "WPISANE", "WYKONANE"})
         EXPECT_TRUE(nazwyTabel.contains(nazwa)) << nazwa;
 }
 

@@ -8,7 +8,8 @@ namespace tornel::testy {
 
 /// Takes back what the steps of all versions brought.
 inline void dawnaBaza(Polaczenie& baza) {
-    for (const char16_t* tabela : {u"ZASILEK", u"WPISANE"}) UsunTabele(baza, QString::fromUtf16(tabela));
+    for (const char16_t* tabela : {u"ZASILEK", u"WPISANE", u"WYKONANE"})
+        UsunTabele(baza, QString::fromUtf16(tabela));
     UstawWersje(baza, 0);
 }
 
