@@ -75,7 +75,7 @@ QString powodOdmowy(const QCommandLineParser& parser, const QStringList& argumen
     if (const QStringList nieznane = parser.unknownOptionNames(); !nieznane.isEmpty())
         return QStringLiteral("Nieznana opcja: %1. (Argument, który zaczyna się minusem, podaje się za --.)")
             .arg(nieznane.first());
-    const QString ostatni = argumenty.last();
+    const QString& ostatni = argumenty.last();
     for (const OpcjaPolecenia& opcja : wszystkieOpcje())
         if (!opcja.wartosc.isEmpty() && ostatni == QStringLiteral("--%1").arg(opcja.nazwa))
             return QStringLiteral("Opcja %1 wymaga wartości.").arg(ostatni);

@@ -4,6 +4,7 @@
 #include "common/Rozmowa.h"
 #include "payroll/lista/KontrolaWierszy.h"
 #include "payroll/lista/ListaPlac.h"
+#include "payroll/lista/Przelewy.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
 #include "store/Sesja.h"
@@ -97,6 +98,13 @@ int przelicz(Wywolanie& w, Obliczenie obliczenie) {
 int przeliczDni(Wywolanie& w) { return przelicz(w, Obliczenie::PoliczenieDni); }
 int przepisz(Wywolanie& w) { return przelicz(w, Obliczenie::Przepisanie); }
 int przeliczWiersze(Wywolanie& w) { return przelicz(w, Obliczenie::Przeliczenie); }
+
+int naKonto(Wywolanie& w) {
+    ListaPlac lista = otworzListe(w);
+    QList<KluczListy> klucze;
+    for (const LiniaListy& linia : wierszeListy(w, w.otoczenie().sesja, lista)) klucze.append(linia.klucz);
+    return zakoncz(w, CaloscNaKontoWszystkich(w.otoczenie(), lista, klucze));
+}
 
 struct KolumnaSumy {
     QStringView napis;
@@ -271,6 +279,13 @@ QList<Polecenie> poleceniaListy() {
          kDowolnieWiele,
          {symbol, pracownik},
          przeliczWiersze},
+        {u"lista konto",
+         u"RRRR-MM [--lista X]",
+         u"przeznacza całą wypłatę na przelew wierszom pracowników, którzy mają konto",
+         1,
+         1,
+         {symbol},
+         naKonto},
         {u"lista pokaz", u"RRRR-MM [--lista X]", u"wypisuje wiersze i sumy miesiąca", 1, 1, {symbol}, pokaz},
     };
 }

@@ -1,5 +1,8 @@
 #include "cli/Polecenia.h"
+#include "common/Blad.h"
 #include "common/Pliki.h"
+#include "common/Rozmowa.h"
+#include "payroll/lista/SumyMiesiaca.h"
 #include "personnel/Pracownicy.h"
 #include "store/Sesja.h"
 #include "store/TabelaCsv.h"
@@ -9,12 +12,27 @@ namespace tornel::cli {
 
 namespace {
 
+bool jestTabelaMiesiaca(const TabelaPliku& tabela) {
+    return std::ranges::find(schemat::TabeleMiesiaca, tabela.def) != schemat::TabeleMiesiaca.end();
+}
+
 void wymagajOtwartegoMiesiaca(Sesja& sesja, const TabelaPliku& tabela) {
-    const bool placowa = std::find(schemat::TabeleMiesiaca.begin(), schemat::TabeleMiesiaca.end(),
-                                   tabela.def) != schemat::TabeleMiesiaca.end();
-    if (placowa && sesja.ZnajdzMiesiac(tabela.rok, tabela.mies) && sesja.rsPLACE.flaga(schemat::PLACE("akc")))
+    if (jestTabelaMiesiaca(tabela) && sesja.ZnajdzMiesiac(tabela.rok, tabela.mies) &&
+        sesja.rsPLACE.flaga(schemat::PLACE("akc")))
         throw Blad(QStringLiteral("Miesiąc %1 jest zablokowany i nie można go zmieniać.")
                        .arg(tekstMiesiaca({tabela.rok, tabela.mies})));
+}
+
+/// The header's sums of rows that were read from a file. Rows without their partners in the other tables,
+/// which may still come, add what they have.
+void przeliczSumy(Wywolanie& w, RokMies miesiac, const Transakcja& transakcja) {
+    Sesja& sesja = w.otoczenie().sesja;
+    const OtwartyMiesiac otwarty(sesja, miesiac);
+    if (otwarty.jest() && !SumyMiesiaca(sesja, miesiac).zapisz(transakcja))
+        w.rozmowa.komunikat(
+            QStringLiteral("Sumy miesiąca %1 wychodzą poza zakres kwot i nie zostały przeliczone.")
+                .arg(miesiac.napis()),
+            Styl::Wykrzyknik);
 }
 
 int importuj(Wywolanie& w) {
@@ -25,8 +43,11 @@ int importuj(Wywolanie& w) {
     const QByteArray csv = CzytajPlik(plik);
     WynikImportu wynik;
     try {
+        Transakcja transakcja(sesja.cnPlace, u"Wczytanie tabeli z pliku");
         wynik = ImportujTabele(sesja.cnPlace, tabela, csv,
                                [&](Recordset& nowy) { Pracownicy(w.otoczenie()).WpiszDomyslne(nowy); });
+        if (jestTabelaMiesiaca(tabela)) przeliczSumy(w, {tabela.rok, tabela.mies}, transakcja);
+        transakcja.zatwierdz();
     } catch (const BladBazy&) {
         throw;
     } catch (const Blad& blad) {

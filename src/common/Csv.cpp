@@ -82,7 +82,7 @@ private:
 QString zUtf8(const QByteArray& utf8) {
     // Takes a byte order mark off; a sequence cut at the end of the file counts as an error.
     QStringDecoder dekoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString tekst = dekoder.decode(utf8);
+    QString tekst = dekoder.decode(utf8);
     if (!dekoder.hasError()) return tekst;
     const qsizetype zly = tekst.indexOf(QChar::ReplacementCharacter);
     throw Blad(QStringLiteral("Wiersz %1: tekst nie jest zapisany w UTF-8.")

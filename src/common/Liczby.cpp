@@ -23,7 +23,7 @@ bool zdejmijZnak(QStringView& t) {
 /// Takes the leading digits off the front.
 QByteArray zdejmijCyfry(QStringView& t) {
     const auto koniec = std::find_if_not(t.begin(), t.end(), jestCyfra);
-    const QByteArray cyfry = t.left(koniec - t.begin()).toLatin1();
+    QByteArray cyfry = t.left(koniec - t.begin()).toLatin1();
     t = t.mid(koniec - t.begin());
     return cyfry;
 }

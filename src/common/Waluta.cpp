@@ -89,7 +89,8 @@ Waluta& Waluta::operator-=(Waluta b) {
 Waluta Round(Waluta kwota, int miejsca) { return ulamek(kwota.surowa(), 1, miejsca); }
 
 Waluta Procent(Waluta kwota, Stawka stawka, int miejsca) {
-    return ulamek(static_cast<Szeroka>(kwota.surowa()) * stawka.procent().surowa(), 10000 * 100, miejsca);
+    return ulamek(static_cast<Szeroka>(kwota.surowa()) * stawka.procent().surowa(), Szeroka{10000} * 100,
+                  miejsca);
 }
 
 Waluta Proporcja(Waluta kwota, std::int64_t licznik, std::int64_t mianownik, int miejsca) {

@@ -33,8 +33,8 @@ struct ZmierzonePismo {
         font.setBold(opis.grube);
         font.setHintingPreference(QFont::PreferNoHinting);
         miary = QFontMetricsF(font);
-        for (ushort znak = 0; znak < lacinskie.size(); ++znak)
-            lacinskie[znak] = miary.horizontalAdvance(QChar(znak));
+        for (std::size_t znak = 0; znak < lacinskie.size(); ++znak)
+            lacinskie[znak] = miary.horizontalAdvance(QChar(static_cast<ushort>(znak)));
     }
     [[nodiscard]] double szer(QChar znak) {
         if (znak.unicode() < lacinskie.size()) return lacinskie[znak.unicode()];

@@ -66,7 +66,7 @@ QString Pomoc::czytajPodrecznik() {
         powod = QStringLiteral("pliku nie wolno odczytać");
     } else {
         QStringDecoder utf8(QStringDecoder::Utf8);
-        const QString tekst = utf8(plik.readAll());
+        QString tekst = utf8(plik.readAll());
         if (plik.error() == QFile::NoError && !utf8.hasError() &&
             tekst.contains(QStringLiteral("id=\"%1\"").arg(kSpis)))
             return tekst;

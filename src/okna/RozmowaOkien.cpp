@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -31,7 +32,7 @@ public:
         }
     }
     ~ZawieszenieKursora() {
-        for (auto k = kursory_.rbegin(); k != kursory_.rend(); ++k) QApplication::setOverrideCursor(*k);
+        for (const auto& kursor : kursory_ | std::views::reverse) QApplication::setOverrideCursor(kursor);
     }
     ZawieszenieKursora(const ZawieszenieKursora&) = delete;
     ZawieszenieKursora& operator=(const ZawieszenieKursora&) = delete;

@@ -44,7 +44,7 @@ QList<Pozycja> pozycje(const KartotekaPracownika::Slownik& slownik) {
 } // namespace
 
 Wartosc ZrodloKartoteki::czytaj(const Pole& pole) const {
-    const Wartosc wartosc = kartoteka_.wartosc(pole.kolumna);
+    Wartosc wartosc = kartoteka_.wartosc(pole.kolumna);
     if (pole.klucz == 0) return wartosc;
     const auto* bity = std::get_if<qint64>(&wartosc);
     const bool tak = bity && maBit(static_cast<quint32>(*bity), pole.klucz);

@@ -135,7 +135,7 @@ QList<Pozycja> urzedy(Sesja& sesja) {
 }
 
 QString podpowiedz(const StalaDef& stala) {
-    const QString numer = QStringLiteral("Stała nr %1").arg(stala.num);
+    QString numer = QStringLiteral("Stała nr %1").arg(stala.num);
     if (stala.num != kSposobStZasL4) return numer;
     // The captions of the second and third choice say one thing and the stored values mean another.
     return numer + QStringLiteral(". Przy wyborze kolejnych pozycji liczone jest naprawdę:\n"

@@ -33,7 +33,7 @@ QString ZnajdzBaze(const QString& folderProgramu, Rozmowa& rozmowa) {
     const QDir folder(folderProgramu);
     QFile ini(folder.filePath(QStringLiteral("Baza.ini")));
     if (ini.open(QIODevice::ReadOnly)) {
-        const QString sciezka = QString::fromUtf8(ini.readLine()).trimmed();
+        QString sciezka = QString::fromUtf8(ini.readLine()).trimmed();
         if (!sciezka.isEmpty() && QFileInfo(sciezka).isFile()) return sciezka;
         rozmowa.komunikat(QStringLiteral("Nie można znaleźć bazy podadnej w pliku Baza.ini"),
                           Styl::Krytyczny);

@@ -41,7 +41,7 @@ QString nazwaKopii(const QFileInfo& plik, int wersja) {
                               .arg(plik.lastModified().toString(QStringLiteral("yyyyMMdd-HHmmss")));
     const QString koncowka = plik.suffix().isEmpty() ? QString() : QLatin1Char('.') + plik.suffix();
     for (int i = 1;; ++i) {
-        const QString nazwa =
+        QString nazwa =
             plik.dir().filePath(trzon + (i == 1 ? QString() : QStringLiteral("-%1").arg(i)) + koncowka);
         if (!QFileInfo::exists(nazwa)) return nazwa;
     }
@@ -69,7 +69,7 @@ void kopiujStrony(sqlite3* zrodlo, const QString& cel, const QString& sciezka) {
 }
 
 QString kopiuj(Polaczenie& polaczenie, int wersja) {
-    const QString cel = nazwaKopii(QFileInfo(polaczenie.sciezka()), wersja);
+    QString cel = nazwaKopii(QFileInfo(polaczenie.sciezka()), wersja);
     // Under its own name only when it is whole.
     const QString niegotowa = cel + QStringLiteral(".czesc");
     UsunPlikBazy(niegotowa);

@@ -302,11 +302,12 @@ void ListaPlac::wykonajObliczenie(Obliczenie obliczenie, const AkcjaPlac& akcja,
     }
 }
 
-void ListaPlac::wpiszObliczenie(Obliczenie obliczenie, const WierszPlac& przedtem, const RachunekWiersza& r) {
+void ListaPlac::wpiszObliczenia(const QList<Obliczenie>& wykonane, const WierszPlac& przedtem,
+                                const RachunekWiersza& r) {
+    if (wykonane.contains(Obliczenie::Przepisanie))
+        PrzepisanoSkladniki(o_.sesja, pozycje_, przedtem.klucz.prcId, przedtem.klucz.lista);
     ZapiszZmiany(o_.sesja, przedtem, r.wiersz);
     wpiszZasilek(r);
-    if (obliczenie == Obliczenie::Przepisanie)
-        PrzepisanoSkladniki(o_.sesja, pozycje_, przedtem.klucz.prcId, przedtem.klucz.lista);
 }
 
 bool ListaPlac::saWpisane(const KluczListy& klucz) {
@@ -329,7 +330,7 @@ bool ListaPlac::przeliczWiersz(Obliczenie obliczenie) {
     if (moga.ma(Pytanie::ZastapicWpisane) && !odpowiedzi->ma(Pytanie::ZastapicWpisane)) return false;
     RachunekWiersza r{przedtem, zapisanyZasilek(przedtem.klucz)};
     wykonajObliczenie(obliczenie, {miesiac(), zrodla_, *odpowiedzi, Zakres::Wiersz}, r);
-    zapiszWiersz(przedtem.klucz, [&] { wpiszObliczenie(obliczenie, przedtem, r); });
+    zapiszWiersz(przedtem.klucz, [&] { wpiszObliczenia({obliczenie}, przedtem, r); });
     if (obliczenie == Obliczenie::Przeliczenie) sumy_ = r.sumy;
     pokazUwagi(r.uwagi);
     return true;

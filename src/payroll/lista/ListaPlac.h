@@ -83,8 +83,13 @@ public:
     bool Przelicz2() { return przelicz(Obliczenie::Przepisanie); }
     bool Przelicz1() { return przelicz(Obliczenie::Przeliczenie); }
     /// The same for many rows as a batch; a row whose calculation fails stays as it was, and so does one with
-    /// typed component amounts that the clerk keeps.
-    RaportSerii PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze);
+    /// typed component amounts that the clerk keeps. Several calculations are carried out one behind the
+    /// other on each row, in one action and with one set of questions; typed amounts then keep back the
+    /// refill alone.
+    RaportSerii PrzeliczSerie(const QList<Obliczenie>& obliczenia, const QList<KluczListy>& wiersze);
+    RaportSerii PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze) {
+        return PrzeliczSerie(QList{obliczenie}, wiersze);
+    }
 
     // Hand edits of the row taken up. Each is one action, saved when the procedure returns.
 
@@ -124,7 +129,11 @@ private:
                                                const DanePracownika& pracownik);
     [[nodiscard]] ZbiorPytan pytaniaWiersza(Obliczenie obliczenie, const WierszPlac& wiersz);
     [[nodiscard]] ZbiorPytan pytaniaDodawania(const QList<qint64>& numery);
-    [[nodiscard]] ZbiorPytan pytaniaSerii(Obliczenie obliczenie, const QList<KluczListy>& wiersze);
+    [[nodiscard]] ZbiorPytan pytaniaSerii(const QList<Obliczenie>& obliczenia,
+                                          const QList<KluczListy>& wiersze);
+    void dodajPytania(Obliczenie obliczenie, const KluczListy& klucz, ZbiorPytan& moga);
+    bool przeliczWSerii(const QList<Obliczenie>& obliczenia, const KluczListy& klucz, const AkcjaPlac& akcja,
+                        ListaUwag& uwagi);
     void wykonajObliczenie(Obliczenie obliczenie, const AkcjaPlac& akcja, RachunekWiersza& rachunek);
     bool przelicz(Obliczenie obliczenie);
     [[nodiscard]] bool przeliczWiersz(Obliczenie obliczenie);
@@ -133,7 +142,8 @@ private:
     [[nodiscard]] bool przyjmijPrzelew(WierszPlac& wiersz);
 
     void wpiszZasilek(const RachunekWiersza& rachunek);
-    void wpiszObliczenie(Obliczenie obliczenie, const WierszPlac& przedtem, const RachunekWiersza& rachunek);
+    void wpiszObliczenia(const QList<Obliczenie>& wykonane, const WierszPlac& przedtem,
+                         const RachunekWiersza& rachunek);
     [[nodiscard]] bool saWpisane(const KluczListy& klucz);
     void zapiszRekordy(const Transakcja& akcja);
     void zapiszSumyMiesiaca(const Transakcja& akcja);

@@ -20,8 +20,9 @@ QStringList tekstyDlaSerii(const ListaUwag& uwagi) {
     return teksty;
 }
 
-QString nazwaSerii(Obliczenie obliczenie) {
-    switch (obliczenie) {
+QString nazwaSerii(const QList<Obliczenie>& obliczenia) {
+    if (obliczenia.size() > 1) return QStringLiteral("Przepisanie i przeliczenie listy płac");
+    switch (obliczenia.first()) {
     case Obliczenie::PoliczenieDni:
         return QStringLiteral("Przeliczenie dni na liście płac");
     case Obliczenie::Przepisanie:
@@ -111,53 +112,65 @@ RaportSerii ListaPlac::DodajPracownikow(const QList<qint64>& numery) {
                          [&] { return pytaniaDodawania(numery); }, krok});
 }
 
-ZbiorPytan ListaPlac::pytaniaSerii(Obliczenie obliczenie, const QList<KluczListy>& wiersze) {
+void ListaPlac::dodajPytania(Obliczenie obliczenie, const KluczListy& klucz, ZbiorPytan& moga) {
+    if (obliczenie == Obliczenie::PoliczenieDni) {
+        zrodla_.dodajPytaniaDni(miesiac(), klucz.prcId, Zakres::Seria, moga);
+    } else if (obliczenie == Obliczenie::Przepisanie) {
+        if (saWpisane(klucz)) moga.dodaj(Pytanie::ZastapicWpisane);
+        zrodla_.dodajPytaniaSkladnikow(miesiac(), klucz.prcId, moga);
+    } else if (!moga.ma(Pytanie::PomniejszycZasilek)) {
+        const std::optional<Waluta> zapisany = zapisanyZasilek(klucz);
+        // Without days of the insurer an unrecorded benefit is none.
+        const auto wiersz = o_.sesja.rsPLA.szukaj(klucz.prcId, klucz.lista);
+        if (!zapisany && !(wiersz && wiersz->liczba(PLA("DNI_L4_ZUS")) > 0)) return;
+        szukajWiersza(klucz);
+        moga |= PytaniaPlacy({}, ZasilekChorobowy(miesiac(), WczytajWiersz(o_.sesja), zapisany));
+    }
+}
+
+ZbiorPytan ListaPlac::pytaniaSerii(const QList<Obliczenie>& obliczenia, const QList<KluczListy>& wiersze) {
     ZbiorPytan moga;
     for (const KluczListy& klucz : wiersze)
-        pomijajacUszkodzonych([&] {
-            if (obliczenie == Obliczenie::PoliczenieDni)
-                zrodla_.dodajPytaniaDni(miesiac(), klucz.prcId, Zakres::Seria, moga);
-            else if (obliczenie == Obliczenie::Przepisanie) {
-                if (saWpisane(klucz)) moga.dodaj(Pytanie::ZastapicWpisane);
-                zrodla_.dodajPytaniaSkladnikow(miesiac(), klucz.prcId, moga);
-            } else if (!moga.ma(Pytanie::PomniejszycZasilek)) {
-                const std::optional<Waluta> zapisany = zapisanyZasilek(klucz);
-                // Without days of the insurer an unrecorded benefit is none.
-                const auto wiersz = o_.sesja.rsPLA.szukaj(klucz.prcId, klucz.lista);
-                if (!zapisany && !(wiersz && wiersz->liczba(PLA("DNI_L4_ZUS")) > 0)) return;
-                szukajWiersza(klucz);
-                moga |= PytaniaPlacy({}, ZasilekChorobowy(miesiac(), WczytajWiersz(o_.sesja), zapisany));
-            }
-        });
-    if (obliczenie == Obliczenie::Przepisanie) moga.dodaj(Pytanie::PomniejszycZasilek, false);
+        for (const Obliczenie obliczenie : obliczenia)
+            pomijajacUszkodzonych([&] { dodajPytania(obliczenie, klucz, moga); });
+    if (!obliczenia.contains(Obliczenie::Przeliczenie)) moga.dodaj(Pytanie::PomniejszycZasilek, false);
     return moga;
 }
 
-RaportSerii ListaPlac::PrzeliczSerie(Obliczenie obliczenie, const QList<KluczListy>& wiersze) {
+bool ListaPlac::przeliczWSerii(const QList<Obliczenie>& obliczenia, const KluczListy& klucz,
+                               const AkcjaPlac& akcja, ListaUwag& uwagi) {
+    ustawNa(klucz);
+    wymagajPracownika(klucz.prcId);
+    wymagajWiersza();
+    const bool zostawWpisane = !akcja.odpowiedzi.ma(Pytanie::ZastapicWpisane) && saWpisane(klucz);
+    const WierszPlac przedtem = WczytajWiersz(o_.sesja);
+    RachunekWiersza r{przedtem, zapisanyZasilek(klucz)};
+    QList<Obliczenie> wykonane;
+    for (const Obliczenie obliczenie : obliczenia) {
+        if (obliczenie == Obliczenie::Przepisanie && zostawWpisane) continue;
+        wykonajObliczenie(obliczenie, akcja, r);
+        wykonane.append(obliczenie);
+    }
+    if (wykonane.isEmpty()) return false;
+    wpiszObliczenia(wykonane, przedtem, r);
+    uwagi = std::move(r.uwagi);
+    return true;
+}
+
+RaportSerii ListaPlac::PrzeliczSerie(const QList<Obliczenie>& obliczenia, const QList<KluczListy>& wiersze) {
     wymagajOtwartego();
-    if (obliczenie == Obliczenie::PoliczenieDni && !o_.stale.AktRejPrzepDni) {
+    if (obliczenia.contains(Obliczenie::PoliczenieDni) && !o_.stale.AktRejPrzepDni) {
         RachunekWiersza bezDni;
         LiczDni({miesiac(), zrodla_, {}, Zakres::Wiersz}, bezDni); // says that counting is off
         pokazUwagi(bezDni.uwagi);
         return {};
     }
     const auto krok = [&](qsizetype i, const AkcjaPlac& akcja, ListaUwag& uwagi) {
-        ustawNa(wiersze[i]);
-        wymagajPracownika(wiersze[i].prcId);
-        wymagajWiersza();
-        if (obliczenie == Obliczenie::Przepisanie && !akcja.odpowiedzi.ma(Pytanie::ZastapicWpisane) &&
-            saWpisane(wiersze[i]))
-            return false;
-        const WierszPlac przedtem = WczytajWiersz(o_.sesja);
-        RachunekWiersza r{przedtem, zapisanyZasilek(przedtem.klucz)};
-        wykonajObliczenie(obliczenie, akcja, r);
-        wpiszObliczenie(obliczenie, przedtem, r);
-        uwagi = std::move(r.uwagi);
-        return true;
+        return przeliczWSerii(obliczenia, wiersze[i], akcja, uwagi);
     };
-    return wykonajSerie(nazwaSerii(obliczenie),
+    return wykonajSerie(nazwaSerii(obliczenia),
                         {wiersze.size(), [&](qsizetype i) { return wiersze[i].prcId; },
-                         [&] { return pytaniaSerii(obliczenie, wiersze); }, krok});
+                         [&] { return pytaniaSerii(obliczenia, wiersze); }, krok});
 }
 
 } // namespace tornel::payroll

@@ -206,7 +206,8 @@ void frmPlaceLista::pokazPonownie() {
         wypiszBiezacy();
         przejrzyjBiezacy();
     } else {
-        QDialog::done(Rejected); // the month itself is gone
+        // The month itself is gone: nothing is left that the way out could store.
+        QDialog::done(Rejected); // NOLINT(bugprone-parent-virtual-call)
     }
 }
 
@@ -355,12 +356,9 @@ void frmPlaceLista::seria(const QList<Obliczenie>& obliczenia) {
     zakladki_->zakoncz();
     const Klepsydra klepsydra;
     zakladki_->porzucSumy();
-    for (const Obliczenie obliczenie : obliczenia) {
-        const RaportSerii raport = lista_.PrzeliczSerie(obliczenie, klucze());
-        raport.pokaz(o_.rozmowa);
-        if (raport.przerwana) break;
-    }
+    const RaportSerii raport = lista_.PrzeliczSerie(obliczenia, klucze());
     poSerii();
+    raport.pokaz(o_.rozmowa);
 }
 
 void frmPlaceLista::poSerii() {

@@ -46,7 +46,7 @@ Wartosc ZrodloWiersza::czytaj(const Pole& pole) const {
         const SumyWiersza& sumy = lista_.sumy();
         return FormatKwoty(suma == SumaEkranu::PodstawaZUS ? sumy.PodstawaZUS : sumy.PodstawaUbzdr);
     }
-    const Wartosc wartosc = wiersze_.czytaj(pole);
+    Wartosc wartosc = wiersze_.czytaj(pole);
     const auto* tekst = std::get_if<QString>(&wartosc);
     // Not yet sent shows as "N", whether or not the row says so.
     if (pole.nazwa == kWyslane && (!tekst || tekst->trimmed().isEmpty())) return QStringLiteral("N");

@@ -270,7 +270,7 @@ RaportSerii ListaNadgodzin::NoweOsoby(QList<qint64> numery) {
     // New rows go behind those before them; in any other order each would move the ones behind it.
     std::ranges::sort(numery);
     (void)WypiszNadgodziny(kNikt);
-    const RaportSerii raport =
+    RaportSerii raport =
         wykonajSerie({.czynnosc = czynnosc(QStringLiteral("Dodanie osób do listy nadgodzin")),
                       .tytul = kTytul,
                       .krok = QStringLiteral("Dopisywanie pracownika nr ")},
@@ -399,7 +399,7 @@ RaportSerii ListaNadgodzin::Odswiez() {
     QList<qint64> numery;
     for (osoby_.MoveFirst(); !osoby_.EOF_(); osoby_.MoveNext()) numery.append(osoby_.liczba(NADGN("PRC_ID")));
     StawkiNadgodzin stawki(o_);
-    const RaportSerii raport =
+    RaportSerii raport =
         wykonajSerie({.czynnosc = czynnosc(QStringLiteral("Odświeżenie listy nadgodzin")), .tytul = kTytul},
                      numery, [&](qint64 prcId) {
                          (void)osoby_.Znajdz(prcId);

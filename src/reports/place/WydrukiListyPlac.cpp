@@ -109,7 +109,8 @@ struct Siatka {
 
     void dodaj(QList<Element>& elementy, int i, const QString& napis, int pole, Format format,
                Pismo pismo) const {
-        const double xKolumny = x + (i / linii) * (szer + odstep), yLinii = y + (i % linii) * kLiniaBloku;
+        const int kolumna = i / linii, linia = i % linii;
+        const double xKolumny = x + kolumna * (szer + odstep), yLinii = y + linia * kLiniaBloku;
         constexpr double kKwota = 19;
         elementy.append({.miejsce = {xKolumny, yLinii, szer - kKwota, kLiniaBloku},
                          .tekst = napis,
@@ -326,7 +327,8 @@ std::shared_ptr<const Uklad> UlozWydrukListy(WydrukListy ktory, Otoczenie& otocz
         break;
     }
     OpisWydruku opis = podstawa(n, u"zbiorowka", QStringLiteral("Zbiorówka płac"), false);
-    return UlozZbiorowke(std::move(opis), otoczenie, *wiersze, zaMiesiac(n), stopka(opis, dzien));
+    const auto dolStrony = stopka(opis, dzien);
+    return UlozZbiorowke(std::move(opis), otoczenie, *wiersze, zaMiesiac(n), dolStrony);
 }
 
 } // namespace tornel::reports

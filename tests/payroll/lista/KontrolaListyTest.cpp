@@ -176,6 +176,15 @@ TEST_F(KontrolaListyTest, TypedComponentsAreWrittenOverOnlyWhenTheClerkAgrees) {
     oczekujWPliku(klucz(1), "SP_1=1200 SP_5=0 SP_3=1");
     EXPECT_EQ(l->PrzeliczSerie(Obliczenie::Przepisanie, {klucz(1)}).wykonane, 1) << "asked once";
 
+    // Both calculations as one action: one question, and what the clerk keeps is computed all the same.
+    wpisz(1, "SP_5=350");
+    zmienPracownika(2, "placa_zas=1300");
+    rozmowa_.spodziewaj(seria, Odpowiedz::Nie);
+    const QList obie{Obliczenie::Przepisanie, Obliczenie::Przeliczenie};
+    EXPECT_EQ(l->PrzeliczSerie(obie, {klucz(1), klucz(2)}).wykonane, 2);
+    oczekujWPliku(klucz(1), "SP_5=350 BRUTTO=1550");
+    oczekujWPliku(klucz(2), "SP_1=1300 BRUTTO=1300");
+
     // The marks go with the row.
     wpisz(1, "SP_5=10");
     rozmowa_.spodziewaj(u"Czy na pewno usunąć pracownika o numerze 1 z miesięcznej listy płac ?"_s,
