@@ -9,7 +9,6 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -32,7 +31,8 @@ public:
         }
     }
     ~ZawieszenieKursora() {
-        for (const auto& kursor : kursory_ | std::views::reverse) QApplication::setOverrideCursor(kursor);
+        // NOLINTNEXTLINE(modernize-loop-convert): not every compiler reads a reversed view
+        for (auto k = kursory_.rbegin(); k != kursory_.rend(); ++k) QApplication::setOverrideCursor(*k);
     }
     ZawieszenieKursora(const ZawieszenieKursora&) = delete;
     ZawieszenieKursora& operator=(const ZawieszenieKursora&) = delete;

@@ -5,12 +5,12 @@
 #include "personnel/frmPracPola.h"
 #include "personnel/KartotekaPracownika.h"
 #include <memory>
+#include <QGroupBox>
 #include <QList>
 #include <QTabWidget>
 #include <set>
 #include <vector>
 
-class QGroupBox;
 class QLabel;
 
 namespace tornel::personnel {

@@ -89,6 +89,8 @@ template <typename... F>
 struct Warianty : F... {
     using F::operator()...;
 };
+template <typename... F>
+Warianty(F...) -> Warianty<F...>;
 
 /// Calls `f` with a reference to the value: int, bool, Waluta, QDate, QString, or a `std::array` of int or
 /// QString.

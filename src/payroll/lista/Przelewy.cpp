@@ -1,5 +1,6 @@
 #include "payroll/lista/Przelewy.h"
 #include "common/Blad.h"
+#include "common/Rozmowa.h"
 #include "payroll/lista/KontrolaWierszy.h"
 #include "store/Seria.h"
 #include "store/Sesja.h"

@@ -4,6 +4,7 @@
 #include "rules/Otoczenie.h"
 #include <optional>
 #include <QDate>
+#include <span>
 
 namespace tornel::payroll {
 class ListaPlac;
