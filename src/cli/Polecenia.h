@@ -36,5 +36,6 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaNadgodzin();
 [[nodiscard]] QList<Polecenie> poleceniaBanku();
 [[nodiscard]] QList<Polecenie> poleceniaWydrukow();
+[[nodiscard]] QList<Polecenie> poleceniaZestawien();
 
 } // namespace tornel::cli

@@ -1,4 +1,5 @@
 #include "cli/Polecenia.h"
+#include "cli/Wydruk.h"
 #include "common/Pliki.h"
 #include "druk/Wyjscie.h"
 #include "payroll/lista/ListaPlac.h"
@@ -8,11 +9,6 @@
 namespace tornel::cli {
 
 namespace {
-
-const QString kPdf = QStringLiteral("pdf");
-const QString kPng = QStringLiteral("png");
-const QString kCsv = QStringLiteral("csv");
-const QString kTekst = QStringLiteral("tekst");
 
 reports::WydrukListy ktory(const QString& nazwa) {
     QStringList znane;
@@ -26,9 +22,7 @@ reports::WydrukListy ktory(const QString& nazwa) {
 
 int wydruk(Wywolanie& w) {
     const Argumenty& a = w.argumenty;
-    const auto drogi = a.ma(kPdf) + a.ma(kPng) + a.ma(kCsv) + a.ma(kTekst);
-    if (drogi != 1)
-        throw ZleUzycie(QStringLiteral("Podaj jedno z: --pdf PLIK, --png KATALOG, --csv PLIK, --tekst."));
+    WymagajDrogi(a);
     const auto rodzaj = ktory(a.pozycje[0]);
     const RokMies miesiac = miesiacZTekstu(a.pozycje[1]);
     ListaPlac lista(w.otoczenie(), miesiac.rok, miesiac.mies, a.wartosc(QStringLiteral("lista")));
@@ -36,29 +30,40 @@ int wydruk(Wywolanie& w) {
     if (a.ma(QStringLiteral("pracownik")))
         prcId = numerPracownikaZTekstu(a.wartosc(QStringLiteral("pracownik")));
     const auto uklad = reports::UlozWydrukListy(rodzaj, w.otoczenie(), lista, QDate::currentDate(), prcId);
-    if (a.ma(kPdf)) (void)druk::ZapiszPdf(*uklad, a.wartosc(kPdf));
-    if (a.ma(kPng))
-        for (const QString& plik : druk::ZapiszPng(*uklad, a.wartosc(kPng))) w.pisz(plik);
-    if (a.ma(kCsv)) ZapiszPlik(a.wartosc(kCsv), druk::CsvWydruku(*uklad));
-    if (a.ma(kTekst)) w.piszSurowo(druk::TekstWydruku(*uklad).toUtf8());
+    WypiszWydruk(w, *uklad);
     return status::Wykonane;
 }
 
+const QString kPdf = QStringLiteral("pdf");
+const QString kPng = QStringLiteral("png");
+const QString kCsv = QStringLiteral("csv");
+const QString kTekst = QStringLiteral("tekst");
+
 } // namespace
 
+QList<OpcjaPolecenia> opcjeWydruku(QList<OpcjaPolecenia> wlasne) {
+    return wlasne +
+           QList<OpcjaPolecenia>{{u"pdf", u"PLIK"}, {u"png", u"KATALOG"}, {u"csv", u"PLIK"}, {u"tekst", {}}};
+}
+
+void WymagajDrogi(const Argumenty& a) {
+    if (a.ma(kPdf) + a.ma(kPng) + a.ma(kCsv) + a.ma(kTekst) != 1)
+        throw ZleUzycie(QStringLiteral("Podaj jedno z: --pdf PLIK, --png KATALOG, --csv PLIK, --tekst."));
+}
+
+void WypiszWydruk(Wywolanie& w, const druk::Uklad& uklad) {
+    const Argumenty& a = w.argumenty;
+    if (a.ma(kPdf)) (void)druk::ZapiszPdf(uklad, a.wartosc(kPdf));
+    if (a.ma(kPng))
+        for (const QString& plik : druk::ZapiszPng(uklad, a.wartosc(kPng))) w.pisz(plik);
+    if (a.ma(kCsv)) ZapiszPlik(a.wartosc(kCsv), druk::CsvWydruku(uklad));
+    if (a.ma(kTekst)) w.piszSurowo(druk::TekstWydruku(uklad).toUtf8());
+}
+
 QList<Polecenie> poleceniaWydrukow() {
-    return {{u"wydruk",
-             u"NAZWA RRRR-MM (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
-             u"wydruk listy płac: lista-plac, lista-plac-2, lista-plac-3, pokwitowania, zbiorowka",
-             2,
-             2,
-             {{u"lista", u"SYMBOL"},
-              {u"pracownik", u"NR"},
-              {u"pdf", u"PLIK"},
-              {u"png", u"KATALOG"},
-              {u"csv", u"PLIK"},
-              {u"tekst", {}}},
-             wydruk}};
+    return {{u"wydruk", u"NAZWA RRRR-MM (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+             u"wydruk listy płac: lista-plac, lista-plac-2, lista-plac-3, pokwitowania, zbiorowka", 2, 2,
+             opcjeWydruku({{u"lista", u"SYMBOL"}, {u"pracownik", u"NR"}}), wydruk}};
 }
 
 } // namespace tornel::cli

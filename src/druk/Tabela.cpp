@@ -67,6 +67,12 @@ QList<Element> sumyKolumn(const QList<KolumnaDruku>& kolumny, const QString& pod
     return wynik;
 }
 
+QString wDwochLiniach(QString napis) {
+    if (const qsizetype odstep = napis.indexOf(QLatin1Char(' '), napis.size() / 3); odstep > 0)
+        napis[odstep] = QLatin1Char('\n');
+    return napis;
+}
+
 double szerKolumn(const QList<KolumnaDruku>& kolumny) {
     return std::accumulate(kolumny.begin(), kolumny.end(), 0.0,
                            [](double suma, const KolumnaDruku& k) { return suma + k.szer; });

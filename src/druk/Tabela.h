@@ -23,6 +23,8 @@ struct KolumnaDruku {
 /// Sums under the columns that are summed, behind the caption. `rodzaj`: `Suma` or `SumaStr`.
 [[nodiscard]] QList<Element> sumyKolumn(const QList<KolumnaDruku>& kolumny, const QString& podpis, double wys,
                                         Element::Rodzaj rodzaj = Element::Rodzaj::Suma);
+/// A caption broken after a word from its first third on, so that it stands in two lines.
+[[nodiscard]] QString wDwochLiniach(QString napis);
 /// Width of all columns, mm.
 [[nodiscard]] double szerKolumn(const QList<KolumnaDruku>& kolumny);
 /// The title, what it is about, and at the right the firm; the first lines of a report.

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <limits>
 #include <QCollator>
+#include <QHash>
 
 namespace tornel::personnel {
 
@@ -123,6 +124,31 @@ QList<Osoba> Pracownicy::doWyboru(int tryb, Zwolnieni zwolnieni) const {
                           : (tryb & 8) ? PRACPR("honorarium")
                                        : Kolumna{};
     return wybierz({flaga, zwolnieni, PorzadekPracownikow::Nazwiska});
+}
+
+QList<DzialFirmy> Pracownicy::dzialy() const {
+    QHash<QString, qint64> ilu;
+    for (const Wiersz pr : o_.sesja.rsPRACPR.wiersze()) ++ilu[pr.tekst(PRACPR("dzial")).trimmed()];
+    QList<DzialFirmy> wynik;
+    for (auto i = ilu.cbegin(); i != ilu.cend(); ++i) wynik.append({i.key(), i.value()});
+    const QCollator porzadek(QLocale(QLocale::Polish, QLocale::Poland));
+    std::ranges::sort(wynik, [&](const auto& a, const auto& b) {
+        const int c = porzadek.compare(a.nazwa, b.nazwa);
+        return c != 0 ? c < 0 : a.nazwa < b.nazwa;
+    });
+    return wynik;
+}
+
+QList<qint64> Pracownicy::zatrudnieni(QDate od, QDate dokad) const {
+    QList<qint64> wynik;
+    for (const Osoba& o : lista(FiltrPracownikow::Wszyscy, PorzadekPracownikow::Nazwiska)) {
+        const std::optional<Wiersz> pr = o_.sesja.rsPRACPR.szukaj(o.prcId);
+        if (!pr) continue;
+        const QDate zatrudniony = pr->data(PRACPR("data_zatr")), zwolniony = pr->data(PRACPR("data_zwoln"));
+        const bool odszedl = zwolniony.isValid() ? zwolniony < od : o.zwolniony;
+        if (!odszedl && !(zatrudniony.isValid() && zatrudniony > dokad)) wynik.append(o.prcId);
+    }
+    return wynik;
 }
 
 QString Pracownicy::komunikatPustejListy(int tryb) {

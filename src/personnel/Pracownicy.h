@@ -4,6 +4,7 @@
 #include "rules/Otoczenie.h"
 #include "store/Tabela.h"
 #include <optional>
+#include <QDate>
 #include <QList>
 #include <QString>
 
@@ -28,6 +29,12 @@ struct Osoba {
     QString imie;
     QString dzial;
     bool zwolniony = false;
+};
+
+/// A department and how many employees it has; an empty name for those who are in none.
+struct DzialFirmy {
+    QString nazwa;
+    qint64 pracownikow = 0;
 };
 
 /// What registers a new employee.
@@ -59,6 +66,12 @@ public:
     [[nodiscard]] QList<Osoba> doWyboru(int tryb, Zwolnieni zwolnieni = Zwolnieni::Pominieci) const;
     /// The message for an empty list of the picker, empty for a mode without one.
     [[nodiscard]] static QString komunikatPustejListy(int tryb);
+
+    /// The departments that employees are in, by name. Reads `PRACPR`.
+    [[nodiscard]] QList<DzialFirmy> dzialy() const;
+    /// Who was employed on some day from `od` to `dokad`, by surname: since `data_zatr`, or always without
+    /// it, until `data_zwoln`; a dismissed one without that date never. Reads `PRACDP`, `PRACPR`.
+    [[nodiscard]] QList<qint64> zatrudnieni(QDate od, QDate dokad) const;
 
     /// The highest used number plus one.
     [[nodiscard]] qint64 proponowanyNumer() const;

@@ -2,47 +2,14 @@
 #include "common/Slownie.h"
 #include "druk/Uklad.h"
 #include "payroll/lista/ListaPlac.h"
-#include "rules/SkladnikiPlac.h"
-#include "rules/Stale.h"
 #include "store/Sesja.h"
-#include <QRegularExpression>
 
 namespace tornel::reports {
 
 using schemat::PLA;
-using schemat::PLACEN;
 using schemat::PLB;
 
 namespace {
-
-/// Fields that are columns as they stand.
-struct PoleKolumna {
-    PoleListyPlac pole;
-    Kolumna kolumna;
-    QStringView nazwa;
-};
-constexpr PoleKolumna kKolumny[] = {
-    {Numer, PLA("PRC_ID"), u"Nr"},
-    {SymbolListy, PLA("LISTA"), u"Lista"},
-    {Brutto, PLA("BRUTTO"), u"Brutto"},
-    {Koszty, PLA("KUP"), u"Koszty uzyskania"},
-    {Dochod, PLA("NETTO"), u"Dochód"},
-    {PodatekPrzed, PLA("POD_DOCH"), u"Podatek przed odliczeniami"},
-    {Ulga, PLA("PPD"), u"Ulga podatkowa"},
-    {Zdrowotna, PLB("UBZDR"), u"Ubezp. zdrowotne odliczone"},
-    {ZdrowotnaNalezna, PLB("UBZDR_NAL"), u"Ubezp. zdrowotne należne"},
-    {Zaliczka, PLA("PODATEK"), u"Podatek"},
-    {Dodatki, PLA("DODATKI"), u"Dodatki"},
-    {Potracenia, PLA("POTRACENIA"), u"Potrącenia"},
-    {DoWyplaty, PLA("DO_WYPLATY"), u"Do wypłaty"},
-    {Przelewem, PLA("PRZELEWEM"), u"Przelewem"},
-    {Emerytalna, PLB("FEPRC"), u"Fundusz emerytalny"},
-    {Rentowa, PLB("FRPRC"), u"Fundusz rentowy"},
-    {Chorobowa, PLB("FCPRC"), u"Fundusz chorobowy"},
-    {DniPracy, PLA("DN_PR"), u"Dni przepracowane"},
-    {DniUrlopu, PLA("DN_URL"), u"Dni urlopu"},
-    {DniChorobowe, PLA("DN_ZAS"), u"Dni L-4"},
-};
 
 /// What a payslip takes off the pay besides the components.
 constexpr std::pair<PoleListyPlac, QStringView> kPotracane[] = {
@@ -51,33 +18,21 @@ constexpr std::pair<PoleListyPlac, QStringView> kPotracane[] = {
     {Zaliczka, u"Zaliczka na podatek"},
 };
 
-QString nazwaSkladnika(const QString& nazwa, int nr) {
-    return nazwa.trimmed().isEmpty() ? QStringLiteral("Składnik %1").arg(nr) : nazwa.trimmed();
-}
-
 } // namespace
 
 WierszeListyPlac::WierszeListyPlac(Otoczenie& otoczenie, const ListaPlac& lista, std::optional<qint64> prcId)
     : sesja_(otoczenie.sesja) {
-    const Stale& c = otoczenie.stale;
-    naglowek_.firma = QStringList{c.NazwaUzCz1, c.NazwaUzCz2, c.Ulica, c.KodiMiasto}
-                          .filter(QRegularExpression(QStringLiteral("\\S")))
-                          .join(QStringLiteral(", "));
+    naglowek_.firma = FirmaNaWydruku(otoczenie.stale);
     naglowek_.miesiac = {sesja_.rok(), sesja_.mies()};
     naglowek_.symbol = lista.symbol();
-    // A blocked month has kept the names under which it was paid.
-    const bool zMiesiaca = lista.zablokowany() && sesja_.ZnajdzMiesiac(sesja_.rok(), sesja_.mies());
-    const auto nazwa = [&](int nr) {
-        if (zMiesiaca) return sesja_.rsPLACEN.tekst(schemat::NazwaSkladnikaMiesiaca(nr));
-        return nr <= 30 ? otoczenie.skladniki.SkNazwa(nr) : otoczenie.skladniki.SkUNazwa(nr - 30);
-    };
+    const QStringList nazwy = NazwySkladnikow(otoczenie, naglowek_.miesiac);
     naglowek_.plusy = naglowek_.minusy = {QString()};
     for (int i = 1; i <= 30; ++i) {
-        naglowek_.plusy.append(nazwaSkladnika(nazwa(i), i));
+        naglowek_.plusy.append(nazwy[i]);
         if (lista.pozycje().dodatnia(i).aktywna()) naglowek_.uzywanePlusy.append(i);
     }
     for (int i = 1; i <= 15; ++i) {
-        naglowek_.minusy.append(nazwaSkladnika(nazwa(30 + i), 30 + i));
+        naglowek_.minusy.append(nazwy[30 + i]);
         if (lista.pozycje().ujemna(i).aktywna()) naglowek_.uzywaneMinusy.append(i);
     }
     const bool wszystkie = naglowek_.symbol.trimmed().isEmpty();
@@ -99,7 +54,7 @@ Wartosc WierszeListyPlac::pole(int wiersz, int nr) const {
         return Wiersz(sesja_.rsPLS, r.s)
             .kwota(skladnik < 30 ? schemat::SP(skladnik + 1) : schemat::SM(skladnik - 29));
     }
-    for (const PoleKolumna& p : kKolumny) {
+    for (const PoleKolumna& p : kolumnyListyPlac()) {
         if (p.pole != nr) continue;
         if (p.kolumna.tabela == &PLA) return a.wartosc(p.kolumna);
         return r.b < 0 ? Wartosc(Waluta{}) : Wiersz(sesja_.rsPLB, r.b).wartosc(p.kolumna);
@@ -147,7 +102,7 @@ QList<QString> nazwyPolListyPlac(const NaglowekListyPlac& naglowek) {
     nazwy[Osoba] = QStringLiteral("Nazwisko i imię");
     nazwy[SkladkiPracownika] = QStringLiteral("Składki pracownika");
     nazwy[Gotowka] = QStringLiteral("Gotówką");
-    for (const PoleKolumna& p : kKolumny) nazwy[p.pole] = p.nazwa.toString();
+    for (const PoleKolumna& p : kolumnyListyPlac()) nazwy[p.pole] = p.nazwa.toString();
     for (const int i : naglowek.uzywanePlusy) nazwy[polePlusa(i)] = naglowek.plusy[i];
     for (const int i : naglowek.uzywaneMinusy) nazwy[poleMinusa(i)] = naglowek.minusy[i];
     return nazwy;

@@ -3,6 +3,8 @@
 #include "common/RokMies.h"
 #include "druk/Wiersze.h"
 #include "payroll/lista/Pozycje.h"
+#include "reports/Firma.h"
+#include "reports/place/PolaListyPlac.h"
 #include "rules/Otoczenie.h"
 #include "store/Recordset.h"
 #include <QStringList>
@@ -13,46 +15,9 @@ class ListaPlac;
 
 namespace tornel::reports {
 
-/// The fields of a row. Behind the last of them stand the components: `polePlusa(1)` to `polePlusa(30)`,
-/// `poleMinusa(1)` to `poleMinusa(15)`.
-enum PoleListyPlac : int {
-    Numer,
-    Osoba,
-    SymbolListy,
-    Brutto,
-    SkladkiPracownika,
-    Koszty,
-    Dochod,
-    PodatekPrzed,
-    Ulga,
-    Zdrowotna,
-    ZdrowotnaNalezna,
-    Zaliczka,
-    Dodatki,
-    Potracenia,
-    DoWyplaty,
-    Przelewem,
-    Gotowka,
-    Emerytalna,
-    Rentowa,
-    Chorobowa,
-    DniPracy,
-    DniUrlopu,
-    DniChorobowe,
-    Slownie,
-    SpisNalezne,   ///< names of the additive components with an amount, one below the other
-    SpisKwot,      ///< and their amounts
-    SpisPotracane, ///< the same of deductions, contributions and tax
-    SpisKwotPotracanych,
-    OstatniePole
-};
-constexpr int polePlusa(int nr) { return OstatniePole + nr - 1; }
-constexpr int poleMinusa(int nr) { return OstatniePole + 30 + nr - 1; }
-inline constexpr int kPolListyPlac = OstatniePole + 45;
-
-/// The firm, the month and the components by name: what a print says of a list besides its rows.
+/// The month and the components by name: what a print says of a list besides its rows.
 struct NaglowekListyPlac {
-    QString firma;
+    Firma firma;
     RokMies miesiac;
     QString symbol;                         ///< blank for all lists
     QStringList plusy, minusy;              ///< names by number, from 1; element 0 is empty

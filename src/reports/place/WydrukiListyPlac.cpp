@@ -1,5 +1,4 @@
 #include "reports/place/WydrukiListyPlac.h"
-#include "common/Daty.h"
 #include "druk/Tabela.h"
 #include "reports/place/WierszeListyPlac.h"
 #include "reports/place/Zbiorowka.h"
@@ -15,31 +14,23 @@ constexpr double kWiersz = 4.6; // mm
 constexpr double kLiniaBloku = 3.9;
 
 QString zaMiesiac(const NaglowekListyPlac& n) {
-    const QString miesiac = NazwaMiesiaca(n.miesiac.mies) + QLatin1Char(' ') + FormatRoku(n.miesiac.rok);
+    const QString miesiac = MiesiacSlownie(n.miesiac);
     return n.symbol.trimmed().isEmpty() ? QStringLiteral("za miesiąc ") + miesiac
                                         : QStringLiteral("(%1) za miesiąc %2").arg(n.symbol, miesiac);
 }
 
 OpisWydruku podstawa(const NaglowekListyPlac& n, QStringView nazwa, const QString& tytul, bool poziomo) {
-    OpisWydruku opis;
-    opis.nazwa = nazwa.toString();
-    opis.tytul = tytul + QStringLiteral(" ") + zaMiesiac(n);
-    opis.strona = {poziomo, 10, 10, 10, 8};
+    OpisWydruku opis = NowyOpis(nazwa, tytul + QStringLiteral(" ") + zaMiesiac(n), poziomo);
     opis.nazwyPol = nazwyPolListyPlac(n);
     opis.brakWierszy = QStringLiteral("Na liście nie ma pracowników.");
     return opis;
 }
 
-Pasmo stopka(const OpisWydruku& opis, QDate dzien) {
-    return stopkaStrony(opis.strona,
-                        QStringLiteral("%1      Wydrukowano %2").arg(opis.tytul, FormatDaty(dzien)));
-}
-
 /// A table with the sums of the page and of the whole.
 QList<Pasmo> pasmaTabeli(const OpisWydruku& opis, const NaglowekListyPlac& n, const QString& tytul,
                          const QList<KolumnaDruku>& kolumny, QDate dzien) {
-    Pasmo naglowek = naglowekWydruku(opis.strona, n.firma, tytul, zaMiesiac(n));
-    Pasmo stopkaZSuma = stopka(opis, dzien);
+    Pasmo naglowek = naglowekWydruku(opis.strona, n.firma.wLinii(), tytul, zaMiesiac(n));
+    Pasmo stopkaZSuma = StopkaZFirma(opis, n.firma, dzien);
     for (Element& e : stopkaZSuma.elementy) e.miejsce.y += kWiersz;
     stopkaZSuma.elementy += sumyKolumn(kolumny, QStringLiteral("Razem strona"), kWiersz, Rodzaj::SumaStr);
     stopkaZSuma.wys += kWiersz;
@@ -83,10 +74,7 @@ OpisWydruku wersja3(const WierszeListyPlac& wiersze, QDate dzien) {
     QList<KolumnaDruku> skladniki;
     const auto dodaj = [&](const QString& nazwa, int pole) {
         if (!wiersze.uzyty(pole)) return;
-        QString naglowek = nazwa;
-        if (const qsizetype odstep = naglowek.indexOf(QLatin1Char(' '), naglowek.size() / 3); odstep > 0)
-            naglowek[odstep] = QLatin1Char('\n');
-        skladniki.append({naglowek, 24, pole, Format::KwotaBezZera, true});
+        skladniki.append({wDwochLiniach(nazwa), 24, pole, Format::KwotaBezZera, true});
     };
     for (const int i : n.uzywanePlusy) dodaj(n.plusy[i], polePlusa(i));
     for (const int i : n.uzywaneMinusy) dodaj(n.minusy[i], poleMinusa(i));
@@ -176,22 +164,25 @@ Pozycje uzyteSkladniki(const WierszeListyPlac& wiersze) {
 Pasmo blokPracownika(const Pozycje& skladniki, double szer) {
     constexpr int kKolumnySkladnikow = 3, kLiniiWyliczenia = 8;
     constexpr double kTytulBloku = 5, kKolumna = 53, kOdstep = 3, kPodpis = 52;
-    const int linii = std::max(
-        kLiniiWyliczenia, static_cast<int>((skladniki.size() + kKolumnySkladnikow - 1) / kKolumnySkladnikow));
+    // The columns are filled alike, so that none stands empty beside full ones.
+    const auto liniiSkladnikow = static_cast<int>(
+        std::max<qsizetype>(1, (skladniki.size() + kKolumnySkladnikow - 1) / kKolumnySkladnikow));
+    const int linii = std::max(kLiniiWyliczenia, liniiSkladnikow);
     Pasmo blok{.rola = Rola::Wiersz, .wys = kTytulBloku + linii * kLiniaBloku + 3};
     QList<Element>& e = blok.elementy;
     e.append({.rodzaj = Rodzaj::Linia, .miejsce = {0, 0, szer, 0}});
     e.append({.rodzaj = Rodzaj::Pole,
-              .miejsce = {0, 0.5, 12, 4.5},
+              .miejsce = {0, 0.5, 9, 4.5},
               .pole = Numer,
               .format = Format::Liczba,
               .pismo = Pismo::Wazne});
-    e.append({.rodzaj = Rodzaj::Pole, .miejsce = {13, 0.5, 90, 4.5}, .pole = Osoba, .pismo = Pismo::Wazne});
+    e.append({.rodzaj = Rodzaj::Pole, .miejsce = {10, 0.5, 98, 4.5}, .pole = Osoba, .pismo = Pismo::Wazne});
     dodajDni(e, 112, 0.5, 28);
-    const Siatka lewa{0, kKolumna, kOdstep, linii, kTytulBloku};
+    const Siatka lewa{0, kKolumna, kOdstep, liniiSkladnikow, kTytulBloku};
     for (int i = 0; i < skladniki.size(); ++i)
         lewa.dodaj(e, i, skladniki[i].first, skladniki[i].second, Format::KwotaBezZera, Pismo::Zwykle);
-    const Siatka prawa{kKolumnySkladnikow * (kKolumna + kOdstep), 50, kOdstep, kLiniiWyliczenia, kTytulBloku};
+    const Siatka prawa{kKolumnySkladnikow * (kKolumna + kOdstep), kKolumna, kOdstep, kLiniiWyliczenia,
+                       kTytulBloku};
     for (int i = 0; i < wyliczenie().size(); ++i) {
         const auto& [napis, pole] = wyliczenie()[i];
         const bool glowna = pole == DoWyplaty || pole == Brutto;
@@ -233,16 +224,17 @@ OpisWydruku wersja1(const WierszeListyPlac& wiersze, QDate dzien) {
     OpisWydruku opis = podstawa(n, u"lista-plac", QStringLiteral("Lista płac"), true);
     constexpr double kSumy = 6;
     const double szer = opis.strona.szerTresci();
-    Pasmo dolStrony = stopka(opis, dzien);
+    Pasmo dolStrony = StopkaZFirma(opis, n.firma, dzien);
     for (Element& e : dolStrony.elementy) e.miejsce.y += kSumy;
     dolStrony.elementy += sumyBlokow(QStringLiteral("Razem strona"), Rodzaj::SumaStr, szer);
     dolStrony.wys += kSumy;
-    opis.arkusze = {{naglowekWydruku(opis.strona, n.firma, QStringLiteral("Lista płac"), zaMiesiac(n)),
-                     blokPracownika(uzyteSkladniki(wiersze), szer),
-                     {.rola = Rola::StopkaWydruku,
-                      .wys = kSumy,
-                      .elementy = sumyBlokow(QStringLiteral("Razem lista"), Rodzaj::Suma, szer)},
-                     dolStrony}};
+    opis.arkusze = {
+        {naglowekWydruku(opis.strona, n.firma.wLinii(), QStringLiteral("Lista płac"), zaMiesiac(n)),
+         blokPracownika(uzyteSkladniki(wiersze), szer),
+         {.rola = Rola::StopkaWydruku,
+          .wys = kSumy,
+          .elementy = sumyBlokow(QStringLiteral("Razem lista"), Rodzaj::Suma, szer)},
+         dolStrony}};
     return opis;
 }
 
@@ -264,7 +256,7 @@ OpisWydruku pokwitowania(const NaglowekListyPlac& n) {
         e.append(
             {.rodzaj = Rodzaj::Pole, .miejsce = m, .pole = nr, .format = f, .pismo = pismo, .ulozenie = u});
     };
-    tekst({0, 2, szer, 3.5}, n.firma, Pismo::Drobne);
+    tekst({0, 2, szer, 3.5}, n.firma.wLinii(), Pismo::Drobne);
     tekst({0, 5.5, 80, 5}, QStringLiteral("Pokwitowanie ") + zaMiesiac(n), Pismo::Podtytul);
     pole({82, 5.5, 12, 5}, Numer, Format::Liczba, Pismo::Wazne, Ulozenie::Prawo);
     pole({96, 5.5, szer - 96, 5}, Osoba, Format::Tekst, Pismo::Podtytul);
@@ -327,7 +319,7 @@ std::shared_ptr<const Uklad> UlozWydrukListy(WydrukListy ktory, Otoczenie& otocz
         break;
     }
     OpisWydruku opis = podstawa(n, u"zbiorowka", QStringLiteral("Zbiorówka płac"), false);
-    const auto dolStrony = stopka(opis, dzien);
+    const Pasmo dolStrony = StopkaZFirma(opis, n.firma, dzien);
     return UlozZbiorowke(std::move(opis), otoczenie, *wiersze, zaMiesiac(n), dolStrony);
 }
 

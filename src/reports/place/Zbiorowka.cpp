@@ -10,7 +10,6 @@
 namespace tornel::reports {
 
 using schemat::PLA;
-using schemat::PLB;
 using schemat::US;
 
 namespace {
@@ -42,20 +41,48 @@ Waluta suma(const WierszeListyPlac& w, int pole) {
     return razem;
 }
 
-/// The employer's contributions and the funds, which no row of the list's prints shows.
-void dodajPracodawce(Zestawienie& z, const Sesja& sesja, const QString& symbol) {
-    static constexpr std::pair<QStringView, Kolumna> kPozycje[] = {
-        {u"Fundusz emerytalny", PLB("FEPRD")}, {u"Fundusz rentowy", PLB("FRPRD")},
-        {u"Fundusz wypadkowy", PLB("FWPRD")},  {u"Fundusz pracy", PLA("SKL_FP")},
-        {u"Fundusz GSP", PLA("SKL_FGSP")},
+/// The employer's contributions and the funds.
+void dodajPracodawce(Zestawienie& z, const WierszeListyPlac& wiersze) {
+    for (const int pole : {EmerytalnaPracodawcy, RentowaPracodawcy, Wypadkowa, FunduszPracy, Fgsp})
+        for (const PoleKolumna& p : kolumnyListyPlac())
+            if (p.pole == pole) z.dodaj(p.nazwa.toString(), suma(wiersze, pole));
+}
+
+/// What is owed to the social insurer with everything that is paid through it.
+void dodajNalezneZus(Zestawienie& z, const WierszeListyPlac& w) {
+    const auto razem = [&](std::initializer_list<int> pola) {
+        Waluta wynik;
+        for (const int pole : pola) wynik += suma(w, pole);
+        return wynik;
     };
-    const bool wszystkie = symbol.trimmed().isEmpty();
-    for (const auto& [nazwa, kolumna] : kPozycje) {
-        const bool zA = kolumna.tabela == &schemat::PLA;
-        Waluta razem;
-        for (const Wiersz w : (zA ? sesja.rsPLA : sesja.rsPLB).wiersze())
-            if (wszystkie || w.tekst(zA ? PLA("LISTA") : PLB("LISTA")) == symbol) razem += w.kwota(kolumna);
-        z.dodaj(nazwa.toString(), razem);
+    const Waluta spoleczne =
+        razem({Emerytalna, Rentowa, Chorobowa, EmerytalnaPracodawcy, RentowaPracodawcy, Wypadkowa});
+    const Waluta zdrowotne = razem({ZdrowotnaNalezna}), fundusze = razem({FunduszPracy, Fgsp});
+    z.dodaj(QStringLiteral("Ubezpieczenia społeczne"), spoleczne);
+    z.dodaj(QStringLiteral("Ubezpieczenie zdrowotne"), zdrowotne);
+    z.dodaj(QStringLiteral("Fundusz pracy i Fundusz GSP"), fundusze);
+    z.dodaj(QStringLiteral("Razem"), spoleczne + zdrowotne + fundusze);
+}
+
+/// The lists of the month one by one, when there is more than one.
+void dodajListy(Zestawienie& z, const WierszeListyPlac& wiersze) {
+    struct Lista {
+        Waluta brutto, doWyplaty;
+        qint64 wyplat = 0;
+    };
+    std::map<QString, Lista> wgSymbolu;
+    for (int i = 0; i < wiersze.ile(); ++i) {
+        Lista& l = wgSymbolu[std::get<QString>(wiersze.pole(i, SymbolListy))];
+        l.brutto += std::get<Waluta>(wiersze.pole(i, Brutto));
+        l.doWyplaty += std::get<Waluta>(wiersze.pole(i, DoWyplaty));
+        ++l.wyplat;
+    }
+    if (wgSymbolu.size() < 2) return;
+    for (const auto& [symbol, l] : wgSymbolu) {
+        const QString nazwa = symbol.trimmed().isEmpty() ? QStringLiteral("Lista bez symbolu")
+                                                         : QStringLiteral("Lista ") + symbol.toUpper();
+        z.dodaj(QStringLiteral("%1 (wypłat: %2): brutto").arg(nazwa).arg(l.wyplat), l.brutto);
+        z.dodaj(QStringLiteral("%1 (wypłat: %2): do wypłaty").arg(nazwa).arg(l.wyplat), l.doWyplaty);
     }
 }
 
@@ -113,7 +140,7 @@ void dodajWyliczenie(Zestawienie& z, const WierszeListyPlac& wiersze) {
 
 QList<Pasmo> pasma(const Strona& strona, const QString& firma, const QString& zaMiesiac,
                    const Pasmo& stopka) {
-    constexpr double kWysokosc = 4.8, kSzerKwoty = 40, kSzerSztuk = 20;
+    constexpr double kWysokosc = 4.2, kSzerKwoty = 40, kSzerSztuk = 20;
     const double szer = strona.szerTresci();
     const QList<KolumnaDruku> kolumny{
         {QStringLiteral("Pozycja"), szer - kSzerKwoty - kSzerSztuk, PolePozycji},
@@ -121,9 +148,9 @@ QList<Pasmo> pasma(const Strona& strona, const QString& firma, const QString& za
         {QStringLiteral("Kwota"), kSzerKwoty, PoleKwoty, Format::Kwota}};
     return {naglowekWydruku(strona, firma, QStringLiteral("Zbiorówka płac"), zaMiesiac),
             {.rola = Rola::NaglowekGrupy,
-             .wys = 8,
+             .wys = 7,
              .elementy = {{.rodzaj = Element::Rodzaj::Pole,
-                           .miejsce = {0, 2.5, szer, 5},
+                           .miejsce = {0, 2, szer, 5},
                            .pole = PoleDzialu,
                            .pismo = Pismo::Wazne}},
              .powtarzaj = true},
@@ -160,20 +187,24 @@ std::shared_ptr<const Uklad> UlozZbiorowke(OpisWydruku opis, Otoczenie& otoczeni
     z.rozdzial(QStringLiteral("Wyliczenie"));
     dodajWyliczenie(z, wiersze);
     z.rozdzial(QStringLiteral("Składki pracodawcy"));
-    dodajPracodawce(z, otoczenie.sesja, n.symbol);
+    dodajPracodawce(z, wiersze);
+    z.rozdzial(QStringLiteral("Należne składki razem"));
+    dodajNalezneZus(z, wiersze);
     z.rozdzial(QStringLiteral("Zaliczki na podatek według urzędów"));
     dodajPodatek(z, otoczenie, n.symbol);
     z.rozdzial(QStringLiteral("Do wypłaty"));
     z.dodaj(QStringLiteral("Przelewem"), suma(wiersze, Przelewem));
     z.dodaj(QStringLiteral("Gotówką"), suma(wiersze, Gotowka));
     z.dodaj(QStringLiteral("Razem"), suma(wiersze, DoWyplaty));
+    z.rozdzial(QStringLiteral("Według list"));
+    dodajListy(z, wiersze);
     z.rozdzial(QStringLiteral("Gotówka według nominałów"));
     dodajNominaly(z, otoczenie.stale, wiersze);
 
     opis.nazwyPol = {QStringLiteral("Dział"), QStringLiteral("Pozycja"), QStringLiteral("Sztuk"),
                      QStringLiteral("Kwota")};
     opis.grupy = {PoleDzialu};
-    opis.arkusze = {pasma(opis.strona, n.firma, zaMiesiac, stopka)};
+    opis.arkusze = {pasma(opis.strona, n.firma.wLinii(), zaMiesiac, stopka)};
     return std::make_shared<Uklad>(std::move(opis), std::move(z).wiersze());
 }
 
