@@ -16,6 +16,7 @@ reports::WydrukListy ktory(const QString& nazwa) {
         if (o.nazwa == nazwa) return o.ktory;
         znane.append(o.nazwa.toString());
     }
+    for (const Polecenie& p : poleceniaZestawien()) znane.append(p.nazwa.toString().section(u' ', 1));
     throw ZleUzycie(
         QStringLiteral("Nie ma wydruku \"%1\". Wydruki: %2.").arg(nazwa, znane.join(QStringLiteral(", "))));
 }
