@@ -7,23 +7,28 @@
 #include "app/frmLogowanie.h"
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
+#include "app/frmMainWydruki.h"
 #include "app/frmSplash.h"
 #include "bank/frmKonta.h"
 #include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
 #include "okna/frmPytania.h"
+#include "okna/frmZakresMies.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
 #include "payroll/lista/frmPlaceLista.h"
 #include "payroll/miesiace/frmPlace.h"
+#include "payroll/miesiace/frmSymboleList.h"
 #include "payroll/nadgodziny/frmNadg.h"
 #include "payroll/nieobecnosci/frmWykazy.h"
 #include "personnel/frmData.h"
 #include "personnel/frmDniWolne.h"
 #include "personnel/frmDniWolnePr.h"
+#include "personnel/frmDzial.h"
 #include "personnel/frmFind.h"
+#include "personnel/frmKartaEw.h"
 #include "personnel/frmMPRACY.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
@@ -32,6 +37,7 @@
 #include "personnel/frmTrDoPr.h"
 #include "personnel/frmUS.h"
 #include "personnel/frmWybPr.h"
+#include "personnel/frmWydrukKadr.h"
 #include "personnel/Kalendarz.h"
 #include "personnel/Urlopy.h"
 #include "rules/frmSkladnikiPlac.h"
@@ -104,7 +110,7 @@ void kadryIUstawienia(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.ekran(stale, QStringLiteral("stale"));
     frmSkladnikiPlac skladniki(o);
     zrzuty.ekran(skladniki, QStringLiteral("skladniki"));
-    frmPrac prac(o, FiltrPracownikow::Wszyscy);
+    frmPrac prac(o, FiltrPracownikow::Wszyscy, nullptr, WydrukiKartoteki(o));
     zrzuty.ekran(prac, QStringLiteral("pracownicy"));
     prac.findChild<QTabWidget*>()->setCurrentIndex(2);
     auto* placa = prac.findChild<QLineEdit*>(QStringLiteral("txtPlaca_zas"));
@@ -194,6 +200,25 @@ void nieobecnosci(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.dialog(nrSkladnika, QStringLiteral("numer-skladnika"));
 }
 
+/// What is asked before the prints, and the attendance card.
+void wydruki(const Zrzuty& zrzuty, Otoczenie& o) {
+    frmZakresMies zakres(o.rozmowa, QStringLiteral("Zbiorówka za rok"), {2001, 1}, {2001, 3});
+    zrzuty.dialog(zakres, QStringLiteral("zakres-miesiecy"));
+    frmSymboleList symbole(SymboleList(o.sesja, {{2001, 1}, {2001, 2}, {2001, 3}}));
+    zrzuty.dialog(symbole, QStringLiteral("symbole-list"));
+    frmDzial dzialy(Pracownicy(o).dzialy());
+    zrzuty.dialog(dzialy, QStringLiteral("dzialy"));
+    const PortWydrukowKadr port = WydrukiKartoteki(o);
+    for (const PozycjaWydrukow& w : port.dostepne) {
+        if (w.okres == OkresWydruku::Zaden) continue;
+        frmWydrukKadr okno(o.rozmowa, w, {{}, {2001, 1}, {2001, 3}}, QStringLiteral("002  Bielak Jan"), 12);
+        zrzuty.dialog(okno, QStringLiteral("wydruk-kadr-%1").arg(static_cast<int>(w.okres)));
+    }
+    const QList<Osoba> osoby = Pracownicy(o).lista(FiltrPracownikow::Wszyscy, PorzadekPracownikow::Nazwiska);
+    frmKartaEw karta(o, osoby, 2, 2001, port);
+    zrzuty.ekran(karta, QStringLiteral("karta-ewidencji"));
+}
+
 /// The handbook as F1 opens it over a screen.
 void pomoc(const Zrzuty& zrzuty, Pomoc& podrecznik, QWidget& okno) {
     podrecznik.pokazSpis(okno);
@@ -235,6 +260,7 @@ int main(int argc, char** argv) {
     uzytkownicy(zrzuty, o);
     place(zrzuty, o);
     nieobecnosci(zrzuty, o);
+    wydruki(zrzuty, o);
     pomoc(zrzuty, podrecznik, glowne);
     return 0;
 }

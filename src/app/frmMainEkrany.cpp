@@ -2,6 +2,7 @@
 #include "app/frmHaslo.h"
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
+#include "app/frmMainWydruki.h"
 #include "bank/frmKonta.h"
 #include "okna/Drukowanie.h"
 #include "payroll/miesiace/frmPlace.h"
@@ -62,7 +63,8 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
         {Wejscie::PracownicyHonoraria, FiltrPracownikow::Honoraria},
     };
     for (const auto& [wejscie, filtr] : kadry)
-        okno.rejestruj(wejscie, [&, f = filtr] { frmPrac(otoczenie, f, &okno).exec(); });
+        okno.rejestruj(wejscie,
+                       [&, f = filtr] { frmPrac(otoczenie, f, &okno, WydrukiKartoteki(otoczenie)).exec(); });
     okno.rejestruj(Wejscie::ListaPlac,
                    [&] { frmPlace(otoczenie, &okno, wydrukiListyPlac(otoczenie)).exec(); });
     zarejestruj<frmNadg>(okno, otoczenie, Wejscie::Nadgodziny);
@@ -75,6 +77,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     zarejestruj<frmUS>(okno, otoczenie, Wejscie::UrzedySkarbowe);
     zarejestruj<frmMPRACY>(okno, otoczenie, Wejscie::AdresyDzialalnosci);
     zarejestruj<frmKonta>(okno, otoczenie, Wejscie::KontaBankowe);
+    ZarejestrujZbiorowki(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);
     zarejestruj<frmLogLista>(okno, otoczenie, Wejscie::ListaUzytkownikow);
     okno.rejestruj(Wejscie::StaleProgramu, [&] {

@@ -6,22 +6,22 @@
 
 namespace tornel::okna {
 
-PoleMiesiaca::PoleMiesiaca(QDate wstepna, QWidget* rodzic)
+PoleMiesiaca::PoleMiesiaca(QDate wstepna, QWidget* rodzic, const NazwyPolMiesiaca& nazwy)
     : QWidget(rodzic), cboMies_(new QComboBox), spnRok_(new QSpinBox) {
     auto* formularz = new QFormLayout(this);
     formularz->setContentsMargins(0, 0, 0, 0);
-    cboMies_->setObjectName(QStringLiteral("cboMies"));
+    cboMies_->setObjectName(QStringLiteral("cboMies") + nazwy.koncowka);
     cboMies_->setAccessibleName(QStringLiteral("Miesiąc"));
     for (int m = 1; m <= 12; ++m)
         cboMies_->addItem(FormatMiesiaca(m) + QStringLiteral("  ") + NazwaMiesiaca(m));
     cboMies_->setMaxVisibleItems(12);
     cboMies_->setCurrentIndex(wstepna.isValid() ? wstepna.month() - 1 : 0);
-    spnRok_->setObjectName(QStringLiteral("spnRok"));
+    spnRok_->setObjectName(QStringLiteral("spnRok") + nazwy.koncowka);
     spnRok_->setAccessibleName(QStringLiteral("Rok"));
     spnRok_->setRange(kPierwszyRok, kOstatniRok);
     spnRok_->setValue(wstepna.isValid() ? wstepna.year() : kPierwszyRok);
-    formularz->addRow(QStringLiteral("&Miesiąc:"), cboMies_);
-    formularz->addRow(QStringLiteral("&Rok:"), spnRok_);
+    formularz->addRow(nazwy.mies, cboMies_);
+    formularz->addRow(nazwy.rok, spnRok_);
 }
 
 QDate PoleMiesiaca::pierwszyDzien() const {

@@ -27,6 +27,7 @@ struct PozycjaWydrukow {
 struct PortWydrukowKadr {
     QList<PozycjaWydrukow> dostepne = {};
     QString kartaEwidencji = {}; ///< that one among them which the screen of the attendance card prints
+    std::function<RokMies()> ostatniMiesiac = {}; ///< that is proposed; the one of today without it
     std::function<void(const QString& napis, const ZlecenieWydruku& zlecenie, QWidget* rodzic)> drukuj = {};
 };
 

@@ -140,13 +140,20 @@ QList<DzialFirmy> Pracownicy::dzialy() const {
 }
 
 QList<qint64> Pracownicy::zatrudnieni(QDate od, QDate dokad) const {
+    QList<qint64> numery;
+    for (const Osoba& o : lista(FiltrPracownikow::Wszyscy, PorzadekPracownikow::Nazwiska))
+        numery.append(o.prcId);
+    return zatrudnieniSposrod(numery, od, dokad);
+}
+
+QList<qint64> Pracownicy::zatrudnieniSposrod(const QList<qint64>& numery, QDate od, QDate dokad) const {
     QList<qint64> wynik;
-    for (const Osoba& o : lista(FiltrPracownikow::Wszyscy, PorzadekPracownikow::Nazwiska)) {
-        const std::optional<Wiersz> pr = o_.sesja.rsPRACPR.szukaj(o.prcId);
+    for (const qint64 prcId : numery) {
+        const std::optional<Wiersz> pr = o_.sesja.rsPRACPR.szukaj(prcId);
         if (!pr) continue;
         const QDate zatrudniony = pr->data(PRACPR("data_zatr")), zwolniony = pr->data(PRACPR("data_zwoln"));
-        const bool odszedl = zwolniony.isValid() ? zwolniony < od : o.zwolniony;
-        if (!odszedl && !(zatrudniony.isValid() && zatrudniony > dokad)) wynik.append(o.prcId);
+        const bool odszedl = zwolniony.isValid() ? zwolniony < od : pr->flaga(PRACPR("Zwoln"));
+        if (!odszedl && !(zatrudniony.isValid() && zatrudniony > dokad)) wynik.append(prcId);
     }
     return wynik;
 }

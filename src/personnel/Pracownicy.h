@@ -72,6 +72,8 @@ public:
     /// Who was employed on some day from `od` to `dokad`, by surname: since `data_zatr`, or always without
     /// it, until `data_zwoln`; a dismissed one without that date never. Reads `PRACDP`, `PRACPR`.
     [[nodiscard]] QList<qint64> zatrudnieni(QDate od, QDate dokad) const;
+    /// Those among `numery`, in their order, who were.
+    [[nodiscard]] QList<qint64> zatrudnieniSposrod(const QList<qint64>& numery, QDate od, QDate dokad) const;
 
     /// The highest used number plus one.
     [[nodiscard]] qint64 proponowanyNumer() const;

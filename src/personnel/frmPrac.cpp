@@ -9,17 +9,20 @@
 #include "okna/Wyglad.h"
 #include "personnel/frmFind.h"
 #include "personnel/frmNowyPrc.h"
+#include "personnel/frmPracWydruki.h"
 #include "personnel/frmPracZakladki.h"
 #include "store/SchematKadr.h"
 #include <algorithm>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace tornel::personnel {
 
@@ -37,9 +40,9 @@ QString uwagaWiersza(const Osoba& o) { return o.zwolniony ? QStringLiteral("Zwol
 
 } // namespace
 
-frmPrac::frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic)
+frmPrac::frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic, PortWydrukowKadr wydruki)
     : OknoEdycji(QStringLiteral("frmPrac"), otoczenie.rozmowa, Zamykanie::Pytanie, rodzic), o_(otoczenie),
-      filtr_(filtr), pracownicy_(otoczenie), kartoteka_(otoczenie),
+      filtr_(filtr), wydruki_(std::move(wydruki)), pracownicy_(otoczenie), kartoteka_(otoczenie),
       lvwPrac_(
           new WidokListy({{QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("NAZWISKO")}}, {22, 78})),
       cboSort_(new QComboBox), labIlu_(new QLabel), zakladki_(new ZakladkiPracownika(otoczenie, kartoteka_)) {
@@ -107,10 +110,12 @@ QWidget* frmPrac::rzad() {
     cmdWyszukaj_ = przycisk(QStringLiteral("cmdWyszukaj"), QStringLiteral("&Wyszukaj"), u"szukaj");
     cmdNowy_ = przycisk(QStringLiteral("cmdnowyprac"), QStringLiteral("&Nowy prac."), u"nowy");
     cmdUsun_ = przycisk(QStringLiteral("cmdusunprac"), QStringLiteral("&Usuń prac."), u"usun");
+    cmdDrukuj_ = przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj");
     cmdAnuluj_ = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Anuluj"));
     cmdZapisz_ = przycisk(QStringLiteral("cmdZapisz"), QStringLiteral("&Zapisz"));
     cmdPowrot_ = przycisk(QStringLiteral("cmdPowrot"), QStringLiteral("&Powrót"), u"powrot");
-    const QList<QPushButton*> przyciski{cmdWyszukaj_, cmdNowy_, cmdUsun_, cmdAnuluj_, cmdZapisz_, cmdPowrot_};
+    const QList<QPushButton*> przyciski{cmdWyszukaj_, cmdNowy_,   cmdUsun_,  cmdDrukuj_,
+                                        cmdAnuluj_,   cmdZapisz_, cmdPowrot_};
     // Enter goes from field to field, so no button may answer it from afar.
     for (QPushButton* p : przyciski) p->setAutoDefault(false);
     connect(cmdWyszukaj_, &QPushButton::clicked, this, &frmPrac::szukaj);
@@ -119,8 +124,12 @@ QWidget* frmPrac::rzad() {
     connect(cmdAnuluj_, &QPushButton::clicked, this, &frmPrac::anuluj);
     connect(cmdZapisz_, &QPushButton::clicked, this, &frmPrac::zapisz);
     connect(cmdPowrot_, &QPushButton::clicked, this, &QDialog::reject);
+    auto* menu = new QMenu(this);
+    for (const PozycjaWydrukow& w : std::as_const(wydruki_.dostepne))
+        connect(menu->addAction(w.napis), &QAction::triggered, this, [this, w] { drukuj(w); });
+    cmdDrukuj_->setMenu(menu);
     return rzadPrzyciskow(
-        {cmdWyszukaj_, cmdNowy_, cmdUsun_, cmdAnuluj_, cmdZapisz_, przyciskPomocy(), cmdPowrot_});
+        {cmdWyszukaj_, cmdNowy_, cmdUsun_, cmdDrukuj_, cmdAnuluj_, cmdZapisz_, przyciskPomocy(), cmdPowrot_});
 }
 
 void frmPrac::budujSkroty() {
@@ -199,6 +208,7 @@ void frmPrac::pokazStan() {
     cmdAnuluj_->setEnabled(kartoteka_.zmienionyPracownik() || wpisane);
     cmdUsun_->setEnabled(jest);
     cmdWyszukaj_->setEnabled(jest);
+    cmdDrukuj_->setEnabled(!osoby_.isEmpty() && !wydruki_.dostepne.isEmpty());
 }
 
 void frmPrac::odswiezWiersz() {
@@ -271,6 +281,11 @@ void frmPrac::anuluj() {
 
 void frmPrac::zapisz() {
     if (!zapiszZmiany()) pokazStan();
+}
+
+void frmPrac::drukuj(const PozycjaWydrukow& wydruk) {
+    if (!rozstrzygnijZmiany()) return; // paper tells what is stored
+    WydrukujZKartoteki(o_, wydruki_, wydruk, {osoby_, kartoteka_.pracownik()}, this);
 }
 
 bool frmPrac::zapiszZakladke() {

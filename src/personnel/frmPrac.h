@@ -2,6 +2,7 @@
 #pragma once
 #include "okna/Okno.h"
 #include "personnel/KartotekaPracownika.h"
+#include "personnel/PortWydrukowKadr.h"
 #include "personnel/Pracownicy.h"
 #include "rules/Otoczenie.h"
 #include <QList>
@@ -21,7 +22,8 @@ class ZakladkiPracownika;
 class frmPrac : public OknoEdycji {
     Q_OBJECT
 public:
-    frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic = nullptr);
+    frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic = nullptr,
+            PortWydrukowKadr wydruki = {});
     ~frmPrac() override;
 
 protected:
@@ -48,12 +50,14 @@ private:
     void UsunPracownika();
     void anuluj();
     void zapisz();
+    void drukuj(const PozycjaWydrukow& wydruk);
     /// Writes the current tab to the handles; false if a field has just had to say what it did not
     /// understand.
     [[nodiscard]] bool zapiszZakladke();
 
     Otoczenie& o_;
     FiltrPracownikow filtr_;
+    PortWydrukowKadr wydruki_;
     Pracownicy pracownicy_;
     KartotekaPracownika kartoteka_;
     QList<Osoba> osoby_;
@@ -61,7 +65,7 @@ private:
     QComboBox* cboSort_;
     QLabel* labIlu_;
     ZakladkiPracownika* zakladki_;
-    QPushButton *cmdWyszukaj_, *cmdNowy_, *cmdUsun_, *cmdAnuluj_, *cmdZapisz_, *cmdPowrot_;
+    QPushButton *cmdWyszukaj_, *cmdNowy_, *cmdUsun_, *cmdDrukuj_, *cmdAnuluj_, *cmdZapisz_, *cmdPowrot_;
 };
 
 } // namespace tornel::personnel

@@ -180,7 +180,7 @@ Papier KartaPrzychodow(const ZrodloPapieru& zrodlo) {
     opis.arkusze = {{liniaFirmy(opis.strona, firma), naglowek, wierszPrzychodow(), dolPrzychodow(szer),
                      StopkaZFirma(opis, firma, zrodlo.dzien)}};
     opis.nazwyPol = {
-        QStringLiteral("Nr"), QStringLiteral("Nazwisko i imiona"), {}, {}, QStringLiteral("Miesiąc"), {}};
+        QStringLiteral("Nr"), QStringLiteral("Nazwisko i imiona"), {}, {}, QStringLiteral("Miesiąc"), {}, {}};
     for (const KwotaKarty& k : kKwotyKarty)
         opis.nazwyPol.append((k.gora.toString() + QLatin1Char(' ') + k.dol.toString()).trimmed());
     for (int i = 0; i < kKwotKarty; ++i)

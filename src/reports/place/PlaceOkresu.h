@@ -60,11 +60,4 @@ struct WyborPlac {
 void DoliczMiesiac(Sesja& sesja, RokMies miesiac, const WyborPlac& wybor,
                    const std::function<PlacaOsoby&(qint64 prcId)>& osoba);
 
-/// The symbols of the lists in these months with the number of their rows, by symbol. Reads `PLA`.
-struct SymbolListyPlac {
-    QString symbol;
-    qint64 wierszy = 0;
-};
-[[nodiscard]] QList<SymbolListyPlac> SymboleList(Sesja& sesja, const QList<RokMies>& miesiace);
-
 } // namespace tornel::reports
