@@ -204,7 +204,8 @@ void frmKartaEw::pokaz() {
         czesci.append((symbol.isEmpty() ? QStringLiteral("pole puste") : symbol) + QStringLiteral(" - ") +
                       NazwaDniaPracy(rodzaj));
     }
-    labLegenda_->setText(czesci.join(QStringLiteral(",   ")) + QStringLiteral(",   - poza zatrudnieniem"));
+    labLegenda_->setText(czesci.join(QStringLiteral(",   ")) +
+                         QStringLiteral(",   myślnik - poza zatrudnieniem"));
 }
 
 void frmKartaEw::przejdz(int oIle) {
