@@ -207,7 +207,8 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
                                                    ZlecenieWydruku{{}, {2001, 1}, {2001, 12}}, u"1"_s, 1);
         },
         [&] {
-            return std::make_unique<frmKartaEw>(o(), QList<Osoba>{{.prcId = 1}}, 1, 2001, PortWydrukowKadr());
+            return std::make_unique<frmKartaEw>(o(), QList<Osoba>{{1, u"Adamska"_s, u"Barbara"_s, {}, false}},
+                                                1, 2001, PortWydrukowKadr());
         },
         [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
         [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },
