@@ -22,7 +22,7 @@ struct OpisDnia {
 constexpr OpisDnia kDniPracy[kRodzajowDni] = {
     {u"dzień roboczy", u"Prac"},     {u"dzień wolny", u"Wol"},        {u"zwolnienie L4", u"L4"},
     {u"urlop wypoczynkowy", u"Wyp"}, {u"urlop bezpłatny", u"Bezp"},   {u"urlop okolicznościowy", u"Okol"},
-    {u"urlop inny", u"Inny"},         {u"urlop wychowawczy", u"Wych"}, {u"opieka nad dzieckiem", u"Opie"},
+    {u"urlop inny", u"Inny"},        {u"urlop wychowawczy", u"Wych"}, {u"opieka nad dzieckiem", u"Opie"},
     {u"inna przerwa", u"Prz"},
 };
 
