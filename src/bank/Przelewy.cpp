@@ -94,6 +94,7 @@ QList<Przelew> Przelewy::PrzelewPracownika(const QList<Wyplata>& wyplaty, qint64
                     pole(PRACDP("nr_domu")) + QLatin1Char('/') + pole(PRACDP("nr_miesz"))});
         wynik.append(
             UlozPrzelew({odbiorca, s.rsPRACPR.tekst(PRACPR("konto")), w.kwota, nadawca(), *rachunek, tytul}));
+        wynik.last().za = w;
     }
     return wynik;
 }
@@ -119,6 +120,7 @@ QList<Przelew> Przelewy::PrzelewPodatku(const QList<Wyplata>& wyplaty, qint64 ko
             polacz({us.tekst(US("Nazwa")), us.tekst(US("ulica")), us.tekst(US("nr_domu")),
                     us.tekst(US("Kod")), us.tekst(US("miasto"))});
         wynik.append(UlozPrzelew({odbiorca, us.tekst(US("konto")), w.kwota, nadawca(), *rachunek, tytul}));
+        wynik.last().za = w;
     }
     return wynik;
 }

@@ -12,6 +12,7 @@ struct Przelew {
     Waluta Kwota;                               ///< zł
     QString NrRachZlec, nazzlec, nazzleccd;     ///< sender
     QString Tytulem, tytulemcd;
+    Wyplata za; ///< the payment that it makes, no column
 };
 
 /// What a transfer says, before it is cut to the form.
@@ -23,6 +24,10 @@ struct DanePrzelewu {
 };
 /// Upper case, cut into the columns; what a column has no room for is lost.
 [[nodiscard]] Przelew UlozPrzelew(const DanePrzelewu& dane);
+
+/// The input box for a title that nobody has given.
+inline const QString kSzczegolyPlatnosci = QStringLiteral("Szczegóły płatności:");
+inline const QString kTytulSzczegolow = QStringLiteral("Przelew");
 
 /// Transfers of one action. The sender is the firm of constants 300, 301, 304, 303 with one account of
 /// `KONTA`.

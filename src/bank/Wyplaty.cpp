@@ -88,7 +88,7 @@ QString tytulPodatku() { return QStringLiteral("Przelew dla podatku"); }
 QList<Wyplata> Wyplaty::zListy(const QString& symbol, const QList<qint64>& numery) const {
     QList<Wyplata> wynik;
     for (const Wiersz& a : wierszeListy(o_.sesja.rsPLA, symbol)) {
-        const Wyplata w{a.liczba(PLA("PRC_ID")), a.kwota(PLA("PRZELEWEM"))};
+        const Wyplata w{a.liczba(PLA("PRC_ID")), a.kwota(PLA("PRZELEWEM")), a.tekst(PLA("LISTA"))};
         if (w.kwota > Waluta{} && (numery.isEmpty() || numery.contains(w.komu))) wynik.append(w);
     }
     return wynik;
@@ -98,21 +98,23 @@ QList<Wyplata> Wyplaty::podatekListy(const QString& symbol) const {
     SumyWgOdbiorcy sumy;
     for (const Wiersz& a : wierszeListy(o_.sesja.rsPLA, symbol))
         sumy.dodaj(a.liczba(PLA("US_ID")), a.kwota(PLA("PODATEK")));
-    return sumy.dodatnie();
+    QList<Wyplata> wynik = sumy.dodatnie();
+    for (Wyplata& w : wynik) w.lista = symbol.trimmed();
+    return wynik;
 }
 
 std::optional<Wyplata> Wyplaty::zUmowy(const RodzajWyplat& rodzaj, qint64 id) const {
     Recordset rs(*rodzaj.tabela);
     rs.Open(o_.sesja.cnPlace, {}, {{rodzaj.id, Kryterium::Operator::Rowne, id}});
     if (!rs.naWierszu()) throw Blad(QStringLiteral("Nie ma umowy o numerze %1.").arg(id));
-    const Wyplata w{rs.liczba(rodzaj.prcId), rs.kwota(rodzaj.przelewem)};
+    const Wyplata w{rs.liczba(rodzaj.prcId), rs.kwota(rodzaj.przelewem), {}, id};
     return w.kwota > Waluta{} ? std::optional(w) : std::nullopt;
 }
 
 QList<Wyplata> Wyplaty::zUmow(const RodzajWyplat& rodzaj, QDate od, QDate dokad) const {
     QList<Wyplata> wynik;
     for (Recordset rs = umowyOkresu(o_.sesja, rodzaj, rodzaj.zawarta, od, dokad); !rs.EOF_(); rs.MoveNext())
-        wynik.append({rs.liczba(rodzaj.prcId), rs.kwota(rodzaj.przelewem)});
+        wynik.append({rs.liczba(rodzaj.prcId), rs.kwota(rodzaj.przelewem), {}, rs.liczba(rodzaj.id)});
     return wynik;
 }
 

@@ -24,8 +24,10 @@ struct RodzajWyplat {
 
 /// One payment: to an employee or, of a tax, to an office.
 struct Wyplata {
-    qint64 komu = 0; ///< `PRC_ID` or `US_ID`
-    Waluta kwota;    ///< zł, above 0
+    qint64 komu = 0;     ///< `PRC_ID` or `US_ID`
+    Waluta kwota;        ///< zł, above 0
+    QString lista = {};  ///< symbol of the row's list; of a tax, that of the list in work
+    qint64 dokument = 0; ///< number of the contract, 0 for a list or a tax
 };
 
 /// The tax transfer's title where none is given.

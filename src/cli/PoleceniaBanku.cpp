@@ -1,20 +1,17 @@
 #include "bank/MultiCash.h"
-#include "bank/Przelewy.h"
+#include "bank/ZleceniaPrzelewow.h"
 #include "cli/Polecenia.h"
+#include "cli/Wydruk.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
+#include "reports/przelewy/WydrukPrzelewow.h"
 #include "store/Sesja.h"
+#include <QFileInfo>
 #include <QJsonArray>
 
 namespace tornel::cli {
 
 namespace {
-
-/// What is paid: a month's list or contracts of one kind.
-struct Zrodlo {
-    const RodzajWyplat* umowy = nullptr;
-    QString symbol;
-};
 
 QString opcja(const Wywolanie& w, const char16_t* nazwa) {
     return w.argumenty.wartosc(QString::fromUtf16(nazwa));
@@ -34,9 +31,9 @@ int kontoOpcji(const Wywolanie& w) {
 }
 
 /// Opens the month that is named, or finds the kind of contract.
-Zrodlo otworz(Wywolanie& w) {
+ZrodloPrzelewow otworz(Wywolanie& w) {
     const QString& nazwa = w.argumenty.pozycje.first();
-    Zrodlo z{rodzajWyplat(nazwa), opcja(w, u"lista")};
+    ZrodloPrzelewow z{.umowy = rodzajWyplat(nazwa), .symbol = opcja(w, u"lista")};
     if (z.umowy) return z;
     const RokMies miesiac = miesiacZTekstu(nazwa);
     int wynik = 0;
@@ -45,10 +42,18 @@ Zrodlo otworz(Wywolanie& w) {
     return z;
 }
 
-int odmowa(Wywolanie& w, const QString& komunikat) {
-    w.rozmowa.komunikat(komunikat, Styl::Wykrzyknik);
-    if (w.json()) w.pisz(QJsonArray());
-    return status::Odmowa;
+/// What is paid to whom, as it was typed.
+ZrodloPrzelewow zrodlo(Wywolanie& w, KomuPrzelew komu) {
+    ZrodloPrzelewow z = otworz(w);
+    if (komu == KomuPrzelew::Osoby && !z.umowy) {
+        z.numery = podaniPracownicy(w);
+    } else if (komu == KomuPrzelew::Osoby && jest(w, u"id")) {
+        z.umowa = liczbaZTekstu(opcja(w, u"id"), 1, 32767, QStringLiteral("numer umowy"));
+    } else if (z.umowy) {
+        z.od = dataOpcji(w, u"od");
+        z.dokad = dataOpcji(w, u"do");
+    }
+    return z;
 }
 
 QJsonObject json(const Przelew& p) {
@@ -82,60 +87,74 @@ int wypisz(Wywolanie& w, const QList<Przelew>& przelewy, qsizetype ileWyplat) {
     return !przelewy.isEmpty() && przelewy.size() == ileWyplat ? status::Wykonane : status::Odmowa;
 }
 
-const QString kBrakKwoty =
-    QStringLiteral("Nie można wydrukować przelewu, ponieważ nie ustalono kwoty do przelewu.");
-
 /// The title: as given, else `domyslny`, else asked for once.
-QString tytul(Wywolanie& w, QStringView domyslny) {
+QString tytul(Wywolanie& w, const QString& domyslny) {
     if (jest(w, u"tytul")) return opcja(w, u"tytul");
-    if (!domyslny.isEmpty()) return domyslny.toString();
-    return w.rozmowa.wprowadz(QStringLiteral("Szczegóły płatności:"), QStringLiteral("Przelew"))
-        .value_or(QString());
+    if (!domyslny.isEmpty()) return domyslny;
+    return w.rozmowa.wprowadz(kSzczegolyPlatnosci, kTytulSzczegolow).value_or(QString());
 }
 
-int przelewPracownicy(Wywolanie& w) {
-    const Zrodlo z = otworz(w);
+/// The transfers as typed; after a message none.
+struct Ulozone {
+    ZrodloPrzelewow zrodlo;
+    QList<Przelew> przelewy;
+    qsizetype ileWyplat = 0;
+};
+std::optional<Ulozone> uloz(Wywolanie& w, KomuPrzelew komu) {
+    const ZrodloPrzelewow z = zrodlo(w, komu);
     const int konto = kontoOpcji(w);
-    const Wyplaty wyplaty(w.otoczenie());
-    QList<Wyplata> lista;
-    QStringView domyslny;
-    if (!z.umowy) {
-        lista = wyplaty.zListy(z.symbol, podaniPracownicy(w));
-        if (lista.isEmpty()) return odmowa(w, kBrakKwoty);
-    } else if (jest(w, u"id")) {
-        const int id = liczbaZTekstu(opcja(w, u"id"), 1, 32767, QStringLiteral("numer umowy"));
-        if (const auto jedna = wyplaty.zUmowy(*z.umowy, id)) lista.append(*jedna);
-        if (lista.isEmpty()) return odmowa(w, kBrakKwoty);
-        domyslny = z.umowy->tytulJednego;
-    } else {
-        lista = wyplaty.zUmow(*z.umowy, dataOpcji(w, u"od"), dataOpcji(w, u"do"));
-        if (lista.isEmpty()) return odmowa(w, z.umowy->brakUmow.toString());
-        domyslny = z.umowy->tytulSerii;
+    const DoPrzelania co = ZnajdzDoPrzelania(w.otoczenie(), komu, z);
+    if (!co.odmowa.isEmpty()) {
+        w.rozmowa.komunikat(co.odmowa, Styl::Wykrzyknik);
+        return std::nullopt;
     }
-    return wypisz(w, Przelewy(w.otoczenie()).PrzelewPracownika(lista, konto, tytul(w, domyslny)),
-                  lista.size());
+    Przelewy przelewy(w.otoczenie());
+    const QString szczegoly = tytul(w, co.tytul);
+    return Ulozone{z,
+                   komu == KomuPrzelew::Osoby ? przelewy.PrzelewPracownika(co.wyplaty, konto, szczegoly)
+                                              : przelewy.PrzelewPodatku(co.wyplaty, konto, szczegoly),
+                   co.wyplaty.size()};
 }
 
-int przelewPodatek(Wywolanie& w) {
-    const Zrodlo z = otworz(w);
-    const int konto = kontoOpcji(w);
-    const Wyplaty wyplaty(w.otoczenie());
-    QList<Wyplata> lista;
-    if (z.umowy) {
-        const auto podatek = wyplaty.podatekUmow(*z.umowy, dataOpcji(w, u"od"), dataOpcji(w, u"do"));
-        if (!podatek) return odmowa(w, z.umowy->brakUmow.toString());
-        if (podatek->isEmpty()) return odmowa(w, z.umowy->brakPodatku.toString());
-        lista = *podatek;
-    } else {
-        lista = wyplaty.podatekListy(z.symbol);
-        if (lista.isEmpty()) return odmowa(w, QStringLiteral("Brak kwoty z podatku."));
+template <KomuPrzelew komu>
+int przelew(Wywolanie& w) {
+    const auto ulozone = uloz(w, komu);
+    if (!ulozone) {
+        if (w.json()) w.pisz(QJsonArray());
+        return status::Odmowa;
     }
-    const QString domyslny = tytulPodatku();
-    return wypisz(w, Przelewy(w.otoczenie()).PrzelewPodatku(lista, konto, tytul(w, domyslny)), lista.size());
+    return wypisz(w, ulozone->przelewy, ulozone->ileWyplat);
+}
+
+UkladPrzelewu ukladOpcji(const Wywolanie& w) {
+    if (!jest(w, u"uklad")) return UkladPrzelewu::Przelew;
+    QStringList znane;
+    for (const OpisUkladuPrzelewu& o : UkladyPrzelewu) {
+        if (o.nazwa == opcja(w, u"uklad")) return o.uklad;
+        znane.append(o.nazwa.toString());
+    }
+    throw ZleUzycie(QStringLiteral("Po --uklad stoi jedno z: %1.").arg(znane.join(QStringLiteral(", "))));
+}
+
+template <KomuPrzelew komu>
+int wydruk(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    const UkladPrzelewu uklad = ukladOpcji(w);
+    const auto ulozone = uloz(w, komu);
+    if (!ulozone || ulozone->przelewy.isEmpty()) return status::Odmowa;
+    Przelewy(w.otoczenie()).ZapiszPrzelewy(ulozone->przelewy);
+    WypiszWydruk(w, *reports::UlozPrzelewy(ulozone->przelewy, uklad));
+    // A document and pictures can go to the bank; the others are only looked at.
+    for (const char16_t* droga : {u"pdf", u"png"})
+        if (jest(w, droga))
+            ZapamietajWydrukowane(w.otoczenie(), komu, ulozone->zrodlo, ulozone->przelewy,
+                                  QDateTime::currentDateTime(),
+                                  QFileInfo(opcja(w, droga)).absoluteFilePath());
+    return ulozone->przelewy.size() == ulozone->ileWyplat ? status::Wykonane : status::Odmowa;
 }
 
 int multicash(Wywolanie& w) {
-    const Zrodlo z = otworz(w);
+    const ZrodloPrzelewow z = otworz(w);
     if (z.umowy && z.umowy->tabela != &schemat::UZL)
         throw ZleUzycie(QStringLiteral("Plik dla banku powstaje z listy płac albo z umów zleceń (UZL)."));
     PrzebiegMCS przebieg{dataOpcji(w, u"wystawienie"),
@@ -159,12 +178,21 @@ QList<Polecenie> poleceniaBanku() {
         {u"konto", u"NR"}, {u"tytul", u"TEKST"}, {u"lista", u"SYMBOL"}, {u"od", u"DATA"}, {u"do", u"DATA"}};
     QList<OpcjaPolecenia> pracownicy = okres;
     pracownicy += QList<OpcjaPolecenia>{{u"pracownik", u"NR"}, {u"id", u"NR"}};
+    static const QList<OpcjaPolecenia> uklady{{u"uklad", u"NAZWA"}};
     return {
         {u"przelew pracownicy", u"(RRRR-MM | UZL | UOD | HON) --konto NR",
          u"przelewy dla pracowników z listy płac albo dla osób z umów", 1, kDowolnieWiele, pracownicy,
-         przelewPracownicy},
+         przelew<KomuPrzelew::Osoby>},
         {u"przelew podatek", u"(RRRR-MM | UZL | UOD | HON) --konto NR",
-         u"przelewy podatku dla urzędów skarbowych", 1, 1, okres, przelewPodatek},
+         u"przelewy podatku dla urzędów skarbowych", 1, 1, okres, przelew<KomuPrzelew::Urzedy>},
+        {u"wydruk przelewy",
+         u"(RRRR-MM | UZL | UOD | HON) --konto NR (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"wydruk przelewów dla pracowników z listy płac albo dla osób z umów", 1, kDowolnieWiele,
+         opcjeWydruku(pracownicy + uklady), wydruk<KomuPrzelew::Osoby>},
+        {u"wydruk przelewy-podatku",
+         u"(RRRR-MM | UZL | UOD | HON) --konto NR (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"wydruk przelewów podatku dla urzędów skarbowych", 1, 1, opcjeWydruku(okres + uklady),
+         wydruk<KomuPrzelew::Urzedy>},
         {u"multicash",
          u"(RRRR-MM | UZL) --paczka N --wystawienie D --platnosc D --konto NR --szczegoly TEKST --katalog "
          u"KAT",

@@ -18,6 +18,10 @@ enum class Format {
     Liczba,       ///< whole number
     LiczbaBezZera,
     Data, ///< dd-mm-yyyy
+    // Of forms, whose boxes hold the parts apart.
+    Zlote,     ///< "1234" of 1234,56
+    Grosze,    ///< "56" of it
+    CyfryDaty, ///< ddmmyyyy
 };
 
 /// A place on a band, from its left edge at the margin and from its top.
@@ -33,14 +37,14 @@ struct Element {
     enum class Rodzaj {
         Tekst,      ///< `tekst` as it stands
         Pole,       ///< field `pole` of the row; lines that the value holds stand below one another
-        Akapit,     ///< the same, broken into lines; the band grows with it
+        Akapit,     ///< the same, broken into lines; the band grows with it unless it is a form
         Suma,       ///< sum of field `pole`: on a group's footer over the group, on the report's over all
         SumaStr,    ///< sum of field `pole` over the rows of the page
         Strona,     ///< `tekst` with %1, the number of the page, and %2, that of the last one
         Linia,      ///< from the upper left to the lower right corner of the place
         Przerywana, ///< the same, dashed: to cut along
         Ramka,
-        Kratki, ///< field `pole`, one character in each of `ile` boxes
+        Kratki, ///< field `pole`, one character in each of `ile` boxes; a longer one as `Pole`
         Obraz,  ///< the picture (SVG) whose resource `tekst` names
     };
     Rodzaj rodzaj = Rodzaj::Tekst;
@@ -71,6 +75,7 @@ struct Pasmo {
     int grupa = 0;           ///< of a group's header and footer: 0 is the outermost
     bool powtarzaj = false;  ///< a group's header: again on top of each page that the group goes on to
     bool nowaStrona = false; ///< begins a page
+    bool formularz = false;  ///< keeps its height: paragraphs get smaller, then are cut with a mark
 };
 
 /// A4, in millimetres.

@@ -17,6 +17,12 @@ QRectF prostokat(const Miejsce& m) {
 
 } // namespace
 
+void Plotno::kratki(const Miejsce& m, const QString& znaki, Pismo pismo, int ile, int od) {
+    const double krok = m.szer / ile;
+    for (int i = 0; i < znaki.size(); ++i)
+        tekst({m.x + (od + i) * krok, m.y, krok, m.wys}, znaki.mid(i, 1), pismo, Ulozenie::Srodek);
+}
+
 PlotnoMalarza::PlotnoMalarza(QPainter& malarz) : malarz_(malarz) {
     malarz_.setPen(QPen(Qt::black, kLinia * kJednostekWMm));
     malarz_.setBrush(Qt::NoBrush);

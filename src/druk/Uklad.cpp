@@ -27,19 +27,43 @@ bool zerowa(const Wartosc& w) {
 }
 
 /// A paragraph's lines.
-QStringList linie(const Element& e, const WierszeDruku& wiersze, int wiersz) {
+QStringList linie(const Element& e, const WierszeDruku& wiersze, int wiersz, Pismo pismo) {
     const QString tekst =
         e.pole >= 0 && wiersz >= 0 ? tekstPola(wiersze.pole(wiersz, e.pole), e.format) : e.tekst;
-    return zlam(tekst, e.pismo, e.miejsce.szer);
+    return zlam(tekst, pismo, e.miejsce.szer);
+}
+
+/// A paragraph in a place that does not grow: smaller where that helps, then cut with a mark.
+std::pair<QStringList, Pismo> wcisnij(const Element& e, const WierszeDruku& wiersze, int wiersz) {
+    QStringList wynik;
+    Pismo pismo = e.pismo;
+    qsizetype miesci = 0;
+    for (const Pismo proba : {e.pismo, Pismo::Drobne}) {
+        pismo = proba;
+        wynik = linie(e, wiersze, wiersz, pismo);
+        miesci = std::max<qsizetype>(1, static_cast<qsizetype>((e.miejsce.wys + 0.01) / wysLinii(pismo)));
+        if (wynik.size() <= miesci) return {wynik, pismo};
+    }
+    wynik = wynik.first(miesci);
+    QString& ostatnia = wynik.last();
+    const QChar znak(0x2026);
+    while (!ostatnia.isEmpty() && szerTekstu(ostatnia + znak, pismo) > e.miejsce.szer) ostatnia.chop(1);
+    ostatnia += znak;
+    return {wynik, pismo};
 }
 
 } // namespace
 
 QString tekstPola(const Wartosc& wartosc, Format format) {
     if ((format == Format::KwotaBezZera || format == Format::LiczbaBezZera) && zerowa(wartosc)) return {};
-    if (const auto* kwota = std::get_if<Waluta>(&wartosc)) return zTysiacami(FormatKwoty(*kwota));
+    if (const auto* kwota = std::get_if<Waluta>(&wartosc)) {
+        if (format == Format::Zlote) return FormatKwoty(*kwota).section(QLatin1Char(','), 0, 0);
+        if (format == Format::Grosze) return FormatKwoty(*kwota).section(QLatin1Char(','), 1);
+        return zTysiacami(FormatKwoty(*kwota));
+    }
     if (const auto* liczba = std::get_if<qint64>(&wartosc)) return QString::number(*liczba);
-    if (const auto* data = std::get_if<QDate>(&wartosc)) return FormatDaty(*data);
+    if (const auto* data = std::get_if<QDate>(&wartosc))
+        return format == Format::CyfryDaty ? FormatDaty(*data).remove(QLatin1Char('-')) : FormatDaty(*data);
     if (const auto* tekst = std::get_if<QString>(&wartosc)) return *tekst;
     if (const auto* rzeczywista = std::get_if<double>(&wartosc))
         return TekstKwoty(Waluta::zLiczby(*rzeczywista));
@@ -53,7 +77,8 @@ public:
         for (int i = 0; i < pasma_.size(); ++i) {
             wgRoli_[static_cast<std::size_t>(pasma_[i].rola)].push_back(i);
             for (const Element& e : pasma_[i].elementy)
-                rosnace_[static_cast<std::size_t>(pasma_[i].rola)] |= e.rodzaj == Rodzaj::Akapit;
+                rosnace_[static_cast<std::size_t>(pasma_[i].rola)] |=
+                    e.rodzaj == Rodzaj::Akapit && !pasma_[i].formularz;
         }
         const Strona& s = u_.opis_.strona;
         for (const int i : rola(Rola::StopkaStrony)) stopka_ += pasma_[i].wys;
@@ -125,10 +150,10 @@ private:
 
     [[nodiscard]] double wysokosc(const Pasmo& p, int wiersz) const {
         double wys = p.wys;
-        if (rosnace_[static_cast<std::size_t>(p.rola)])
+        if (rosnace_[static_cast<std::size_t>(p.rola)] && !p.formularz)
             for (const Element& e : p.elementy)
                 if (e.rodzaj == Rodzaj::Akapit) {
-                    const auto linii = static_cast<double>(linie(e, *u_.wiersze_, wiersz).size());
+                    const auto linii = static_cast<double>(linie(e, *u_.wiersze_, wiersz, e.pismo).size());
                     const double potrzeba = e.miejsce.y + linii * wysLinii(e.pismo);
                     wys = std::max(wys, p.wys - e.miejsce.wys + potrzeba - e.miejsce.y);
                 }
@@ -233,7 +258,7 @@ void Uklad::rysujPasmo(const Pasmo& pasmo, const Polozenie& p, int strona, Plotn
         // A frame grows with its band; what stands at its bottom goes down with it.
         if (przyrost > 0 && e.rodzaj == Rodzaj::Ramka) m.wys += przyrost;
         if (przyrost > 0 && e.rodzaj == Rodzaj::Linia && e.miejsce.y >= pasmo.wys - 0.01) m.y += przyrost;
-        rysujElement(e, m, p, strona, plotno);
+        rysujElement(pasmo, e, m, p, strona, plotno);
     }
 }
 
@@ -242,18 +267,31 @@ Waluta Uklad::suma(const Polozenie& p, const Element& e) const {
     return sumy_.at(static_cast<std::size_t>(p.sumy)).at(static_cast<std::size_t>(ktora));
 }
 
-void Uklad::rysujElement(const Element& e, const Miejsce& m, const Polozenie& p, int strona,
-                         Plotno& plotno) const {
-    const auto wLiniach = [&](const QStringList& linie) {
-        Miejsce l{m.x, m.y, m.szer, wysLinii(e.pismo)};
+void Uklad::rysujPole(const Pasmo& pasmo, const Element& e, const Miejsce& m, int wiersz,
+                      Plotno& plotno) const {
+    const auto wLiniach = [&](const QStringList& linie, Pismo pismo) {
+        Miejsce l{m.x, m.y, m.szer, wysLinii(pismo)};
         for (const QString& linia : linie) {
-            plotno.tekst(l, linia, e.pismo, e.ulozenie);
+            plotno.tekst(l, linia, pismo, e.ulozenie);
             l.y += l.wys;
         }
     };
-    const auto wartosc = [&] {
-        return p.wiersz >= 0 ? tekstPola(wiersze_->pole(p.wiersz, e.pole), e.format) : QString();
-    };
+    if (e.rodzaj == Rodzaj::Akapit) {
+        if (!pasmo.formularz) return wLiniach(linie(e, *wiersze_, wiersz, e.pismo), e.pismo);
+        const auto [linie, pismo] = wcisnij(e, *wiersze_, wiersz);
+        return wLiniach(linie, pismo);
+    }
+    const QString t = wiersz >= 0 ? tekstPola(wiersze_->pole(wiersz, e.pole), e.format) : QString();
+    if (e.rodzaj == Rodzaj::Kratki && t.size() <= e.ile) {
+        const int puste = e.ulozenie == Ulozenie::Prawo ? e.ile - static_cast<int>(t.size()) : 0;
+        return plotno.kratki(m, t, e.pismo, e.ile, puste);
+    }
+    if (t.contains(QLatin1Char('\n'))) return wLiniach(t.split(QLatin1Char('\n')), e.pismo);
+    plotno.tekst(m, t, e.pismo, e.ulozenie);
+}
+
+void Uklad::rysujElement(const Pasmo& pasmo, const Element& e, const Miejsce& m, const Polozenie& p,
+                         int strona, Plotno& plotno) const {
     const auto kwota = [&](const Polozenie& skad) {
         const Waluta s = suma(skad, e);
         const bool calkowita = e.format == Format::Liczba || e.format == Format::LiczbaBezZera;
@@ -263,13 +301,10 @@ void Uklad::rysujElement(const Element& e, const Miejsce& m, const Polozenie& p,
     switch (e.rodzaj) {
     case Rodzaj::Tekst:
         return plotno.tekst(m, e.tekst, e.pismo, e.ulozenie);
-    case Rodzaj::Pole: {
-        const QString t = wartosc();
-        return t.contains(QLatin1Char('\n')) ? wLiniach(t.split(QLatin1Char('\n')))
-                                             : plotno.tekst(m, t, e.pismo, e.ulozenie);
-    }
+    case Rodzaj::Pole:
     case Rodzaj::Akapit:
-        return wLiniach(linie(e, *wiersze_, p.wiersz));
+    case Rodzaj::Kratki:
+        return rysujPole(pasmo, e, m, p.wiersz, plotno);
     case Rodzaj::Suma:
         return kwota(p);
     case Rodzaj::SumaStr: {
@@ -283,13 +318,6 @@ void Uklad::rysujElement(const Element& e, const Miejsce& m, const Polozenie& p,
         return plotno.linia(m, e.rodzaj == Rodzaj::Przerywana);
     case Rodzaj::Ramka:
         return plotno.ramka(m);
-    case Rodzaj::Kratki: {
-        const QString t = wartosc();
-        const double krok = m.szer / std::max(1, e.ile);
-        for (int i = 0; i < std::min<int>(e.ile, static_cast<int>(t.size())); ++i)
-            plotno.tekst({m.x + i * krok, m.y, krok, m.wys}, t.mid(i, 1), e.pismo, Ulozenie::Srodek);
-        return;
-    }
     case Rodzaj::Obraz:
         return plotno.obraz(m, e.tekst);
     }

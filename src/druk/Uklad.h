@@ -38,8 +38,10 @@ private:
     };
 
     void rysujPasmo(const Pasmo& pasmo, const Polozenie& p, int strona, Plotno& plotno) const;
-    void rysujElement(const Element& e, const Miejsce& m, const Polozenie& p, int strona,
+    void rysujElement(const Pasmo& pasmo, const Element& e, const Miejsce& m, const Polozenie& p, int strona,
                       Plotno& plotno) const;
+    /// What a field of the row says.
+    void rysujPole(const Pasmo& pasmo, const Element& e, const Miejsce& m, int wiersz, Plotno& plotno) const;
     [[nodiscard]] Waluta suma(const Polozenie& p, const Element& e) const;
 
     OpisWydruku opis_;

@@ -36,6 +36,10 @@ public:
         if (!tekst.trimmed().isEmpty())
             linie.append({static_cast<int>(std::lround(m.x)), static_cast<int>(std::lround(m.y)), tekst});
     }
+    /// The boxes of one field read as one text.
+    void kratki(const Miejsce& m, const QString& znaki, Pismo pismo, int, int) override {
+        tekst(m, znaki, pismo, Ulozenie::Lewo);
+    }
     void linia(const Miejsce&, bool) override {}
     void ramka(const Miejsce&) override {}
     void obraz(const Miejsce&, const QString&) override {}
