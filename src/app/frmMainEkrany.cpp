@@ -3,8 +3,8 @@
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
 #include "app/frmMainWydruki.h"
+#include "app/frmMainWydrukiKadr.h"
 #include "bank/frmKonta.h"
-#include "okna/Drukowanie.h"
 #include "payroll/miesiace/frmPlace.h"
 #include "payroll/nadgodziny/frmNadg.h"
 #include "personnel/frmDniWolne.h"
@@ -15,7 +15,6 @@
 #include "personnel/frmRejZwoln.h"
 #include "personnel/frmTrDoPr.h"
 #include "personnel/frmUS.h"
-#include "reports/place/WydrukiListyPlac.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
 #include "rules/Stale.h"
@@ -28,27 +27,6 @@ namespace {
 template <typename Ekran>
 void zarejestruj(frmMain& okno, Otoczenie& otoczenie, Wejscie wejscie) {
     okno.rejestruj(wejscie, [&] { Ekran(otoczenie, &okno).exec(); });
-}
-
-/// The prints of the payroll list, by the captions of its menu.
-PortWydrukow wydrukiListyPlac(Otoczenie& otoczenie) {
-    const QString dlaWybranego = QStringLiteral("Pokwitowanie dla wybranego");
-    PortWydrukow port;
-    for (const reports::OpisWydrukuListy& w : reports::wydrukiListy())
-        port.dostepne.append(w.napis.toString());
-    port.dostepne.append(dlaWybranego);
-    port.drukuj = [&otoczenie, dlaWybranego](const QString& napis, const ListaPlac& lista,
-                                             std::optional<qint64> prcId, QWidget* rodzic) {
-        const bool wybrany = napis == dlaWybranego;
-        auto ktory = reports::WydrukListy::Pokwitowania;
-        for (const reports::OpisWydrukuListy& w : reports::wydrukiListy())
-            if (w.napis == napis) ktory = w.ktory;
-        const auto podglad = otoczenie.stale.DrukReszta ? Podglad::Nie : Podglad::Tak;
-        PokazWydruk(reports::UlozWydrukListy(ktory, otoczenie, lista, QDate::currentDate(),
-                                             wybrany ? prcId : std::nullopt),
-                    podglad, otoczenie.rozmowa, rodzic);
-    };
-    return port;
 }
 
 } // namespace

@@ -1,105 +1,79 @@
 #include "app/frmMainWydruki.h"
-#include "app/frmMain.h"
-#include "common/Rozmowa.h"
+#include "bank/frmDrukPrzelewow.h"
 #include "okna/Drukowanie.h"
-#include "okna/frmInputData.h"
-#include "okna/frmZakresMies.h"
-#include "okna/Klepsydra.h"
-#include "payroll/miesiace/frmSymboleList.h"
-#include "payroll/miesiace/Miesiace.h"
-#include "personnel/frmDzial.h"
-#include "reports/kadry/WydrukiKadr.h"
-#include "reports/place/ZbiorowkaOkresu.h"
+#include "payroll/lista/ListaPlac.h"
+#include "reports/place/WydrukiListyPlac.h"
+#include "reports/przelewy/WydrukPrzelewow.h"
 #include "rules/Stale.h"
+#include <algorithm>
+#include <QDate>
 
 namespace tornel::app {
 
 namespace {
 
-using reports::OkresMiesiecy;
+enum class CzynnoscPrzelewu { DlaPracownika, Wszystkie, DlaPodatku, MultiCash };
 
-/// The last month on the list of months; none on an empty list.
-std::optional<RokMies> ostatniMiesiacPlac(Otoczenie& otoczenie) {
-    const QList<WierszMiesiaca> miesiace = Miesiace(otoczenie).Wczytaj_liste();
-    return miesiace.isEmpty() ? std::nullopt : std::optional(miesiace.last().miesiac);
-}
+constexpr std::pair<QStringView, CzynnoscPrzelewu> kPrzelewy[] = {
+    {u"Wydruk przelewu dla pracownika", CzynnoscPrzelewu::DlaPracownika},
+    {u"Wydruk wszystkich przelewów", CzynnoscPrzelewu::Wszystkie},
+    {u"Wydruk przelewu dla podatku", CzynnoscPrzelewu::DlaPodatku},
+    {u"Przelewy do MultiCash", CzynnoscPrzelewu::MultiCash},
+};
 
-void ulozIPokaz(Otoczenie& otoczenie, const std::function<std::shared_ptr<const Uklad>()>& uloz,
-                QWidget* rodzic) {
-    std::shared_ptr<const Uklad> uklad;
-    {
-        const Klepsydra klepsydra;
-        uklad = uloz();
+const QString kPokwitowanieDlaWybranego = QStringLiteral("Pokwitowanie dla wybranego");
+
+void przelej(CzynnoscPrzelewu czynnosc, Otoczenie& otoczenie, const ListaPlac& lista, QWidget* rodzic) {
+    ZrodloPrzelewow zrodlo{.symbol = lista.symbol()};
+    if (czynnosc == CzynnoscPrzelewu::MultiCash) {
+        PrzelewyDoMultiCash(otoczenie, zrodlo, rodzic);
+        return;
     }
-    PokazWydruk(std::move(uklad), otoczenie.stale.DrukReszta ? Podglad::Nie : Podglad::Tak, otoczenie.rozmowa,
-                rodzic);
-}
-
-std::optional<OkresMiesiecy> jedenMiesiac(Otoczenie&, RokMies wstepny, QWidget* rodzic) {
-    frmInputData okno(frmInputData::Tryb::Miesiac, QStringLiteral("Zbiorówka za miesiąc"),
-                      wstepny.pierwszyDzien(), rodzic);
-    if (okno.exec() != QDialog::Accepted) return std::nullopt;
-    const RokMies miesiac{okno.rok(), okno.mies()};
-    return OkresMiesiecy{miesiac, miesiac};
-}
-
-std::optional<OkresMiesiecy> zakresMiesiecy(Otoczenie& otoczenie, RokMies wstepny, QWidget* rodzic) {
-    frmZakresMies okno(otoczenie.rozmowa, QStringLiteral("Zbiorówka za rok"), {wstepny.rok, 1}, wstepny,
-                       rodzic);
-    if (okno.exec() != QDialog::Accepted) return std::nullopt;
-    return OkresMiesiecy{okno.od(), okno.dokad()};
-}
-
-using PytanieOOkres = std::optional<OkresMiesiecy> (*)(Otoczenie&, RokMies, QWidget*);
-
-void zbiorowka(Otoczenie& o, PytanieOOkres zapytaj, QWidget* rodzic) {
-    const auto wstepny = ostatniMiesiacPlac(o);
-    const auto okres = zapytaj(o, wstepny.value_or(RokMies::dnia(QDate::currentDate())), rodzic);
-    if (!okres) return;
-    const QList<RokMies> miesiace = reports::MiesiaceOkresu(o.sesja, *okres);
-    if (miesiace.isEmpty())
-        return o.rozmowa.komunikat(QStringLiteral("Nie ma list płac za: %1.").arg(okres->napis()),
-                                   Styl::Wykrzyknik);
-    reports::WarunkiZbiorowki warunki{*okres, {}};
-    if (o.stale.AktOpWieluList) {
-        frmSymboleList okno(SymboleList(o.sesja, miesiace), rodzic);
-        if (okno.exec() != QDialog::Accepted) return;
-        warunki.listy = okno.listy();
+    if (czynnosc == CzynnoscPrzelewu::DlaPracownika) {
+        if (!lista.wiersz()) return;
+        zrodlo.numery = {lista.wiersz()->prcId};
+        zrodlo.lista = lista.wiersz()->lista;
     }
-    frmDzial dzialy(Pracownicy(o).dzialy(), rodzic);
-    if (dzialy.exec() != QDialog::Accepted) return;
-    warunki.dzialy = dzialy.dzialy();
-    ulozIPokaz(
-        o, [&] { return reports::UlozZbiorowkeOkresu(o, warunki, QDate::currentDate()); }, rodzic);
+    const auto komu = czynnosc == CzynnoscPrzelewu::DlaPodatku ? KomuPrzelew::Urzedy : KomuPrzelew::Osoby;
+    DrukujPrzelewy(otoczenie, komu, zrodlo, reports::UlozPrzelewy, rodzic);
+}
+
+void drukujListe(const QString& napis, Otoczenie& otoczenie, const ListaPlac& lista,
+                 std::optional<qint64> prcId, QWidget* rodzic) {
+    const bool wybrany = napis == kPokwitowanieDlaWybranego;
+    auto ktory = reports::WydrukListy::Pokwitowania;
+    for (const reports::OpisWydrukuListy& w : reports::wydrukiListy())
+        if (w.napis == napis) ktory = w.ktory;
+    PokazWydruk(reports::UlozWydrukListy(ktory, otoczenie, lista, QDate::currentDate(),
+                                         wybrany ? prcId : std::nullopt),
+                otoczenie.stale.DrukReszta ? Podglad::Nie : Podglad::Tak, otoczenie.rozmowa, rodzic);
 }
 
 } // namespace
 
-PortWydrukowKadr WydrukiKartoteki(Otoczenie& otoczenie) {
-    PortWydrukowKadr port;
-    for (const reports::OpisWydrukuKadr& w : reports::wydrukiKadr()) {
-        port.dostepne.append({w.napis.toString(), w.okres});
-        if (w.ktory == reports::WydrukKadr::KartaEwidencji) port.kartaEwidencji = w.napis.toString();
+PortWydrukow wydrukiListyPlac(Otoczenie& otoczenie) {
+    PortWydrukow port;
+    for (const reports::OpisWydrukuListy& w : reports::wydrukiListy())
+        port.dostepne.append(w.napis.toString());
+    port.dostepne.append(kPokwitowanieDlaWybranego);
+    for (const auto& [napis, czynnosc] : kPrzelewy) {
+        if (czynnosc != CzynnoscPrzelewu::MultiCash || otoczenie.stale.MCSAkt)
+            port.dostepne.append(napis.toString());
+        else
+            port.niedostepne.insert(
+                napis.toString(),
+                QStringLiteral("Współpraca z programem MultiCash jest wyłączona w stałych programu."));
     }
-    port.ostatniMiesiac = [&otoczenie] {
-        return ostatniMiesiacPlac(otoczenie).value_or(RokMies::dnia(QDate::currentDate()));
-    };
-    port.drukuj = [&otoczenie](const QString& napis, const ZlecenieWydruku& zlecenie, QWidget* rodzic) {
-        for (const reports::OpisWydrukuKadr& w : reports::wydrukiKadr())
-            if (w.napis == napis)
-                ulozIPokaz(
-                    otoczenie,
-                    [&] {
-                        return reports::UlozWydrukKadr(w.ktory, otoczenie, zlecenie, QDate::currentDate());
-                    },
-                    rodzic);
+    port.drukuj = [&otoczenie](const QString& napis, const ListaPlac& lista, std::optional<qint64> prcId,
+                               QWidget* rodzic) {
+        const auto* przelew =
+            std::ranges::find(kPrzelewy, napis, [](const auto& p) { return p.first.toString(); });
+        if (przelew != std::end(kPrzelewy))
+            przelej(przelew->second, otoczenie, lista, rodzic);
+        else
+            drukujListe(napis, otoczenie, lista, prcId, rodzic);
     };
     return port;
-}
-
-void ZarejestrujZbiorowki(frmMain& okno, Otoczenie& otoczenie) {
-    okno.rejestruj(Wejscie::ZbiorowkaMiesiac, [&] { zbiorowka(otoczenie, jedenMiesiac, &okno); });
-    okno.rejestruj(Wejscie::ZbiorowkaRok, [&] { zbiorowka(otoczenie, zakresMiesiecy, &okno); });
 }
 
 } // namespace tornel::app

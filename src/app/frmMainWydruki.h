@@ -1,15 +1,11 @@
-// Wires the prints that the main window and the personnel file offer.
+// The one place that says which print stands behind which entry of the menu "Drukuj" of a payroll list.
 #pragma once
-#include "personnel/PortWydrukowKadr.h"
+#include "payroll/lista/PortWydrukow.h"
 #include "rules/Otoczenie.h"
 
 namespace tornel::app {
 
-class frmMain;
-
-/// The prints of the personnel file.
-[[nodiscard]] PortWydrukowKadr WydrukiKartoteki(Otoczenie& otoczenie);
-/// The entries "Zbiorówka za miesiąc" and "Zbiorówka za rok".
-void ZarejestrujZbiorowki(frmMain& okno, Otoczenie& otoczenie);
+/// The prints, transfers and the bank's file of the list in work.
+[[nodiscard]] PortWydrukow wydrukiListyPlac(Otoczenie& otoczenie);
 
 } // namespace tornel::app

@@ -8,6 +8,7 @@ namespace tornel::bank {
 
 using schemat::HON;
 using schemat::PLA;
+using schemat::PLB;
 using schemat::UOD;
 using schemat::UZL;
 
@@ -19,7 +20,7 @@ constexpr RodzajWyplat kRodzaje[] = {
      u"Brak umów - zleceń spełniających podane kryteria. Sprawdź czy podany okres jest prawidłowy oraz czy "
      u"ustalono "
      u"kwoty do przelewów.",
-     u"Brak umów - zleceń w podanum okresie, posiadających wyliczony podatek."},
+     u"Brak umów - zleceń w podanum okresie, posiadających wyliczony podatek.", UZL("wys_mcs")},
     {&UOD, UOD("UODID"), UOD("uod_nr"), UOD("prc_id"), UOD("us_id"), UOD("data_zaw"), UOD("data_wyp"),
      UOD("przelewem"), UOD("Podatek"), u"Przelew z umowy o dzieło", u"Przelew z umowy o dzieło",
      u"Brak umów o dzieło spełniających podane kryteria. Sprawdź czy podany okres jest prawidłowy oraz czy "
@@ -74,6 +75,15 @@ Recordset umowyOkresu(Sesja& sesja, const RodzajWyplat& r, const Kolumna& kolumn
     return rs;
 }
 
+/// Of the contract that the handle stands on.
+Wyplata wyplataUmowy(const RodzajWyplat& r, const Recordset& rs) {
+    return {rs.liczba(r.prcId),
+            rs.kwota(r.przelewem),
+            {},
+            rs.liczba(r.id),
+            r.wyslana.tabela != nullptr && rs.flaga(r.wyslana)};
+}
+
 } // namespace
 
 const RodzajWyplat* rodzajWyplat(const QString& tabela) {
@@ -88,8 +98,11 @@ QString tytulPodatku() { return QStringLiteral("Przelew dla podatku"); }
 QList<Wyplata> Wyplaty::zListy(const QString& symbol, const QList<qint64>& numery) const {
     QList<Wyplata> wynik;
     for (const Wiersz& a : wierszeListy(o_.sesja.rsPLA, symbol)) {
-        const Wyplata w{a.liczba(PLA("PRC_ID")), a.kwota(PLA("PRZELEWEM")), a.tekst(PLA("LISTA"))};
-        if (w.kwota > Waluta{} && (numery.isEmpty() || numery.contains(w.komu))) wynik.append(w);
+        Wyplata w{a.liczba(PLA("PRC_ID")), a.kwota(PLA("PRZELEWEM")), a.tekst(PLA("LISTA"))};
+        if (!(w.kwota > Waluta{}) || (!numery.isEmpty() && !numery.contains(w.komu))) continue;
+        const auto b = o_.sesja.rsPLB.szukaj(w.komu, w.lista);
+        w.wyslana = b && b->flaga(PLB("WYS_MCS"));
+        wynik.append(w);
     }
     return wynik;
 }
@@ -107,14 +120,14 @@ std::optional<Wyplata> Wyplaty::zUmowy(const RodzajWyplat& rodzaj, qint64 id) co
     Recordset rs(*rodzaj.tabela);
     rs.Open(o_.sesja.cnPlace, {}, {{rodzaj.id, Kryterium::Operator::Rowne, id}});
     if (!rs.naWierszu()) throw Blad(QStringLiteral("Nie ma umowy o numerze %1.").arg(id));
-    const Wyplata w{rs.liczba(rodzaj.prcId), rs.kwota(rodzaj.przelewem), {}, id};
+    const Wyplata w = wyplataUmowy(rodzaj, rs);
     return w.kwota > Waluta{} ? std::optional(w) : std::nullopt;
 }
 
 QList<Wyplata> Wyplaty::zUmow(const RodzajWyplat& rodzaj, QDate od, QDate dokad) const {
     QList<Wyplata> wynik;
     for (Recordset rs = umowyOkresu(o_.sesja, rodzaj, rodzaj.zawarta, od, dokad); !rs.EOF_(); rs.MoveNext())
-        wynik.append({rs.liczba(rodzaj.prcId), rs.kwota(rodzaj.przelewem), {}, rs.liczba(rodzaj.id)});
+        wynik.append(wyplataUmowy(rodzaj, rs));
     return wynik;
 }
 

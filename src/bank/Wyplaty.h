@@ -18,16 +18,19 @@ struct RodzajWyplat {
     QStringView tytulSerii;   ///< and of those for a period: a fee has two titles, deliberately
     QStringView brakUmow;     ///< when a period has none
     QStringView brakPodatku;  ///< when none of them has a tax
+    store::Kolumna wyslana =
+        {}; ///< whether it went into a file for the bank; none for a kind that never does
 };
 /// By the table's name, in any case: UZL, UOD, HON; none for another.
 [[nodiscard]] const RodzajWyplat* rodzajWyplat(const QString& tabela);
 
 /// One payment: to an employee or, of a tax, to an office.
 struct Wyplata {
-    qint64 komu = 0;     ///< `PRC_ID` or `US_ID`
-    Waluta kwota;        ///< zł, above 0
-    QString lista = {};  ///< symbol of the row's list; of a tax, that of the list in work
-    qint64 dokument = 0; ///< number of the contract, 0 for a list or a tax
+    qint64 komu = 0;      ///< `PRC_ID` or `US_ID`
+    Waluta kwota;         ///< zł, above 0
+    QString lista = {};   ///< symbol of the row's list; of a tax, that of the list in work
+    qint64 dokument = 0;  ///< number of the contract, 0 for a list or a tax
+    bool wyslana = false; ///< stands in a file for the bank already
 };
 
 /// The tax transfer's title where none is given.
@@ -38,7 +41,7 @@ public:
     explicit Wyplaty(Otoczenie& otoczenie) : o_(otoczenie) {}
 
     // Of the month that is open, its rows in the order "PRC_ID, LISTA"; `symbol` blank for all lists. Read
-    // `PLA`.
+    // `PLA`, `PLB`.
 
     /// The rows with an amount by transfer, of these employees or, without any, of all.
     [[nodiscard]] QList<Wyplata> zListy(const QString& symbol, const QList<qint64>& numery = {}) const;

@@ -41,12 +41,6 @@ const RodzajWykonania& rodzajWykonania(KomuPrzelew komu) {
     return komu == KomuPrzelew::Osoby ? wykonanie::Przelew : wykonanie::PrzelewPodatku;
 }
 
-QString nazwaZrodla(const ZrodloPrzelewow& z) {
-    return z.umowy ? QString::fromLatin1(z.umowy->tabela->nazwa.data(),
-                                         static_cast<qsizetype>(z.umowy->tabela->nazwa.size()))
-                   : QString();
-}
-
 /// The month of the payments: of the list, or of the contracts whose tax is paid. Contracts paid one by one
 /// are found by their numbers and belong to the month in which the transfer is made.
 RokMies miesiacZrodla(const Otoczenie& o, KomuPrzelew komu, const ZrodloPrzelewow& z) {
@@ -64,7 +58,21 @@ struct KluczWyplaty {
     }
 };
 
+/// "wydrukowano 10-04-2001", or with how many of all they are.
+QString zLiczba(const RodzajWykonania& rodzaj, const QString& napis, qsizetype ile, qsizetype wszystkich) {
+    if (ile == wszystkich) return napis;
+    return QString(napis).replace(
+        rodzaj.slowo.toString(),
+        QStringLiteral("%1 %2 z %3, ostatnio").arg(rodzaj.slowo).arg(ile).arg(wszystkich));
+}
+
 } // namespace
+
+QString NazwaZrodla(const ZrodloPrzelewow& z) {
+    if (!z.umowy) return {};
+    const std::string_view nazwa = z.umowy->tabela->nazwa;
+    return QString::fromLatin1(nazwa.data(), static_cast<qsizetype>(nazwa.size()));
+}
 
 DoPrzelania ZnajdzDoPrzelania(Otoczenie& otoczenie, KomuPrzelew komu, const ZrodloPrzelewow& zrodlo) {
     const Wyplaty wyplaty(otoczenie);
@@ -74,24 +82,31 @@ DoPrzelania ZnajdzDoPrzelania(Otoczenie& otoczenie, KomuPrzelew komu, const Zrod
 JuzWydrukowane SprawdzWydrukowane(Otoczenie& otoczenie, KomuPrzelew komu, const ZrodloPrzelewow& zrodlo,
                                   const QList<Wyplata>& wyplaty) {
     const RodzajWykonania& rodzaj = rodzajWykonania(komu);
-    SzukaneWykonania szukane{.rodzaj = rodzaj.kod.toString(), .zrodlo = nazwaZrodla(zrodlo)};
+    SzukaneWykonania szukane{.rodzaj = rodzaj.kod.toString(), .zrodlo = NazwaZrodla(zrodlo)};
     if (const RokMies m = miesiacZrodla(otoczenie, komu, zrodlo); m.mies > 0) szukane.miesiac = m;
     QHash<KluczWyplaty, QList<Wykonanie>> wgWyplaty;
     for (const Wykonanie& w : Wykonane(otoczenie.sesja).szukaj(szukane))
         wgWyplaty[{w.komu, w.dokument, w.lista}].append(w);
     JuzWydrukowane wynik;
     QList<Wykonanie> znalezione;
+    qsizetype wydrukowanych = 0, wyslanych = 0;
     for (const Wyplata& w : wyplaty) {
         const auto znane = wgWyplaty.constFind({w.komu, w.dokument, w.lista});
-        wynik.ktore.append(znane != wgWyplaty.constEnd());
-        if (wynik.ktore.last()) znalezione += *znane;
+        const bool wydrukowana = znane != wgWyplaty.constEnd();
+        if (wydrukowana) znalezione += *znane;
+        wydrukowanych += wydrukowana;
+        wyslanych += w.wyslana;
+        wynik.ktore.append(wydrukowana || w.wyslana);
     }
-    const auto ile = wynik.ktore.count(true);
-    wynik.napis = NapisWykonania(rodzaj, znalezione);
-    if (ile > 0 && ile < wyplaty.size())
-        wynik.napis.replace(
-            rodzaj.slowo.toString(),
-            QStringLiteral("%1 %2 z %3, ostatnio").arg(rodzaj.slowo).arg(ile).arg(wyplaty.size()));
+    QStringList napisy;
+    if (wydrukowanych > 0)
+        napisy += zLiczba(rodzaj, NapisWykonania(rodzaj, znalezione), wydrukowanych, wyplaty.size());
+    if (wyslanych > 0) {
+        napisy += QStringLiteral("wysłano do banku w pliku");
+        if (wyplaty.size() > 1)
+            napisy.last() += QStringLiteral(" %1 z %2").arg(wyslanych).arg(wyplaty.size());
+    }
+    wynik.napis = napisy.join(QStringLiteral("; "));
     return wynik;
 }
 
@@ -101,7 +116,7 @@ void ZapamietajWydrukowane(Otoczenie& otoczenie, KomuPrzelew komu, const ZrodloP
     for (const Przelew& p : przelewy)
         wykonania.append({.rodzaj = rodzajWykonania(komu).kod.toString(),
                           .miesiac = miesiacZrodla(otoczenie, komu, zrodlo),
-                          .zrodlo = nazwaZrodla(zrodlo),
+                          .zrodlo = NazwaZrodla(zrodlo),
                           .lista = p.za.lista,
                           .komu = p.za.komu,
                           .dokument = p.za.dokument,

@@ -11,6 +11,8 @@ namespace wykonanie {
 inline constexpr RodzajWykonania Przelew{u"przelew", u"wydrukowano"};
 inline constexpr RodzajWykonania PrzelewPodatku{u"przelew-podatku", u"wydrukowano"};
 inline constexpr RodzajWykonania MultiCash{u"multicash", u"zapisano"};
+/// A bank file between its writing and the marks of its orders: found only when that was broken off.
+inline constexpr RodzajWykonania MultiCashWToku{u"multicash-w-toku", u"rozpoczęto"};
 } // namespace wykonanie
 
 enum class KomuPrzelew { Osoby, Urzedy };
@@ -36,14 +38,18 @@ struct DoPrzelania {
 [[nodiscard]] DoPrzelania ZnajdzDoPrzelania(Otoczenie& otoczenie, KomuPrzelew komu,
                                             const ZrodloPrzelewow& zrodlo);
 
-/// Which of the payments stand on paper already.
+/// Which of the payments were made already, on paper or in a file for the bank.
 struct JuzWydrukowane {
     QList<bool> ktore; ///< by payment
-    QString napis;     ///< "wydrukowano 10-04-2001", of several "wydrukowano 3 z 5, ostatnio 10-04-2001"
+    QString napis;     ///< "wydrukowano 10-04-2001", of several "wydrukowano 3 z 5, ostatnio 10-04-2001",
+                       ///< then "wysłano do banku w pliku 2 z 5"; empty when none was
 };
 /// Reads `WYKONANE`.
 [[nodiscard]] JuzWydrukowane SprawdzWydrukowane(Otoczenie& otoczenie, KomuPrzelew komu,
                                                 const ZrodloPrzelewow& zrodlo, const QList<Wyplata>& wyplaty);
+/// The source as `WYKONANE` has it: the table's name and the month of the payments, zeros for contracts that
+/// are paid one by one.
+[[nodiscard]] QString NazwaZrodla(const ZrodloPrzelewow& zrodlo);
 /// Notes the transfers as put on paper, or into the file `plik`. Writes `WYKONANE`, one action.
 void ZapamietajWydrukowane(Otoczenie& otoczenie, KomuPrzelew komu, const ZrodloPrzelewow& zrodlo,
                            const QList<Przelew>& przelewy, const QDateTime& kiedy, const QString& plik = {});

@@ -162,13 +162,12 @@ int multicash(Wywolanie& w) {
                          liczbaZTekstu(opcja(w, u"paczka"), 0, 32767, QStringLiteral("numer paczki")),
                          opcja(w, u"katalog"),
                          {},
-                         opcja(w, u"szczegoly")};
+                         opcja(w, u"szczegoly"),
+                         QDateTime::currentDateTime()};
     const int konto = kontoOpcji(w);
     for (const KontoNadawcy& k : KontaNadawcy(w.otoczenie()))
         if (k.nr == konto) przebieg.konto = k.konto;
-    MultiCash mc(w.otoczenie());
-    const auto ile = z.umowy ? mc.zUmow(przebieg) : mc.zListy(przebieg, z.symbol);
-    return ile.value_or(0) > 0 ? status::Wykonane : status::Odmowa;
+    return MultiCash(w.otoczenie()).utworz(przebieg, z).value_or(0) > 0 ? status::Wykonane : status::Odmowa;
 }
 
 } // namespace

@@ -3,13 +3,13 @@
 #include "common/Pliki.h"
 #include "common/Rozmowa.h"
 #include "druk/Wyjscie.h"
-#include "okna/Drukowanie.h"
 #include "okna/Klepsydra.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
 #include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -30,10 +30,11 @@ constexpr int kRozdzielczoscKopii = 150;
 
 } // namespace
 
-frmPodglad::frmPodglad(std::shared_ptr<const Uklad> uklad, Rozmowa& rozmowa, QWidget* rodzic)
-    : QDialog(rodzic), uklad_(std::move(uklad)), rozmowa_(rozmowa), widok_(new WidokStrony(uklad_)),
-      numStrona_(new QSpinBox), cboPowiekszenie_(new QComboBox), txtSzukaj_(new QLineEdit),
-      labWynik_(new QLabel) {
+frmPodglad::frmPodglad(std::shared_ptr<const Uklad> uklad, Rozmowa& rozmowa, QWidget* rodzic,
+                       PoWydaniu poWydaniu)
+    : QDialog(rodzic), uklad_(std::move(uklad)), rozmowa_(rozmowa), poWydaniu_(std::move(poWydaniu)),
+      widok_(new WidokStrony(uklad_)), numStrona_(new QSpinBox), cboPowiekszenie_(new QComboBox),
+      txtSzukaj_(new QLineEdit), labWynik_(new QLabel) {
     setObjectName(QStringLiteral("frmPodglad"));
     setWindowTitle(uklad_->opis().tytul);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -180,8 +181,10 @@ void frmPodglad::kopiuj() {
 }
 
 void frmPodglad::drukuj() {
-    if (Drukuj(*uklad_, Drukarka::Wybierana, rozmowa_, this))
-        labWynik_->setText(QStringLiteral("wydrukowano"));
+    const auto wydane = Drukuj(*uklad_, Drukarka::Wybierana, rozmowa_, this);
+    if (!wydane) return;
+    labWynik_->setText(QStringLiteral("wydrukowano"));
+    if (poWydaniu_) poWydaniu_(*wydane);
 }
 
 void frmPodglad::wybierzPlik(const QString& rozszerzenie, const QString& opis,
@@ -197,12 +200,15 @@ void frmPodglad::wybierzPlik(const QString& rozszerzenie, const QString& opis,
 bool frmPodglad::zapiszPdf(const QString& plik) {
     try {
         const auto postep = rozmowa_.postep(windowTitle(), uklad_->stron());
-        return ZapiszPdf(*uklad_, plik,
-                         [&](int s) { return postep->krok(s, QStringLiteral("Zapis strony %1").arg(s)); });
+        if (!ZapiszPdf(*uklad_, plik,
+                       [&](int s) { return postep->krok(s, QStringLiteral("Zapis strony %1").arg(s)); }))
+            return false;
     } catch (const Blad& blad) {
         rozmowa_.komunikat(blad.komunikat(), Styl::Krytyczny);
         return false;
     }
+    if (poWydaniu_) poWydaniu_({1, uklad_->stron(), QFileInfo(plik).absoluteFilePath()});
+    return true;
 }
 
 bool frmPodglad::zapiszCsv(const QString& plik) {

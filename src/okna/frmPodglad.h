@@ -1,5 +1,6 @@
 // The preview of a print: its pages, search, printing, saving.
 #pragma once
+#include "okna/Drukowanie.h"
 #include "okna/WidokStrony.h"
 #include <QDialog>
 
@@ -19,7 +20,8 @@ namespace tornel::okna {
 class frmPodglad : public QDialog {
     Q_OBJECT
 public:
-    frmPodglad(std::shared_ptr<const Uklad> uklad, Rozmowa& rozmowa, QWidget* rodzic = nullptr);
+    frmPodglad(std::shared_ptr<const Uklad> uklad, Rozmowa& rozmowa, QWidget* rodzic = nullptr,
+               PoWydaniu poWydaniu = {});
 
     /// Writes the PDF to the file, with progress. False after a message when it cannot be written.
     bool zapiszPdf(const QString& plik);
@@ -43,6 +45,7 @@ private:
 
     std::shared_ptr<const Uklad> uklad_;
     Rozmowa& rozmowa_;
+    PoWydaniu poWydaniu_;
     WidokStrony* widok_;
     QSpinBox* numStrona_;
     QComboBox* cboPowiekszenie_;

@@ -37,21 +37,28 @@ Wykonanie zWiersza(const WierszeZapytania& w) {
     return x;
 }
 
-Zapytanie pytanie(const SzukaneWykonania& s) {
-    Zapytanie z(WYKONANE);
-    z.kolumny(WYKONANE("ROKMIES"), WYKONANE("NR"), WYKONANE("RODZAJ"), WYKONANE("ZRODLO"), WYKONANE("LISTA"),
-              WYKONANE("KOMU"), WYKONANE("DOKUMENT"), WYKONANE("KWOTA"), WYKONANE("DZIEN"), WYKONANE("CZAS"),
-              WYKONANE("KTO"), WYKONANE("PLIK"), WYKONANE("OPIS"))
-        .wedlug(WYKONANE("ROKMIES"), WYKONANE("NR"));
-    if (s.miesiac) z.gdzie(WYKONANE("ROKMIES") == Wartosc(s.miesiac->klucz()));
+/// The criteria that are given, each with its column.
+Warunek warunek(const SzukaneWykonania& s) {
+    Warunek wynik;
     const auto rowne = [&](const auto& szukane, Kolumna k) {
-        if (szukane) z.gdzie(k == Wartosc(*szukane));
+        if (szukane) wynik.append({k, Kryterium::Operator::Rowne, *szukane});
     };
+    if (s.miesiac) rowne(std::optional(s.miesiac->klucz()), WYKONANE("ROKMIES"));
     rowne(s.rodzaj, WYKONANE("RODZAJ"));
     rowne(s.zrodlo, WYKONANE("ZRODLO"));
     rowne(s.lista, WYKONANE("LISTA"));
     rowne(s.komu, WYKONANE("KOMU"));
     rowne(s.dokument, WYKONANE("DOKUMENT"));
+    return wynik;
+}
+
+Zapytanie pytanie(const SzukaneWykonania& ktore) {
+    Zapytanie z(WYKONANE);
+    z.kolumny(WYKONANE("ROKMIES"), WYKONANE("NR"), WYKONANE("RODZAJ"), WYKONANE("ZRODLO"), WYKONANE("LISTA"),
+              WYKONANE("KOMU"), WYKONANE("DOKUMENT"), WYKONANE("KWOTA"), WYKONANE("DZIEN"), WYKONANE("CZAS"),
+              WYKONANE("KTO"), WYKONANE("PLIK"), WYKONANE("OPIS"))
+        .wedlug(WYKONANE("ROKMIES"), WYKONANE("NR"));
+    for (const Kryterium& k : warunek(ktore)) z.gdzie(k.kolumna == k.wartosc);
     return z;
 }
 
@@ -81,6 +88,14 @@ void Wykonane::dopisz(const QList<Wykonanie>& wykonania, const QDateTime& kiedy)
         rs.ustaw(WYKONANE("PLIK"), x.plik);
         rs.ustaw(WYKONANE("OPIS"), x.opis);
     }
+    rs.UpdateBatch(u"Zapis wydruków i plików");
+}
+
+void Wykonane::usun(const SzukaneWykonania& ktore) {
+    Recordset rs(WYKONANE);
+    rs.Open(sesja_.cnPlace, {}, warunek(ktore));
+    rs.MoveFirst();
+    while (!rs.EOF_()) rs.Delete();
     rs.UpdateBatch(u"Zapis wydruków i plików");
 }
 

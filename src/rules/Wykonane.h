@@ -27,7 +27,7 @@ struct Wykonanie {
     QString zrodlo = {};  ///< name of the table with its data, as "UZL"; empty for the payroll list
     QString lista = {};   ///< list symbols; empty for all
     qint64 komu = 0;      ///< `PRC_ID`, or `US_ID` of a tax; 0 for no single one
-    qint64 dokument = 0;  ///< number of the contract or declaration
+    qint64 dokument = 0;  ///< number of the contract, declaration or bank package
     Waluta kwota = {};    ///< zł
     QString plik = {};    ///< path; empty for a paper
     QString opis = {};    ///< for people, as "Przelew: Anna Nowak"
@@ -50,6 +50,8 @@ public:
     /// Adds them as made at `kiedy` by the user at work: an action of its own, or a part of the one that is
     /// open. Writes `WYKONANE`. Throws `BladBazy`.
     void dopisz(const QList<Wykonanie>& wykonania, const QDateTime& kiedy);
+    /// Takes back what was only begun. Writes `WYKONANE`, as `dopisz` does.
+    void usun(const SzukaneWykonania& ktore);
     /// By month, in the order of making. Reads `WYKONANE`. Throws `BladBazy`, `UszkodzonaWartosc`.
     [[nodiscard]] QList<Wykonanie> szukaj(const SzukaneWykonania& ktore) const;
     /// When the last of them was made: "wydrukowano 10-04-2001"; empty when there is none.

@@ -32,7 +32,7 @@ inline constexpr KolumnaDef WYKONANE[] = {
     {"ZRODLO", Text, 10},       // table of its data
     {"LISTA", Text, 50},        // list symbols, empty for all
     {"KOMU", Integer},          // employee or tax office, 0 for no single one
-    {"DOKUMENT", Integer},      // number of the contract or declaration
+    {"DOKUMENT", Integer},      // number of the contract, declaration or package
     {"KWOTA", Currency},        // zł
     {"DZIEN", Date},            // when and by whom it was made
     {"CZAS", Text, 8},

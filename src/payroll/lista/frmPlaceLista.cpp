@@ -45,7 +45,7 @@ frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QStrin
       lvwPlace_(new WidokListy(
           {{QStringLiteral("NAZWISKO")}, {QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("LISTA")}},
           {60, 18, 22})),
-      zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy(wydruki_.dostepne)),
+      zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy(wydruki_)),
       labPracownik_(napis(QStringLiteral("labPracownik"))), labKwoty_(napis(QStringLiteral("labKwoty"))),
       labIleWierszy_(napis(QStringLiteral("labIleWierszy"))), labUwaga_(Wyglad::baner({}, this)) {
     const Klepsydra klepsydra;

@@ -26,8 +26,7 @@ constexpr QStringView kWydruki[] = {
 
 } // namespace
 
-PasekListy::PasekListy(QStringList dostepneWydruki, QWidget* rodzic)
-    : QWidget(rodzic), dostepneWydruki_(std::move(dostepneWydruki)) {
+PasekListy::PasekListy(const PortWydrukow& wydruki, QWidget* rodzic) : QWidget(rodzic) {
     cmdNowy_ = przycisk(QStringLiteral("cmdNowy"), QStringLiteral("&Nowy prac."), u"nowy");
     cmdUsun_ = przycisk(QStringLiteral("cmdUsun"), QStringLiteral("&Usuń prac."), u"usun");
     cmdPrzepisz_ = przycisk(QStringLiteral("Command1"), QStringLiteral("Przepisz"));
@@ -56,7 +55,7 @@ PasekListy::PasekListy(QStringList dostepneWydruki, QWidget* rodzic)
     connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, cmdDni_, &QPushButton::click);
     connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, cmdPrzepisz_, &QPushButton::click);
     connect(new QShortcut(Qt::Key_F9, this), &QShortcut::activated, cmdPrzelicz_, &QPushButton::click);
-    budujMenu();
+    budujMenu(wydruki);
 
     auto* uklad = new QHBoxLayout(this);
     uklad->setContentsMargins(0, 0, 0, 0);
@@ -65,7 +64,7 @@ PasekListy::PasekListy(QStringList dostepneWydruki, QWidget* rodzic)
     uklad->addWidget(rzadPrzyciskow(rzad));
 }
 
-void PasekListy::budujMenu() {
+void PasekListy::budujMenu(const PortWydrukow& port) {
     auto* cala = new QMenu(this);
     const std::pair<QString, QList<Obliczenie>> serie[] = {
         {QStringLiteral("Przelicz dni wszystkich"), {Obliczenie::PoliczenieDni}},
@@ -88,9 +87,10 @@ void PasekListy::budujMenu() {
     wydruki->setToolTipsVisible(true);
     for (const QStringView opis : kWydruki) {
         QAction* pozycja = wydruki->addAction(opis.toString());
-        pozycja->setEnabled(dostepneWydruki_.contains(opis));
+        pozycja->setEnabled(port.dostepne.contains(opis));
         if (!pozycja->isEnabled())
-            pozycja->setToolTip(QStringLiteral("Ten wydruk nie jest jeszcze dostępny."));
+            pozycja->setToolTip(
+                port.niedostepne.value(opis.toString(), QStringLiteral("Ten wydruk nie jest dostępny.")));
         connect(pozycja, &QAction::triggered, this, [this, opis] { emit wydruk(opis.toString()); });
     }
     cmdDrukuj_->setMenu(wydruki);

@@ -1,6 +1,7 @@
 // The row of buttons under a payroll list, with the menus of the whole list and of the prints.
 #pragma once
 #include "payroll/lista/ListaPlac.h"
+#include "payroll/lista/PortWydrukow.h"
 #include <QList>
 #include <QWidget>
 
@@ -11,7 +12,7 @@ namespace tornel::payroll {
 class PasekListy : public QWidget {
     Q_OBJECT
 public:
-    explicit PasekListy(QStringList dostepneWydruki, QWidget* rodzic = nullptr);
+    explicit PasekListy(const PortWydrukow& wydruki, QWidget* rodzic = nullptr);
 
     /// Opens and closes the buttons: nothing is changed in a blocked month, and a list without rows can only
     /// be added to.
@@ -36,9 +37,7 @@ signals:
     void wydruk(const QString& napis);
 
 private:
-    void budujMenu();
-
-    QStringList dostepneWydruki_;
+    void budujMenu(const PortWydrukow& wydruki);
 
     QPushButton *cmdNowy_, *cmdUsun_, *cmdPrzepisz_, *cmdDni_, *cmdPrzelicz_, *cmdCalaLista_, *cmdKonto_,
         *cmdDrukuj_, *cmdAnuluj_;
