@@ -1,9 +1,11 @@
 #include "common/Pliki.h"
 #include "common/Blad.h"
+#include <fcntl.h>
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStringConverter>
+#include <unistd.h>
 
 namespace tornel::common {
 
@@ -19,6 +21,16 @@ QString przyczynaZapisu(const QFileInfo& plik) {
     if (plik.isDir()) return QStringLiteral("to jest katalog");
     return plik.dir().exists() ? QStringLiteral("brak uprawnień albo miejsca na dysku")
                                : QStringLiteral("nie ma takiego katalogu");
+}
+
+/// Makes the name of a file that was put in place last over a power cut, as far as the disk knows how: what
+/// is stored next may say that the file is there.
+void utrwalKatalog(const QString& sciezka) {
+    const int katalog = open(QFile::encodeName(QFileInfo(sciezka).absolutePath()).constData(),
+                             O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (katalog < 0) return;
+    fsync(katalog);
+    close(katalog);
 }
 
 } // namespace
@@ -45,6 +57,7 @@ void ZapiszPlik(const QString& sciezka, const QByteArray& tresc) {
     if (!plik.open(QIODevice::WriteOnly) || plik.write(tresc) != tresc.size() || !plik.commit())
         throw Blad(QStringLiteral("Nie można zapisać pliku „%1”: %2.")
                        .arg(sciezka, przyczynaZapisu(QFileInfo(sciezka))));
+    utrwalKatalog(sciezka);
 }
 
 } // namespace tornel::common

@@ -50,7 +50,10 @@ std::optional<Wydanie> Drukuj(const Uklad& uklad, Drukarka drukarka, Rozmowa& ro
         RysujStrony(printer, printer.resolution(), uklad, wydane.od, wydane.dokad, [&](int s) {
             return postep->krok(s - wydane.od + 1, QStringLiteral("Drukowanie strony %1").arg(s));
         });
-    if (wynik == WynikStron::Gotowe) return wydane;
+    if (wynik == WynikStron::Gotowe) {
+        if (printer.outputFormat() == QPrinter::PdfFormat) wydane.plik = printer.outputFileName();
+        return wydane;
+    }
     printer.abort();
     if (wynik == WynikStron::Niepowodzenie)
         rozmowa.komunikat(

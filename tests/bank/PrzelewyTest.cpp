@@ -63,11 +63,32 @@ TEST_F(PrzelewyKonsoli, OrdersAndTheBanksFile) {
     const QByteArray plikBanku = czytaj(plik("01070900.pli"));
     EXPECT_EQ(plikBanku.count("\r\n"), tabela("PLB200102").count(u";T\n"_s));
     EXPECT_TRUE(plikBanku.startsWith("110,20010710,"));
+    EXPECT_TRUE(tabela("WYKONANE").contains(u"\n200102;1;multicash;"_s));
     // All are marked now: nothing to write leaves the file as it is.
     const auto drugi = multicash((katalog + u" --paczka 0"_s).toUtf8().constData());
     EXPECT_EQ(drugi.status, 1);
     EXPECT_TRUE(drugi.bledy.contains(u"Brak danych spełniających podane kryteria"_s));
     EXPECT_EQ(czytaj(plik("01070900.pli")), plikBanku);
+}
+
+// What can go to the bank is noted, what is looked at is not.
+TEST_F(PrzelewyKonsoli, PrintsOfTransfers) {
+    const QString przelewy = u"wydruk przelewy 2001-02 --konto 1 --tytul Płaca "_s;
+    const auto drukuj = [&](const QString& reszta) {
+        return uruchom((przelewy + reszta).split(u' ', Qt::SkipEmptyParts));
+    };
+    const auto wydruk = drukuj(u"--uklad dtrPrzelewOrg --tekst"_s);
+    EXPECT_EQ(wydruk.status, 0) << wydruk.bledy.toStdString();
+    EXPECT_TRUE(wydruk.wyjscie.contains(u"1 065,043 120045-27006-11"_s)) << wydruk.wyjscie.toStdString();
+    const auto json = uruchom("--json przelew pracownicy 2001-02 --konto 1 --tytul x");
+    EXPECT_EQ(wydruk.wyjscie.count(u"PŁACA"_s), 2 * json.wyjscie.count(u"\"LK\""_s));
+    EXPECT_EQ(drukuj(u"--csv "_s + plik("przelewy.csv")).status, 0);
+    EXPECT_TRUE(czytaj(plik("przelewy.csv")).startsWith("nazodb;"));
+    EXPECT_EQ(tabela("WYKONANE").count(u'\n'), 1);
+    EXPECT_EQ(uruchom("wydruk przelewy-podatku 2001-02 --konto 1 --tekst").status, 0);
+    EXPECT_EQ(drukuj(u"--tekst --pracownik 9999"_s).status, 1);
+    for (const QString& zle : {u"--uklad dtrInny --tekst"_s, u"--tekst --csv x"_s, QString()})
+        EXPECT_EQ(drukuj(zle).status, 2) << zle.toStdString();
 }
 
 } // namespace
