@@ -10,8 +10,12 @@
 #include "app/frmMainWydruki.h"
 #include "app/frmSplash.h"
 #include "bank/frmKonta.h"
+#include "bank/frmMCS.h"
+#include "bank/frmWybKonta.h"
+#include "druk/Wyjscie.h"
 #include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
+#include "okna/frmPodglad.h"
 #include "okna/frmPytania.h"
 #include "okna/frmZakresMies.h"
 #include "okna/Pomoc.h"
@@ -40,6 +44,8 @@
 #include "personnel/frmWydrukKadr.h"
 #include "personnel/Kalendarz.h"
 #include "personnel/Urlopy.h"
+#include "reports/place/WydrukiListyPlac.h"
+#include "reports/przelewy/WydrukPrzelewow.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
 #include "start/Przyklad.h"
@@ -48,6 +54,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QSettings>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -69,6 +76,20 @@ public:
     explicit Zrzuty(const QString& folder) : folder_(folder) {
         if (!folder_.mkpath(QStringLiteral("1280x800")))
             qFatal("cannot make the folder %s", qPrintable(folder));
+    }
+
+    /// The first page of a print; without a width, as the handbook shows it.
+    void wydruk(const Uklad& uklad, const QString& nazwa, int szerokosc = 0) const {
+        if (szerokosc == 0) szerokosc = uklad.opis().strona.poziomo ? 700 : 600;
+        const double rozdzielczosc = szerokosc / uklad.opis().strona.szer() * 25.4;
+        QImage obraz(szerokosc, static_cast<int>(uklad.opis().strona.wys() / 25.4 * rozdzielczosc),
+                     QImage::Format_RGB32);
+        obraz.fill(Qt::white);
+        QPainter malarz(&obraz);
+        MalujStrone(malarz, rozdzielczosc, uklad, 0);
+        malarz.end();
+        if (!obraz.convertToFormat(QImage::Format_Grayscale8).save(plik(nazwa)))
+            qFatal("cannot write %s", qPrintable(plik(nazwa)));
     }
 
     void dialog(QWidget& okno, const QString& nazwa) const { zapisz(okno, plik(nazwa)); }
@@ -169,6 +190,31 @@ void place(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.dialog(dzien, QStringLiteral("data"));
 }
 
+/// Transfers, the bank's file, and pages of prints.
+void przelewy(const Zrzuty& zrzuty, Otoczenie& o) {
+    ListaPlac lista(o, 2001, 3, QStringLiteral(" "));
+    frmWybKonta konto(o);
+    zrzuty.dialog(konto, QStringLiteral("konto"));
+    frmWybKonta przelewy(o, nullptr,
+                         PytanieOPrzelewy{QStringLiteral("przelewy: 5, razem 7250,00 zł"),
+                                          QStringLiteral("wydrukowano 3 z 5, ostatnio 10-04-2001"), true});
+    zrzuty.dialog(przelewy, QStringLiteral("konto-przelewow"));
+    frmMCS mcs(o, {});
+    zrzuty.dialog(mcs, QStringLiteral("multicash"));
+    const auto wyplaty = Wyplaty(o).zListy(QStringLiteral(" "));
+    const auto zlecenia = Przelewy(o).PrzelewPracownika(wyplaty, 1, QStringLiteral("Wynagrodzenie 03.2001"));
+    const auto uklad = tornel::reports::UlozPrzelewy(zlecenia, UkladPrzelewu::Przelew);
+    frmPodglad podglad(uklad, o.rozmowa);
+    zrzuty.ekran(podglad, QStringLiteral("podglad-przelewow"));
+    zrzuty.wydruk(*uklad, QStringLiteral("wydruk-przelew"));
+    const QDate dzien(2001, 4, 2);
+    zrzuty.wydruk(*tornel::reports::UlozWydrukListy(tornel::reports::WydrukListy::ListaPlac, o, lista, dzien),
+                  QStringLiteral("wydruk-lista-plac-duzy"), 1170);
+    for (const tornel::reports::OpisWydrukuListy& w : tornel::reports::wydrukiListy())
+        zrzuty.wydruk(*tornel::reports::UlozWydrukListy(w.ktory, o, lista, dzien),
+                      QStringLiteral("wydruk-") + w.nazwa.toString());
+}
+
 void nieobecnosci(const Zrzuty& zrzuty, Otoczenie& o) {
     for (const int prcId : {3, 8})
         for (const int mies : {4, 5})
@@ -259,6 +305,7 @@ int main(int argc, char** argv) {
     kadryIUstawienia(zrzuty, o);
     uzytkownicy(zrzuty, o);
     place(zrzuty, o);
+    przelewy(zrzuty, o);
     nieobecnosci(zrzuty, o);
     wydruki(zrzuty, o);
     pomoc(zrzuty, podrecznik, glowne);

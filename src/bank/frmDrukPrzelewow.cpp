@@ -17,7 +17,7 @@ PytanieOPrzelewy pytanieOPrzelewy(const QList<Wyplata>& wyplaty, const JuzWydruk
     for (const Wyplata& w : wyplaty) suma += w.kwota;
     const QString kwota = QStringLiteral("%1 zł").arg(FormatKwoty(suma));
     return {wyplaty.size() == 1 ? kwota
-                                : QStringLiteral("%1 przelewów na kwotę %2").arg(wyplaty.size()).arg(kwota),
+                                : QStringLiteral("przelewy: %1, razem %2").arg(wyplaty.size()).arg(kwota),
             wykonane.napis, wykonane.ktore.contains(true) && wykonane.ktore.contains(false)};
 }
 

@@ -7,6 +7,7 @@
 #include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
 #include "rules/Stale.h"
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
@@ -60,7 +61,7 @@ frmMCS::frmMCS(Otoczenie& otoczenie, ZrodloPrzelewow zrodlo, QWidget* rodzic, Wy
       txtNazwaBanku_(tylkoOdczyt(QStringLiteral("txtNazwaBanku"), QStringLiteral("Nazwa banku"))),
       labZlecenia_(new QLabel), labWykonane_(new QLabel) {
     setWindowTitle(QStringLiteral("Przelew do MultiCash"));
-    setMinimumWidth(64 * Wyglad::kSiatka);
+    setMinimumWidth(76 * Wyglad::kSiatka);
     auto* uklad = new QVBoxLayout(this);
     uklad->setSpacing(2 * Wyglad::kSiatka);
     for (QWidget* czesc : {paczka(), katalog(), szczegoly(), bank()}) uklad->addWidget(czesc);
@@ -74,7 +75,9 @@ frmMCS::frmMCS(Otoczenie& otoczenie, ZrodloPrzelewow zrodlo, QWidget* rodzic, Wy
 
     txtNrP_->setText(QString::number(MultiCash(o_).pierwszaPaczka(zrodlo_)));
     for (PoleDaty* pole : {dtpWyst_, dtpPlatn_}) pole->setText(FormatDaty(QDate::currentDate()));
-    txtKatalog_->setText(QDir::toNativeSeparators(o_.stale.MCSPath));
+    const QString& stalyKatalog = o_.stale.MCSPath;
+    txtKatalog_->setText(QDir::toNativeSeparators(
+        stalyKatalog.isEmpty() ? QCoreApplication::applicationDirPath() : stalyKatalog));
     if (const QList<KontoNadawcy> konta = KontaNadawcy(o_); !konta.isEmpty()) pokazKonto(konta.first());
     pokazPaczke();
     for (QLineEdit* pole : {static_cast<QLineEdit*>(txtNrP_), static_cast<QLineEdit*>(dtpPlatn_)})
@@ -87,7 +90,7 @@ QWidget* frmMCS::paczka() {
     auto* pola = new QFormLayout(grupa);
     pola->addRow(QStringLiteral("Numer &paczki do wysłania:"),
                  nazwane(txtNrP_, QStringLiteral("txtNrP"), QStringLiteral("Numer paczki do wysłania")));
-    pola->addRow(QStringLiteral("Data &wystawienia przelewu:"),
+    pola->addRow(QStringLiteral("Data wys&tawienia przelewu:"),
                  nazwane(dtpWyst_, QStringLiteral("dtpWyst"), QStringLiteral("Data wystawienia przelewu")));
     pola->addRow(QStringLiteral("&Data płatności:"),
                  nazwane(dtpPlatn_, QStringLiteral("dtpPlatn"), QStringLiteral("Data płatności")));
@@ -143,6 +146,7 @@ void frmMCS::pokazKonto(const KontoNadawcy& konto) {
     konto_ = konto.konto;
     txtSkrot_->setText(konto.skrot);
     txtNazwaBanku_->setText(konto.bank);
+    for (QLineEdit* pole : {txtSkrot_, txtNazwaBanku_}) pole->setCursorPosition(0);
     UwagaPola::ustaw(*txtSkrot_, {});
 }
 
@@ -157,12 +161,14 @@ void frmMCS::pokazPaczke() {
     const auto platnosc = CzytajWpisanaDate(dtpPlatn_->text());
     labZlecenia_->clear();
     labWykonane_->clear();
+    labWykonane_->hide();
     if (!numer || !platnosc) return;
     const PodsumowanieMCS p = MultiCash(o_).podsumuj(zrodlo_, *numer, *platnosc);
     labZlecenia_->setText(
         p.zlecen == 0 ? QStringLiteral("brak zleceń w tej paczce")
-                      : QStringLiteral("%1 zleceń na kwotę %2 zł").arg(p.zlecen).arg(FormatKwoty(p.kwota)));
+                      : QStringLiteral("zlecenia: %1, razem %2 zł").arg(p.zlecen).arg(FormatKwoty(p.kwota)));
     labWykonane_->setText(MultiCash(o_).zapisano(zrodlo_, *numer, *platnosc));
+    labWykonane_->setVisible(!labWykonane_->text().isEmpty());
 }
 
 PrzebiegMCS frmMCS::przebieg() const {

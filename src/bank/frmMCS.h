@@ -20,8 +20,9 @@ using WybierzFolder = std::function<QString(QWidget* rodzic, const QString& wste
 class frmMCS : public Okno {
     Q_OBJECT
 public:
-    /// Proposes the first package with something to send, today, the folder of constant 605 and the first
-    /// account of `KONTA`. Without `folder` the system's dialog asks for one.
+    /// Proposes the first package with something to send, today, the folder of constant 605, or the program's
+    /// own where that is empty, and the first account of `KONTA`. Without `folder` the system's dialog asks
+    /// for one.
     frmMCS(Otoczenie& otoczenie, ZrodloPrzelewow zrodlo, QWidget* rodzic = nullptr,
            WybierzFolder folder = {});
 

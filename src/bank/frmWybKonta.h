@@ -16,7 +16,7 @@ namespace tornel::bank {
 
 /// What the dialog asks and tells besides when transfers are to be printed.
 struct PytanieOPrzelewy {
-    QString ile;        ///< "5 przelewów na kwotę 7 250,00"
+    QString ile;        ///< "przelewy: 5, razem 7250,00 zł"
     QString wykonane;   ///< which of them were made before; empty for none
     bool czesc = false; ///< some of them only, so that those can be left out
 };

@@ -16,6 +16,9 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+/// The pictures lie in a static library, whose resources the linker would leave out.
+static void zapewnijObrazyPomocy() { Q_INIT_RESOURCE(pomoc); }
+
 namespace tornel::okna {
 
 namespace {
@@ -70,6 +73,7 @@ QPushButton* przyciskPaska(QDialog& okno, const QString& nazwa, const QString& n
 frmPomoc::frmPomoc(const QString& podrecznik, QWidget* rodzic)
     : Okno(QStringLiteral("frmPomoc"), rodzic), txtSzukaj_(new QLineEdit), labSzukaj_(new QLabel),
       lstSpis_(new QTreeWidget), txtPomoc_(new TekstPomocy) {
+    zapewnijObrazyPomocy();
     setWindowTitle(QStringLiteral("Pomoc"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     buduj();

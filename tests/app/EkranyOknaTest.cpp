@@ -4,6 +4,8 @@
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
 #include "app/ListaUzytkownikow.h"
+#include "bank/frmMCS.h"
+#include "bank/frmWybKonta.h"
 #include "okna/frmInputData.h"
 #include "okna/WidokListy.h"
 #include "payroll/lista/frmPlaceLista.h"
@@ -307,10 +309,15 @@ TEST_F(EkranyTest, KlawiaturaNaKazdymEkranie) {
     frmInputData(frmInputData::Tryb::Miesiac, u"Miesiąc"_s, QDate(2001, 4, 1)).exec();
     frmInputData(frmInputData::Tryb::Data, u"Dzień"_s, QDate(2001, 4, 1)).exec();
     frmData(o, u"1"_s, RodzajeUrlopu()).exec();
+    frmWybKonta(o, nullptr, PytanieOPrzelewy{u"1"_s, u"wydrukowano"_s, true}).exec();
+    {
+        const OtwartyMiesiac miesiac(o.sesja, {2001, 3});
+        frmMCS(o, {}).exec();
+    }
     frmWykazPodstawL4({}, {}).exec();
     frmWykazPodstaw({}, 0, {}).exec();
     frmNrSkladnikaURL({}, 0).exec();
-    EXPECT_GE(otwarte_.size(), 33) << otwarte_.join(u' ').toStdString();
+    EXPECT_GE(otwarte_.size(), 35) << otwarte_.join(u' ').toStdString();
 }
 
 void klik(const QWidget& ekran, const QString& przycisk) {

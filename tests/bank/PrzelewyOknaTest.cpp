@@ -132,7 +132,7 @@ TEST_F(PrzelewyOkna, ABatchIsOneDocumentAndWhatWasMadeIsSaidBeforeItIsMadeAgain)
     rozmowa_.spodziewaj(kTytul, std::optional<QString>()); // given up at the title
     wOknie<frmWybKonta>([this](frmWybKonta& wybor) {
         EXPECT_EQ(widzet<QLabel>(wybor, u"labWykonane"_s).text(), u"wydrukowano "_s + kDzis);
-        EXPECT_EQ(widzet<QLabel>(wybor, u"labIle"_s).text(), u"3 przelewów na kwotę 600,00 zł"_s);
+        EXPECT_EQ(widzet<QLabel>(wybor, u"labIle"_s).text(), u"przelewy: 3, razem 600,00 zł"_s);
         klik(wybor, u"cmdWybierz"_s);
     });
     drukuj(*okno, u"Wydruk wszystkich przelewów"_s);
@@ -195,7 +195,7 @@ TEST_F(PrzelewyOkna, TheBanksFileIsMadeOnceAndMarksItsRows) {
         drukuj(*okno, u"Przelewy do MultiCash"_s);
     };
     rozmowa_.spodziewaj(u"Plik "_s + pli + u" został utworzony."_s, Styl::Informacja);
-    utworz(u"3 zleceń na kwotę 600,00 zł"_s, {});
+    utworz(u"zlecenia: 3, razem 600,00 zł"_s, {});
     const QByteArray bajty = CzytajPlik(pli);
     EXPECT_EQ(bajty.count("\r\n"), 3);
     EXPECT_EQ(tekst(*okno, u"txtWyslaneMCS"_s), u"T"_s);

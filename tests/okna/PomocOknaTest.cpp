@@ -5,6 +5,8 @@
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
 #include "app/ListaUzytkownikow.h"
+#include "bank/frmMCS.h"
+#include "bank/frmWybKonta.h"
 #include "okna/frmInputData.h"
 #include "okna/frmPomoc.h"
 #include "okna/frmZakresMies.h"
@@ -210,6 +212,8 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
             return std::make_unique<frmKartaEw>(o(), QList<Osoba>{{1, u"Adamska"_s, u"Barbara"_s, {}, false}},
                                                 1, 2001, PortWydrukowKadr());
         },
+        [&] { return std::make_unique<frmWybKonta>(o()); },
+        [&] { return std::make_unique<frmMCS>(o(), ZrodloPrzelewow()); },
         [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
         [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },
         [] { return std::make_unique<frmNrSkladnikaURL>(OkresUrlopu(), 0); },
@@ -281,6 +285,20 @@ TEST(PodrecznikOknaTest, OdsylaczeProwadzaDoJednegoMiejsca) {
     for (const QString& odsylacz : odsylacze)
         EXPECT_EQ(kotwice.count(odsylacz.mid(1)), 1) << odsylacz.toStdString();
     for (const QString& kotwica : kotwice) EXPECT_EQ(kotwice.count(kotwica), 1) << kotwica.toStdString();
+}
+
+TEST(PodrecznikOknaTest, ObrazyDajaSieWczytac) {
+    Podrecznik podrecznik;
+    int obrazow = 0;
+    for (QTextBlock blok = podrecznik.tekst().begin(); blok.isValid(); blok = blok.next())
+        for (auto i = blok.begin(); !i.atEnd(); ++i) {
+            const QTextImageFormat obraz = i.fragment().charFormat().toImageFormat();
+            if (!obraz.isValid()) continue;
+            ++obrazow;
+            EXPECT_FALSE(QImage(QUrl(obraz.name()).path().prepend(u':')).isNull())
+                << obraz.name().toStdString();
+        }
+    EXPECT_GT(obrazow, 0);
 }
 
 /// What opens by a key on the screen: shortcuts, actions, mnemonics of buttons.
