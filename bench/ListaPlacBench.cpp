@@ -1,5 +1,6 @@
 // What the payroll costs as it grows: the batch against the raw write of the same rows, the start and the
 // month's screen against the raw read of the rows shown. Prints a Markdown table with the ratios.
+#include "bench/Pomiar.h"
 #include "bench/Surowe.h"
 #include "common/Daty.h"
 #include "okna/Wyglad.h"
@@ -15,64 +16,15 @@
 #include "store/Sesja.h"
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <fstream>
-#include <malloc.h>
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
 
 using namespace tornel::start;
+using namespace tornel::bench;
 
 namespace {
-
-/// Answers Yes and says nothing.
-class RozmowaCicha : public Rozmowa {
-public:
-    void komunikat(const QString&, Styl, const QString&) override {}
-    bool pytanie(const QString&, const QString&) override { return true; }
-    std::optional<QString> wprowadz(const QString&, const QString&, const QString&) override {
-        return std::nullopt;
-    }
-    std::unique_ptr<Postep> postep(const QString&, int) override {
-        struct Cichy : Postep {
-            bool krok(int, const QString&) override { return true; }
-        };
-        return std::make_unique<Cichy>();
-    }
-};
-
-double sekundy(const std::function<void()>& praca) {
-    QElapsedTimer zegar;
-    zegar.start();
-    praca();
-    return static_cast<double>(zegar.nsecsElapsed()) / 1e9;
-}
-
-void zerujSzczytPamieci() {
-    malloc_trim(0);
-    std::ofstream("/proc/self/clear_refs") << "5";
-}
-
-double szczytPamieciMiB() {
-    std::ifstream stan("/proc/self/status");
-    for (std::string linia; std::getline(stan, linia);)
-        if (linia.starts_with("VmHWM:")) return std::stod(linia.substr(6)) / 1024.0;
-    return 0;
-}
-
-/// A copy of the example firm with `ile` employees and `miesiecy` computed months; made once for each pair.
-QString kopiaFirmy(int ile, int miesiecy) {
-    const QDir folder(QDir::temp().filePath(QStringLiteral("tornel-bench")));
-    folder.mkpath(QStringLiteral("."));
-    const QString wzor = folder.filePath(QStringLiteral("firma-%1-%2.mdb").arg(ile).arg(miesiecy));
-    if (!QFile::exists(wzor)) UtworzPrzyklad(wzor, ile, miesiecy, folder.path());
-    QString robocza = folder.filePath(QStringLiteral("robocza.mdb"));
-    QFile::remove(robocza);
-    QFile::copy(wzor, robocza);
-    return robocza;
-}
 
 /// Registers and calendars: nothing, or a general calendar of the year and, for each employee and month, a
 /// vacation of a week and a sick leave of three days.

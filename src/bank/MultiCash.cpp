@@ -61,50 +61,45 @@ bool MultiCash::CzyZastapicPlik(const QString& plik) const {
                               QStringLiteral(" już istnieje. Czy zastąpić podany plik ?"));
 }
 
-QByteArray MultiCash::ZapiszRekordMCS(const RekordMCS& rekord, const PrzebiegMCS& przebieg) const {
+MultiCash::CzesciStale MultiCash::czesciStale(const PrzebiegMCS& przebieg) const {
     const Stale& c = o_.stale;
     std::array<QString, 4> szczegoly;
     for (std::size_t i = 0; i < szczegoly.size(); ++i)
         szczegoly[i] =
             przebieg.szczegoly.mid(static_cast<qsizetype>(i) * kKawalekSzczegolow, kKawalekSzczegolow);
-    const QStringList pola{QStringLiteral("110"),
-                           KeduDataOdwrotna(przebieg.platnosc),
-                           KeduKwota(rekord.kwota, kSzerKwoty),
-                           pole(przebieg.konto.left(kNumerBankuMCS)),
-                           QStringLiteral("0"),
-                           wCudzyslowie(pole(PoMyslniku(przebieg.konto))),
-                           wCudzyslowie(pole(PoMyslniku(rekord.konto))),
-                           cztery({c.MCSNazwa1, c.MCSNazwa2, c.MCSUlica, c.MCSKod}),
-                           cztery(rekord.odbiorca),
-                           QStringLiteral("0"),
-                           pole(rekord.konto.left(kNumerBankuMCS)),
-                           cztery(szczegoly),
-                           QStringLiteral("\"\""),
-                           QStringLiteral("\"\""),
-                           QStringLiteral("\"  \""),
-                           QStringLiteral("\"|||||\"")};
-    return windows1250(pola.join(QLatin1Char(','))) + "\r\n";
+    return {QStringLiteral("110,") + KeduDataOdwrotna(przebieg.platnosc) + QLatin1Char(','),
+            QLatin1Char(',') + pole(przebieg.konto.left(kNumerBankuMCS)) + QStringLiteral(",0,") +
+                wCudzyslowie(pole(PoMyslniku(przebieg.konto))) + QLatin1Char(','),
+            QLatin1Char(',') + cztery({c.MCSNazwa1, c.MCSNazwa2, c.MCSUlica, c.MCSKod}) + QLatin1Char(','),
+            QLatin1Char(',') + cztery(szczegoly) + QStringLiteral(",\"\",\"\",\"  \",\"|||||\"\r\n")};
 }
 
-std::optional<QByteArray> MultiCash::PrzelewMCSPracownika(qint64 prcId, Waluta kwota,
-                                                          const PrzebiegMCS& przebieg) {
+void MultiCash::ZapiszRekordMCS(const RekordMCS& rekord, const CzesciStale& stale, QByteArray& plik) {
+    plik += windows1250(stale.poczatek + KeduKwota(rekord.kwota, kSzerKwoty) + stale.nadawca +
+                        wCudzyslowie(pole(PoMyslniku(rekord.konto))) + stale.nazwaNadawcy +
+                        cztery(rekord.odbiorca) + QStringLiteral(",0,") +
+                        pole(rekord.konto.left(kNumerBankuMCS)) + stale.koniec);
+}
+
+bool MultiCash::PrzelewMCSPracownika(qint64 prcId, Waluta kwota, const CzesciStale& stale, QByteArray& plik) {
     Sesja& s = o_.sesja;
     if (!s.UstawPracownika(prcId)) {
         o_.rozmowa.komunikat(
             QStringLiteral("Nie ma pracownika o numerze %1 w kadrach. Przelew nie został zapisany.")
                 .arg(prcId),
             Styl::Wykrzyknik);
-        return std::nullopt;
+        return false;
     }
     const Recordset& dp = s.rsPRACDP;
     const QChar odstep = QLatin1Char(' ');
-    return ZapiszRekordMCS({kwota,
-                            s.rsPRACPR.tekst(PRACPR("konto")),
-                            {dp.tekst(PRACDP("Imie_1")) + odstep + dp.tekst(PRACDP("Naz")),
-                             dp.tekst(PRACDP("ulica")) + odstep + dp.tekst(PRACDP("nr_domu")) +
-                                 QLatin1Char('/') + dp.tekst(PRACDP("nr_miesz")),
-                             dp.tekst(PRACDP("Kod")) + odstep + dp.tekst(PRACDP("miasto")), QString()}},
-                           przebieg);
+    ZapiszRekordMCS({kwota,
+                     s.rsPRACPR.tekst(PRACPR("konto")),
+                     {dp.tekst(PRACDP("Imie_1")) + odstep + dp.tekst(PRACDP("Naz")),
+                      dp.tekst(PRACDP("ulica")) + odstep + dp.tekst(PRACDP("nr_domu")) + QLatin1Char('/') +
+                          dp.tekst(PRACDP("nr_miesz")),
+                      dp.tekst(PRACDP("Kod")) + odstep + dp.tekst(PRACDP("miasto")), QString()}},
+                    stale, plik);
+    return true;
 }
 
 bool MultiCash::pomimoPrzerwanego(const SzukaneWykonania& wToku, const QString& plik) const {
@@ -133,9 +128,9 @@ std::optional<int> MultiCash::wykonaj(const PrzebiegMCS& przebieg, const ZrodloP
     QByteArray bajty;
     QList<PozycjaMCS> zapisane;
     Waluta suma;
+    const CzesciStale stale = czesciStale(przebieg);
     for (const PozycjaMCS& p : pozycje)
-        if (const auto linia = PrzelewMCSPracownika(p.prcId, p.kwota, przebieg)) {
-            bajty += *linia;
+        if (PrzelewMCSPracownika(p.prcId, p.kwota, stale, bajty)) {
             suma += p.kwota;
             zapisane.append(p);
         }

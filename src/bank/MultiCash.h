@@ -72,9 +72,16 @@ private:
     [[nodiscard]] QList<PozycjaMCS> pozycjeListy(const QString& symbol, std::optional<int> paczka) const;
     [[nodiscard]] static QList<PozycjaMCS> pozycjeUmow(Recordset& umowy);
     [[nodiscard]] Recordset umowyPaczki(std::optional<int> paczka, std::optional<QDate> platnosc) const;
-    [[nodiscard]] QByteArray ZapiszRekordMCS(const RekordMCS& rekord, const PrzebiegMCS& przebieg) const;
-    [[nodiscard]] std::optional<QByteArray> PrzelewMCSPracownika(qint64 prcId, Waluta kwota,
-                                                                 const PrzebiegMCS& przebieg);
+    /// The parts of a line that all orders of a run share.
+    struct CzesciStale {
+        QString poczatek, nadawca, nazwaNadawcy, koniec;
+    };
+    [[nodiscard]] CzesciStale czesciStale(const PrzebiegMCS& przebieg) const;
+    /// Adds one line to the file.
+    static void ZapiszRekordMCS(const RekordMCS& rekord, const CzesciStale& stale, QByteArray& plik);
+    /// Adds the order of an employee; true if he was found.
+    [[nodiscard]] bool PrzelewMCSPracownika(qint64 prcId, Waluta kwota, const CzesciStale& stale,
+                                            QByteArray& plik);
     [[nodiscard]] QList<PozycjaMCS> pozycje(const ZrodloPrzelewow& zrodlo, std::optional<int> paczka,
                                             std::optional<QDate> platnosc) const;
     /// The month under which a run is noted.

@@ -88,11 +88,11 @@ frmMCS::frmMCS(Otoczenie& otoczenie, ZrodloPrzelewow zrodlo, QWidget* rodzic, Wy
 QWidget* frmMCS::paczka() {
     auto* grupa = new QGroupBox(QStringLiteral("PACZKA"));
     auto* pola = new QFormLayout(grupa);
-    pola->addRow(QStringLiteral("Numer &paczki do wysłania:"),
+    pola->addRow(QStringLiteral("Numer paczki do wysłania:"),
                  nazwane(txtNrP_, QStringLiteral("txtNrP"), QStringLiteral("Numer paczki do wysłania")));
-    pola->addRow(QStringLiteral("Data wys&tawienia przelewu:"),
+    pola->addRow(QStringLiteral("Data wystawienia przelewu:"),
                  nazwane(dtpWyst_, QStringLiteral("dtpWyst"), QStringLiteral("Data wystawienia przelewu")));
-    pola->addRow(QStringLiteral("&Data płatności:"),
+    pola->addRow(QStringLiteral("Data płatności:"),
                  nazwane(dtpPlatn_, QStringLiteral("dtpPlatn"), QStringLiteral("Data płatności")));
     for (QLineEdit* pole : {static_cast<QLineEdit*>(txtNrP_), static_cast<QLineEdit*>(dtpWyst_),
                             static_cast<QLineEdit*>(dtpPlatn_)})

@@ -41,6 +41,10 @@ QByteArray windows1250(const QString& tekst) {
     QByteArray wynik;
     wynik.reserve(tekst.size());
     for (qsizetype i = 0; i < tekst.size(); ++i) {
+        if (tekst[i].unicode() < 0x80) { // most of any text
+            wynik += static_cast<char>(tekst[i].unicode());
+            continue;
+        }
         if (tekst[i].isHighSurrogate() && i + 1 < tekst.size()) ++i; // one character, one mark
         wynik += bajty.value(tekst[i], '?');
     }
