@@ -99,6 +99,7 @@ struct Ulozone {
     ZrodloPrzelewow zrodlo;
     QList<Przelew> przelewy;
     qsizetype ileWyplat = 0;
+    QString wykonane; ///< which of them were made before
 };
 std::optional<Ulozone> uloz(Wywolanie& w, KomuPrzelew komu) {
     const ZrodloPrzelewow z = zrodlo(w, komu);
@@ -113,7 +114,7 @@ std::optional<Ulozone> uloz(Wywolanie& w, KomuPrzelew komu) {
     return Ulozone{z,
                    komu == KomuPrzelew::Osoby ? przelewy.PrzelewPracownika(co.wyplaty, konto, szczegoly)
                                               : przelewy.PrzelewPodatku(co.wyplaty, konto, szczegoly),
-                   co.wyplaty.size()};
+                   co.wyplaty.size(), SprawdzWydrukowane(w.otoczenie(), komu, z, co.wyplaty).napis};
 }
 
 template <KomuPrzelew komu>
@@ -142,6 +143,8 @@ int wydruk(Wywolanie& w) {
     const UkladPrzelewu uklad = ukladOpcji(w);
     const auto ulozone = uloz(w, komu);
     if (!ulozone || ulozone->przelewy.isEmpty()) return status::Odmowa;
+    if (!ulozone->wykonane.isEmpty())
+        w.rozmowa.komunikat(QStringLiteral("Uwaga: ") + ulozone->wykonane, Styl::Informacja);
     Przelewy(w.otoczenie()).ZapiszPrzelewy(ulozone->przelewy);
     WypiszWydruk(w, *reports::UlozPrzelewy(ulozone->przelewy, uklad));
     // A document and pictures can go to the bank; the others are only looked at.

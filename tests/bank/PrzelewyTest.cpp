@@ -1,6 +1,7 @@
 // Payments: transfer orders cut to their form, taxes by office, the bank's file and its marks.
-#include "bank/Przelewy.h"
 #include "bank/MultiCash.h"
+#include "bank/ZleceniaPrzelewow.h"
+#include "wsparcie/BazaTestowa.h"
 #include "wsparcie/KonsolaTestowa.h"
 #include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
@@ -69,6 +70,59 @@ TEST_F(PrzelewyKonsoli, OrdersAndTheBanksFile) {
     EXPECT_EQ(drugi.status, 1);
     EXPECT_TRUE(drugi.bledy.contains(u"Brak danych spełniających podane kryteria"_s));
     EXPECT_EQ(czytaj(plik("01070900.pli")), plikBanku);
+}
+
+/// Two commission contracts of July, the second one sent in a file for the bank.
+class PrzelewyUmow : public BazaTestowa {
+protected:
+    PrzelewyUmow() {
+        Recordset uzl(schemat::UZL);
+        uzl.Open(sesja().cnPlace);
+        for (const int nr : {1, 2}) {
+            uzl.AddNewZero(nr);
+            uzl.ustaw(schemat::UZL("prc_id"), nr);
+            uzl.ustaw(schemat::UZL("us_id"), 5);
+            uzl.ustaw(schemat::UZL("data_zaw"), QDate(2001, 7, 10 * nr));
+            uzl.ustaw(schemat::UZL("data_wyp"), QDate(2001, 7, 31));
+            uzl.ustaw(schemat::UZL("przelewem"), zl(100 * nr));
+            uzl.ustaw(schemat::UZL("Podatek"), zl(10));
+            uzl.ustawFlage(schemat::UZL("wys_mcs"), nr == 2);
+        }
+        uzl.UpdateBatch(u"Dane testu");
+    }
+    QString napis(KomuPrzelew komu, const ZrodloPrzelewow& zrodlo) {
+        const DoPrzelania co = ZnajdzDoPrzelania(otoczenie(), komu, zrodlo);
+        return SprawdzWydrukowane(otoczenie(), komu, zrodlo, co.wyplaty).napis;
+    }
+    void zapamietaj(KomuPrzelew komu, const ZrodloPrzelewow& zrodlo) {
+        Przelew p;
+        for (const Wyplata& w : ZnajdzDoPrzelania(otoczenie(), komu, zrodlo).wyplaty) {
+            p.za = w;
+            p.Kwota = w.kwota;
+            ZapamietajWydrukowane(otoczenie(), komu, zrodlo, {p}, QDateTime({2001, 8, 1}, {12, 0}));
+        }
+    }
+};
+
+TEST_F(PrzelewyUmow, AContractKnowsItsTransferInWhateverPeriodItIsAskedFor) {
+    const RodzajWyplat* uzl = rodzajWyplat(u"uzl"_s);
+    const ZrodloPrzelewow pierwsza{.umowy = uzl, .umowa = 1};
+    const ZrodloPrzelewow lipiec{.umowy = uzl, .od = QDate(2001, 7, 1), .dokad = QDate(2001, 7, 31)};
+    const ZrodloPrzelewow sierpien{.umowy = uzl, .od = QDate(2001, 8, 1), .dokad = QDate(2001, 8, 31)};
+    EXPECT_EQ(napis(KomuPrzelew::Osoby, pierwsza), QString());
+    EXPECT_EQ(napis(KomuPrzelew::Osoby, lipiec), u"wysłano do banku w pliku 1 z 2"_s);
+    zapamietaj(KomuPrzelew::Osoby, pierwsza);
+    EXPECT_EQ(napis(KomuPrzelew::Osoby, pierwsza), u"wydrukowano 01-08-2001"_s);
+    EXPECT_EQ(napis(KomuPrzelew::Osoby, lipiec),
+              u"wydrukowano 1 z 2, ostatnio 01-08-2001; wysłano do banku w pliku 1 z 2"_s);
+
+    zapamietaj(KomuPrzelew::Urzedy, lipiec);
+    EXPECT_EQ(napis(KomuPrzelew::Urzedy, lipiec), u"wydrukowano 01-08-2001"_s);
+    EXPECT_EQ(napis(KomuPrzelew::Urzedy, sierpien), QString());
+    EXPECT_EQ(ZnajdzDoPrzelania(otoczenie(), KomuPrzelew::Urzedy, lipiec).wyplaty.first().kwota, zl(20));
+    EXPECT_EQ(ZnajdzDoPrzelania(otoczenie(), KomuPrzelew::Osoby, pierwsza).tytul,
+              u"Przelew z umowy - zlecenia"_s);
+    EXPECT_FALSE(ZnajdzDoPrzelania(otoczenie(), KomuPrzelew::Osoby, sierpien).odmowa.isEmpty());
 }
 
 // What can go to the bank is noted, what is looked at is not.
