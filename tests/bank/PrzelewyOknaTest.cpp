@@ -1,6 +1,6 @@
 // Transfers and the bank's file from the payroll list: one document for all, marks and notes only for what
 // left the program, nothing twice without the clerk knowing.
-#include "app/frmMainWydruki.h"
+#include "app/frmMainWydrukiListy.h"
 #include "bank/frmMCS.h"
 #include "bank/frmWybKonta.h"
 #include "common/Blad.h"

@@ -1,4 +1,4 @@
-#include "app/frmMainWydruki.h"
+#include "app/frmMainWydrukiListy.h"
 #include "bank/frmDrukPrzelewow.h"
 #include "okna/Drukowanie.h"
 #include "payroll/lista/ListaPlac.h"
