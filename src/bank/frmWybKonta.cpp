@@ -1,5 +1,6 @@
 #include "bank/frmWybKonta.h"
 #include "common/Rozmowa.h"
+#include "okna/PamiecOkien.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
@@ -47,7 +48,8 @@ void frmWybKonta::dodajPrzelewy(QVBoxLayout& uklad, const PytanieOPrzelewy& prze
     cboUklad_ = new QComboBox;
     cboUklad_->setObjectName(QStringLiteral("cboUklad"));
     for (const OpisUkladuPrzelewu& u : UkladyPrzelewu)
-        cboUklad_->addItem(u.opis.toString(), static_cast<int>(u.uklad));
+        cboUklad_->addItem(u.opis.toString(), u.nazwa.toString());
+    pamiecOkien::pamietajWybor(*cboUklad_);
     auto* labIle = new QLabel(przelewy.ile);
     labIle->setObjectName(QStringLiteral("labIle"));
     auto* pola = new QFormLayout;
@@ -82,7 +84,9 @@ std::optional<KontoNadawcy> frmWybKonta::konto() const {
 }
 
 UkladPrzelewu frmWybKonta::uklad() const {
-    return cboUklad_ ? static_cast<UkladPrzelewu>(cboUklad_->currentData().toInt()) : UkladPrzelewu::Przelew;
+    const QString nazwa = cboUklad_ ? cboUklad_->currentData().toString() : QString();
+    const auto wybrany = std::ranges::find(UkladyPrzelewu, nazwa, &OpisUkladuPrzelewu::nazwa);
+    return wybrany == UkladyPrzelewu.end() ? UkladPrzelewu::Przelew : wybrany->uklad;
 }
 
 bool frmWybKonta::pominWykonane() const { return chkPomin_ && chkPomin_->isChecked(); }

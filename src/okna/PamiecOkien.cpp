@@ -1,6 +1,7 @@
 #include "okna/PamiecOkien.h"
 #include "okna/WidokListy.h"
 #include <algorithm>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QSettings>
 #include <QSplitter>
@@ -53,6 +54,7 @@ QList<W*> nazwane(O& okno) {
 } // namespace
 
 void pamietajZakladke(QWidget& zakladki) { zakladki.setProperty(kPamietana, true); }
+void pamietajWybor(QWidget& wybor) { wybor.setProperty(kPamietana, true); }
 
 void zapamietaj(const QWidget& okno) {
     if (okno.objectName().isEmpty()) return;
@@ -65,6 +67,8 @@ void zapamietaj(const QWidget& okno) {
     for (const auto* zakladki : nazwane<QTabWidget>(okno))
         if (zakladki->property(kPamietana).toBool())
             pamiec.setValue(zakladki->objectName(), zakladki->currentIndex());
+    for (const auto* wybor : nazwane<QComboBox>(okno))
+        if (wybor->property(kPamietana).toBool()) pamiec.setValue(wybor->objectName(), wybor->currentData());
 }
 
 void przywroc(QWidget& okno) {
@@ -79,6 +83,10 @@ void przywroc(QWidget& okno) {
         const int nr = pamiec.value(zakladki->objectName(), -1).toInt();
         if (zakladki->property(kPamietana).toBool() && nr >= 0 && nr < zakladki->count())
             zakladki->setCurrentIndex(nr);
+    }
+    for (auto* wybor : nazwane<QComboBox>(okno)) {
+        const int nr = wybor->findData(pamiec.value(wybor->objectName()));
+        if (wybor->property(kPamietana).toBool() && nr >= 0) wybor->setCurrentIndex(nr);
     }
 }
 

@@ -9,10 +9,12 @@ namespace tornel::okna::pamiecOkien {
 
 /// Marks a QTabWidget inside a window as one whose last tab is remembered.
 void pamietajZakladke(QWidget& zakladki);
+/// Marks a QComboBox inside a window as one whose last choice, by its data, is remembered.
+void pamietajWybor(QWidget& wybor);
 
-/// Notes the window's size and place, its splitters, the widths and the order of its lists, and its marked
-/// tabs, under its objectName in the user's settings file (`Tornel.ini`). A window without a name is not
-/// noted.
+/// Notes the window's size and place, its splitters, the widths and the order of its lists, its marked tabs
+/// and choices, under its objectName in the user's settings file (`Tornel.ini`). A window without a name is
+/// not noted.
 void zapamietaj(const QWidget& okno);
 /// Gives the window back what was noted; what is missing or does not fit is left as it was built.
 void przywroc(QWidget& okno);

@@ -249,6 +249,19 @@ TEST_F(PrzelewyOkna, TheRunsFieldsWaitForWhatTheyNeed) {
     EXPECT_EQ(okno.przebieg().wystawienie, QDate::currentDate());
 }
 
+TEST_F(PrzelewyOkna, TheFormChosenLastIsProposedNextTime) {
+    przygotuj();
+    const PytanieOPrzelewy pytanie{u"1"_s, {}, false};
+    for (const auto& [przedtem, wybrany] :
+         {std::pair(UkladPrzelewu::Przelew, 2), {UkladPrzelewu::Oryginal, 0}}) {
+        frmWybKonta okno(otoczenie(), nullptr, pytanie);
+        pokaz(okno);
+        EXPECT_EQ(okno.uklad(), przedtem);
+        widzet<QComboBox>(okno, u"cboUklad"_s).setCurrentIndex(wybrany);
+        klik(okno, u"cmdWybierz"_s);
+    }
+}
+
 /// A device that has room for so many pages.
 class UrwanaDrukarka : public QPdfWriter {
 public:
