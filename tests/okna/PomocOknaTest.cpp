@@ -9,15 +9,20 @@
 #include "bank/frmWybKonta.h"
 #include "okna/frmInputData.h"
 #include "okna/frmPomoc.h"
+#include "okna/frmZakresMies.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "payroll/lista/frmPlaceLista.h"
+#include "payroll/miesiace/frmSymboleList.h"
 #include "payroll/nieobecnosci/frmWykazy.h"
 #include "personnel/frmData.h"
+#include "personnel/frmDzial.h"
 #include "personnel/frmFind.h"
+#include "personnel/frmKartaEw.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
 #include "personnel/frmWybPr.h"
+#include "personnel/frmWydrukKadr.h"
 #include "personnel/Urlopy.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
@@ -183,8 +188,6 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
     const std::function<Dialog()> dialogi[] = {
         [] { return std::make_unique<frmLogowanie>(); },
         [] { return std::make_unique<frmAbout>(); },
-        [&] { return std::make_unique<frmWybKonta>(o()); },
-        [&] { return std::make_unique<frmMCS>(o(), ZrodloPrzelewow()); },
         [&] { return std::make_unique<frmLogNowy>(uzytkownicy); },
         [&] { return std::make_unique<frmNowyPrc>(o()); },
         [] { return std::make_unique<frmFind>([](const QString&) { return true; }); },
@@ -192,6 +195,25 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
         [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Miesiac, u"Nowa"_s, QDate()); },
         [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Data, u"Dzień"_s, QDate()); },
         [&] { return std::make_unique<frmData>(o(), u"1"_s, RodzajeUrlopu()); },
+        [&] {
+            return std::make_unique<frmZakresMies>(rozmowa_, u"Zakres"_s, RokMies{2001, 1}, RokMies{2001, 3});
+        },
+        [] {
+            return std::make_unique<frmSymboleList>(QList<SymbolListyPlac>{{u"A"_s, 1}});
+        },
+        [] {
+            return std::make_unique<frmDzial>(QList<DzialFirmy>{{u"Biuro"_s, 1}});
+        },
+        [&] {
+            return std::make_unique<frmWydrukKadr>(rozmowa_, PozycjaWydrukow{u"Karta"_s, OkresWydruku::Rok},
+                                                   ZlecenieWydruku{{}, {2001, 1}, {2001, 12}}, u"1"_s, 1);
+        },
+        [&] {
+            return std::make_unique<frmKartaEw>(o(), QList<Osoba>{{1, u"Adamska"_s, u"Barbara"_s, {}, false}},
+                                                1, 2001, PortWydrukowKadr());
+        },
+        [&] { return std::make_unique<frmWybKonta>(o()); },
+        [&] { return std::make_unique<frmMCS>(o(), ZrodloPrzelewow()); },
         [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
         [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },
         [] { return std::make_unique<frmNrSkladnikaURL>(OkresUrlopu(), 0); },
