@@ -256,7 +256,7 @@ void wydruki(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.dialog(dzialy, QStringLiteral("dzialy"));
     const PortWydrukowKadr port = WydrukiKartoteki(o);
     for (const PozycjaWydrukow& w : port.dostepne) {
-        if (w.okres == OkresWydruku::Zaden) continue;
+        if (w.okres == CzasWydruku::Zaden) continue;
         frmWydrukKadr okno(o.rozmowa, w, {{}, {2001, 1}, {2001, 3}}, QStringLiteral("002  Bielak Jan"), 12);
         zrzuty.dialog(okno, QStringLiteral("wydruk-kadr-%1").arg(static_cast<int>(w.okres)));
     }

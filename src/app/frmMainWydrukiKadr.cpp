@@ -9,14 +9,14 @@
 #include "payroll/miesiace/Miesiace.h"
 #include "personnel/frmDzial.h"
 #include "reports/kadry/WydrukiKadr.h"
-#include "reports/place/ZbiorowkaOkresu.h"
+#include "reports/place/ZbiorowkaMiesiecy.h"
 #include "rules/Stale.h"
 
 namespace tornel::app {
 
 namespace {
 
-using reports::OkresMiesiecy;
+using reports::ZakresMiesiecy;
 
 /// The last month on the list of months; none on an empty list.
 std::optional<RokMies> ostatniMiesiacPlac(Otoczenie& otoczenie) {
@@ -35,28 +35,28 @@ void ulozIPokaz(Otoczenie& otoczenie, const std::function<std::shared_ptr<const 
                 rodzic);
 }
 
-std::optional<OkresMiesiecy> jedenMiesiac(Otoczenie&, RokMies wstepny, QWidget* rodzic) {
+std::optional<ZakresMiesiecy> jedenMiesiac(Otoczenie&, RokMies wstepny, QWidget* rodzic) {
     frmInputData okno(frmInputData::Tryb::Miesiac, QStringLiteral("Zbiorówka za miesiąc"),
                       wstepny.pierwszyDzien(), rodzic);
     if (okno.exec() != QDialog::Accepted) return std::nullopt;
     const RokMies miesiac{okno.rok(), okno.mies()};
-    return OkresMiesiecy{miesiac, miesiac};
+    return ZakresMiesiecy{miesiac, miesiac};
 }
 
-std::optional<OkresMiesiecy> zakresMiesiecy(Otoczenie& otoczenie, RokMies wstepny, QWidget* rodzic) {
+std::optional<ZakresMiesiecy> zakresMiesiecy(Otoczenie& otoczenie, RokMies wstepny, QWidget* rodzic) {
     frmZakresMies okno(otoczenie.rozmowa, QStringLiteral("Zbiorówka za rok"), {wstepny.rok, 1}, wstepny,
                        rodzic);
     if (okno.exec() != QDialog::Accepted) return std::nullopt;
-    return OkresMiesiecy{okno.od(), okno.dokad()};
+    return ZakresMiesiecy{okno.od(), okno.dokad()};
 }
 
-using PytanieOOkres = std::optional<OkresMiesiecy> (*)(Otoczenie&, RokMies, QWidget*);
+using PytanieOOkres = std::optional<ZakresMiesiecy> (*)(Otoczenie&, RokMies, QWidget*);
 
 void zbiorowka(Otoczenie& o, PytanieOOkres zapytaj, QWidget* rodzic) {
     const auto wstepny = ostatniMiesiacPlac(o);
     const auto okres = zapytaj(o, wstepny.value_or(RokMies::dnia(QDate::currentDate())), rodzic);
     if (!okres) return;
-    const QList<RokMies> miesiace = reports::MiesiaceOkresu(o.sesja, *okres);
+    const QList<RokMies> miesiace = reports::MiesiaceZakresu(o.sesja, *okres);
     if (miesiace.isEmpty())
         return o.rozmowa.komunikat(QStringLiteral("Nie ma list płac za: %1.").arg(okres->napis()),
                                    Styl::Wykrzyknik);
@@ -70,7 +70,7 @@ void zbiorowka(Otoczenie& o, PytanieOOkres zapytaj, QWidget* rodzic) {
     if (dzialy.exec() != QDialog::Accepted) return;
     warunki.dzialy = dzialy.dzialy();
     ulozIPokaz(
-        o, [&] { return reports::UlozZbiorowkeOkresu(o, warunki, QDate::currentDate()); }, rodzic);
+        o, [&] { return reports::UlozZbiorowkeMiesiecy(o, warunki, QDate::currentDate()); }, rodzic);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 #include "cli/Wydruk.h"
 #include "personnel/Pracownicy.h"
 #include "reports/kadry/WydrukiKadr.h"
-#include "reports/place/ZbiorowkaOkresu.h"
+#include "reports/place/ZbiorowkaMiesiecy.h"
 #include <QDate>
 
 namespace tornel::cli {
@@ -11,15 +11,15 @@ namespace {
 
 const QString kDzial = QStringLiteral("dzial");
 
-reports::OkresMiesiecy okresZOpcji(const Argumenty& a) {
+reports::ZakresMiesiecy okresZOpcji(const Argumenty& a) {
     const QString od = QStringLiteral("od"), dokad = QStringLiteral("do");
     if (!a.ma(od) || !a.ma(dokad)) throw ZleUzycie(QStringLiteral("Podaj --od RRRR-MM i --do RRRR-MM."));
-    const reports::OkresMiesiecy okres{miesiacZTekstu(a.wartosc(od)), miesiacZTekstu(a.wartosc(dokad))};
+    const reports::ZakresMiesiecy okres{miesiacZTekstu(a.wartosc(od)), miesiacZTekstu(a.wartosc(dokad))};
     if (okres.od > okres.dokad) throw ZleUzycie(QStringLiteral("Zakres dat jest nieprawidłowy."));
     return okres;
 }
 
-int zbiorowka(Wywolanie& w, const reports::OkresMiesiecy& okres) {
+int zbiorowka(Wywolanie& w, const reports::ZakresMiesiecy& okres) {
     const Argumenty& a = w.argumenty;
     WymagajDrogi(a);
     reports::WarunkiZbiorowki warunki{okres, a.wartosc(QStringLiteral("listy"))};
@@ -30,7 +30,7 @@ int zbiorowka(Wywolanie& w, const reports::OkresMiesiecy& okres) {
             if (std::none_of(znane.begin(), znane.end(), [&](const auto& d) { return d.nazwa == podany; }))
                 throw Blad(QStringLiteral("W kadrach nie ma działu „%1”.").arg(podany));
     }
-    WypiszWydruk(w, *reports::UlozZbiorowkeOkresu(w.otoczenie(), warunki, QDate::currentDate()));
+    WypiszWydruk(w, *reports::UlozZbiorowkeMiesiecy(w.otoczenie(), warunki, QDate::currentDate()));
     return status::Wykonane;
 }
 
@@ -41,7 +41,7 @@ int zbiorowkaMiesiac(Wywolanie& w) {
 
 int zbiorowkaRok(Wywolanie& w) { return zbiorowka(w, okresZOpcji(w.argumenty)); }
 
-int wydrukKadr(Wywolanie& w, reports::WydrukKadr ktory, const reports::OkresMiesiecy& okres) {
+int wydrukKadr(Wywolanie& w, reports::WydrukKadr ktory, const reports::ZakresMiesiecy& okres) {
     WymagajDrogi(w.argumenty);
     ZlecenieWydruku zlecenie{podaniPracownicy(w), okres.od, okres.dokad};
     Otoczenie& o = w.otoczenie();

@@ -11,7 +11,7 @@ class QWidget;
 namespace tornel::personnel {
 
 /// What a print has to be told of time.
-enum class OkresWydruku { Zaden, Miesiac, Rok, Miesiace };
+enum class CzasWydruku { Zaden, Miesiac, Rok, Miesiace };
 
 /// Whom and what time a print is about; a year is its first and last month.
 struct ZlecenieWydruku {
@@ -21,7 +21,7 @@ struct ZlecenieWydruku {
 
 struct PozycjaWydrukow {
     QString napis; ///< in the menu "Drukuj"
-    OkresWydruku okres = OkresWydruku::Zaden;
+    CzasWydruku okres = CzasWydruku::Zaden;
 };
 
 struct PortWydrukowKadr {

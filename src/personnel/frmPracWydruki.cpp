@@ -30,7 +30,7 @@ QString opisOsoby(const ListaDoWydruku& lista) {
 
 void WydrukujZKartoteki(Otoczenie& otoczenie, const PortWydrukowKadr& wydruki, const PozycjaWydrukow& wydruk,
                         const ListaDoWydruku& lista, QWidget* rodzic) {
-    if (wydruk.okres == OkresWydruku::Zaden)
+    if (wydruk.okres == CzasWydruku::Zaden)
         return wydruki.drukuj(wydruk.napis, {numeryOsob(lista.osoby)}, rodzic);
     const RokMies ostatni =
         wydruki.ostatniMiesiac ? wydruki.ostatniMiesiac() : RokMies::dnia(QDate::currentDate());

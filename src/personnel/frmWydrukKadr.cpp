@@ -39,10 +39,10 @@ frmWydrukKadr::frmWydrukKadr(Rozmowa& rozmowa, const PozycjaWydrukow& wydruk, co
 }
 
 QWidget* frmWydrukKadr::polaOkresu(const ZlecenieWydruku& wstepne) {
-    if (okres_ == OkresWydruku::Miesiace) return zakres_ = new PolaZakresu(wstepne.od, wstepne.dokad);
+    if (okres_ == CzasWydruku::Miesiace) return zakres_ = new PolaZakresu(wstepne.od, wstepne.dokad);
     auto* ramka = new QGroupBox(QStringLiteral("Okres"));
     auto* pionowo = new QVBoxLayout(ramka);
-    if (okres_ == OkresWydruku::Miesiac) {
+    if (okres_ == CzasWydruku::Miesiac) {
         pionowo->addWidget(miesiac_ = new PoleMiesiaca(wstepne.dokad.pierwszyDzien()));
         return ramka;
     }

@@ -33,7 +33,7 @@ private:
     [[nodiscard]] QWidget* polaOkresu(const ZlecenieWydruku& wstepne);
 
     Rozmowa& rozmowa_;
-    OkresWydruku okres_;
+    CzasWydruku okres_;
     QSpinBox* spnRok_ = nullptr;
     PoleMiesiaca* miesiac_ = nullptr;
     PolaZakresu* zakres_ = nullptr;

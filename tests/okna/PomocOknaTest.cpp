@@ -205,7 +205,7 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
             return std::make_unique<frmDzial>(QList<DzialFirmy>{{u"Biuro"_s, 1}});
         },
         [&] {
-            return std::make_unique<frmWydrukKadr>(rozmowa_, PozycjaWydrukow{u"Karta"_s, OkresWydruku::Rok},
+            return std::make_unique<frmWydrukKadr>(rozmowa_, PozycjaWydrukow{u"Karta"_s, CzasWydruku::Rok},
                                                    ZlecenieWydruku{{}, {2001, 1}, {2001, 12}}, u"1"_s, 1);
         },
         [&] {

@@ -24,10 +24,10 @@ protected:
     /// A port that keeps what was printed in place of paper.
     PortWydrukowKadr port() {
         PortWydrukowKadr wynik;
-        wynik.dostepne = {{u"Lista"_s, OkresWydruku::Zaden},
-                          {u"Karta"_s, OkresWydruku::Rok},
-                          {u"Obecność"_s, OkresWydruku::Miesiac},
-                          {u"Zaświadczenie"_s, OkresWydruku::Miesiace}};
+        wynik.dostepne = {{u"Lista"_s, CzasWydruku::Zaden},
+                          {u"Karta"_s, CzasWydruku::Rok},
+                          {u"Obecność"_s, CzasWydruku::Miesiac},
+                          {u"Zaświadczenie"_s, CzasWydruku::Miesiace}};
         wynik.kartaEwidencji = u"Karta"_s;
         wynik.ostatniMiesiac = [] { return RokMies{2001, 3}; };
         wynik.drukuj = [this](const QString& napis, const ZlecenieWydruku& z, QWidget*) {

@@ -7,7 +7,7 @@
 #include "payroll/miesiace/Miesiace.h"
 #include "reports/kadry/WydrukiKadr.h"
 #include "reports/place/WydrukiListyPlac.h"
-#include "reports/place/ZbiorowkaOkresu.h"
+#include "reports/place/ZbiorowkaMiesiecy.h"
 #include "start/Przyklad.h"
 #include "start/Rozruch.h"
 #include "wsparcie/Przestrzen.h"
@@ -58,12 +58,12 @@ TEST_F(Wzorce, EveryPrintOfTheExampleFirm) {
                              *UlozWydrukListy(w.ktory, o(), lista, kDzienWydruku));
     }
     const WarunkiZbiorowki rok{{{2000, 10}, {2001, 3}}, {}};
-    const auto zbiorowka = UlozZbiorowkeOkresu(o(), rok, kDzienWydruku);
+    const auto zbiorowka = UlozZbiorowkeMiesiecy(o(), rok, kDzienWydruku);
     EXPECT_EQ(zbiorowka->stron(), 4);
     porownajZWzorcem(__FILE__, u"zbiorowka-rok"_s, *zbiorowka);
     porownajZWzorcem(__FILE__, u"zbiorowka-rok-skladki"_s, *zbiorowka, 2);
     const WarunkiZbiorowki czesc{{{2001, 3}, {2001, 3}}, u"A"_s, QStringList{u"Zarząd"_s, u"Sprzedaż"_s}};
-    porownajZWzorcem(__FILE__, u"zbiorowka-miesiac"_s, *UlozZbiorowkeOkresu(o(), czesc, kDzienWydruku));
+    porownajZWzorcem(__FILE__, u"zbiorowka-miesiac"_s, *UlozZbiorowkeMiesiecy(o(), czesc, kDzienWydruku));
     const struct {
         WydrukKadr ktory;
         QList<qint64> numery;
@@ -100,10 +100,10 @@ TEST_F(Wzorce, TheSummaryAddsUpToTheHeadersOfItsMonths) {
                                                         {Wypadkowa, schemat::PLACE("sum_fw")},
                                                         {FunduszPracy, schemat::PLACE("sum_fp")},
                                                         {Fgsp, schemat::PLACE("sum_fgsp")}};
-    const OkresMiesiecy okres{{2000, 11}, {2001, 2}}, marzec{{2001, 3}, {2001, 3}};
+    const ZakresMiesiecy okres{{2000, 11}, {2001, 2}}, marzec{{2001, 3}, {2001, 3}};
     for (const auto& [pole, kolumna] : kSumy) {
         Waluta naglowki;
-        for (const RokMies m : MiesiaceOkresu(o().sesja, okres)) naglowki += zPlace(m, kolumna);
+        for (const RokMies m : MiesiaceZakresu(o().sesja, okres)) naglowki += zPlace(m, kolumna);
         EXPECT_EQ(wKolumnie({okres, {}}, pole), naglowki) << kolumna.def().nazwa;
         // Lists and departments part the whole without a rest.
         EXPECT_EQ(wKolumnie({marzec, u"A"_s}, pole) + wKolumnie({marzec, u"B"_s}, pole),
@@ -128,8 +128,8 @@ TEST_F(Wzorce, TheSummaryAddsUpToTheHeadersOfItsMonths) {
 
 TEST_F(Wzorce, AMonthWithoutRowsSaysSoAndOneThatIsMissingRefuses) {
     (void)Miesiace(o()).Nowy_miesiac([] { return RokMies{2001, 4}; });
-    const OkresMiesiecy kwiecien{{2001, 4}, {2001, 4}}, maj{{2001, 5}, {2001, 6}};
-    const auto pusta = UlozZbiorowkeOkresu(o(), {kwiecien, {}}, kDzienWydruku);
+    const ZakresMiesiecy kwiecien{{2001, 4}, {2001, 4}}, maj{{2001, 5}, {2001, 6}};
+    const auto pusta = UlozZbiorowkeMiesiecy(o(), {kwiecien, {}}, kDzienWydruku);
     EXPECT_TRUE(pusta->zawiera(0, u"Nie ma wypłat"_s));
     EXPECT_EQ(kwotaZa(stronyWydruku(*pusta).first(), u"Razem wszystkie działy"_s), Waluta());
     EXPECT_THROW((void)PozycjeZbiorowki(o(), {maj, {}}), Blad);

@@ -76,21 +76,25 @@ QList<double> szerokosciKarty() {
 QList<Element> glowkaKarty(const Stale& stale, double y) {
     QList<Element> wynik;
     double x = 0;
-    const auto kratka = [&](double szer, const QString& gora, const QString& dol) {
+    const double polowa = kGlowkaKarty / 2;
+    const auto kratka = [&](double szer, const QString& napis) {
         wynik.append({.rodzaj = Rodzaj::Ramka, .miejsce = {x, y, szer, kGlowkaKarty}});
-        const double polowa = kGlowkaKarty / 2;
-        wynik.append(napisNa({x, y + (dol.isEmpty() ? polowa / 2 : 0.3), szer, polowa}, gora, Pismo::Naglowek,
-                             Ulozenie::Srodek));
-        if (!dol.isEmpty())
-            wynik.append(
-                napisNa({x, y + polowa - 0.3, szer, polowa}, dol, Pismo::Naglowek, Ulozenie::Srodek));
+        wynik.append(napisNa({x, y, szer, kGlowkaKarty}, napis, Pismo::Naglowek, Ulozenie::Srodek));
         x += szer;
     };
-    kratka(kMiesiacKarty, QStringLiteral("Miesiąc"), {});
-    for (int d = 1; d <= 31; ++d) kratka(kDzienKarty, QString::number(d), {});
+    const auto kratkaSumy = [&](const QString& skrot, const QString& symbol) {
+        wynik.append({.rodzaj = Rodzaj::Ramka, .miejsce = {x, y, kSumaKarty, kGlowkaKarty}});
+        wynik.append(
+            napisNa({x + 0.4, y + 0.3, kSumaKarty - 0.8, polowa}, skrot, Pismo::Drobne, Ulozenie::Srodek));
+        wynik.append(
+            napisNa({x, y + polowa - 0.3, kSumaKarty, polowa}, symbol, Pismo::Naglowek, Ulozenie::Srodek));
+        x += kSumaKarty;
+    };
+    kratka(kMiesiacKarty, QStringLiteral("Miesiąc"));
+    for (int d = 1; d <= 31; ++d) kratka(kDzienKarty, QString::number(d));
     for (int i = 0; i < kRodzajowDni; ++i) {
         const auto rodzaj = static_cast<DzienPracy>(i);
-        kratka(kSumaKarty, SkrotDniaPracy(rodzaj), SymbolDnia(stale, rodzaj).trimmed());
+        kratkaSumy(SkrotDniaPracy(rodzaj), SymbolDnia(stale, rodzaj).trimmed());
     }
     return wynik;
 }

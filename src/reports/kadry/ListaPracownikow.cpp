@@ -62,11 +62,11 @@ Papier ListaPracownikow(const ZrodloPapieru& zrodlo) {
     const QList<KolumnaDruku> kolumny{
         {QStringLiteral("Lp."), 11, LpLiczba, Format::Liczba},
         {QStringLiteral("Nr"), 13, LpNumer, Format::Liczba},
-        {QStringLiteral("Nazwisko i imiona"), 60, LpNazwisko},
+        {QStringLiteral("Nazwisko i imiona"), 66, LpNazwisko},
         {QStringLiteral("Data\nurodzenia"), 20, LpUrodzony, Format::Data},
         {QStringLiteral("PESEL"), 23, LpPesel},
         {QStringLiteral("Dział"), 38, LpDzial},
-        {QStringLiteral("Stanowisko"), 60, LpStanowisko},
+        {QStringLiteral("Stanowisko"), 54, LpStanowisko},
         {QStringLiteral("Etat"), 12, LpEtat},
         {QStringLiteral("Zatrudniony\ndnia"), 20, LpZatrudniony, Format::Data},
         {QStringLiteral("Zwolniony\ndnia"), 20, LpZwolniony, Format::Data},

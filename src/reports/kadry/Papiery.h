@@ -3,7 +3,7 @@
 #include "druk/Uklad.h"
 #include "reports/Firma.h"
 #include "reports/kadry/DaneOsoby.h"
-#include "reports/place/PlaceOkresu.h"
+#include "reports/place/PlaceMiesiecy.h"
 
 namespace tornel::reports {
 
@@ -11,7 +11,7 @@ namespace tornel::reports {
 struct ZrodloPapieru {
     Otoczenie& otoczenie;
     QList<DaneOsoby> osoby;
-    OkresMiesiecy okres;
+    ZakresMiesiecy okres;
     QDate dzien; ///< of printing
     QStringView nazwa;
 };

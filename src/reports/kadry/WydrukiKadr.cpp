@@ -9,12 +9,12 @@ namespace tornel::reports {
 namespace {
 
 constexpr OpisWydrukuKadr kWydrukiKadr[] = {
-    {WydrukKadr::ListaPracownikow, u"Lista pracowników", u"lista-pracownikow", OkresWydruku::Zaden},
-    {WydrukKadr::KartaEwidencji, u"Karta ewidencji czasu pracy", u"karta-ewidencji", OkresWydruku::Rok},
-    {WydrukKadr::ListaObecnosci, u"Lista obecności do podpisu", u"lista-obecnosci", OkresWydruku::Miesiac},
-    {WydrukKadr::KartaPrzychodow, u"Karta przychodów", u"karta-przychodow", OkresWydruku::Rok},
+    {WydrukKadr::ListaPracownikow, u"Lista pracowników", u"lista-pracownikow", CzasWydruku::Zaden},
+    {WydrukKadr::KartaEwidencji, u"Karta ewidencji czasu pracy", u"karta-ewidencji", CzasWydruku::Rok},
+    {WydrukKadr::ListaObecnosci, u"Lista obecności do podpisu", u"lista-obecnosci", CzasWydruku::Miesiac},
+    {WydrukKadr::KartaPrzychodow, u"Karta przychodów", u"karta-przychodow", CzasWydruku::Rok},
     {WydrukKadr::Zaswiadczenie, u"Zaświadczenie o zatrudnieniu i zarobkach", u"zaswiadczenie",
-     OkresWydruku::Miesiace},
+     CzasWydruku::Miesiace},
 };
 
 QList<qint64> bezPowtorzen(const QList<qint64>& numery) {
@@ -65,7 +65,7 @@ QList<QList<PlacaOsoby>> PlaceOsob(const ZrodloPapieru& zrodlo) {
     }
     const WyborPlac wybor{{}, wynik.size() == 1 ? std::optional(zrodlo.osoby[0].prcId) : std::nullopt};
     PlacaOsoby inni; // rows of those who are not asked for
-    for (const RokMies m : MiesiaceOkresu(zrodlo.otoczenie.sesja, zrodlo.okres)) {
+    for (const RokMies m : MiesiaceZakresu(zrodlo.otoczenie.sesja, zrodlo.okres)) {
         int nr = 0;
         for (RokMies k = zrodlo.okres.od; k < m; k = k.plus(1)) ++nr;
         inni = {};

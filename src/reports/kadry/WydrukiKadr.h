@@ -15,7 +15,7 @@ struct OpisWydrukuKadr {
     WydrukKadr ktory;
     QStringView napis; ///< in the menu
     QStringView nazwa; ///< by which the console calls it
-    OkresWydruku okres;
+    CzasWydruku okres;
 };
 [[nodiscard]] std::span<const OpisWydrukuKadr> wydrukiKadr();
 

@@ -148,7 +148,7 @@ private:
                  kwotaSlownie(srednia(ZaBrutto)), kwotaSlownie(srednia(ZaNetto)));
     }
 
-    OkresMiesiecy okres_;
+    ZakresMiesiecy okres_;
     Firma firma_;
     QString miejscowosc_;
     QDate dzien_;
@@ -190,9 +190,10 @@ Pasmo glowkaZaswiadczenia(const Stale& stale, double szer) {
 Pasmo glowkaZarobkow(const QString& okres, double szer) {
     constexpr double kWys = 9, kY = 7;
     Pasmo p{.rola = Rola::NaglowekGrupy, .wys = kY + kWys, .powtarzaj = true};
-    p.elementy = {napisNa({0, 0, szer, 5},
+    p.elementy = {napisNa({0, 0, szer - 75, 5},
                           QStringLiteral("Wynagrodzenie za okres ") + okres + QStringLiteral(", zł:"),
                           Pismo::Formularz),
+                  poleNa({szer - 74, 0, 74, 5}, OsNazwisko, Pismo::Wazne, Ulozenie::Prawo),
                   {.rodzaj = Rodzaj::Ramka, .miejsce = {0, kY, kMiesiacZarobku, kWys}},
                   napisNa({0, kY, kMiesiacZarobku, kWys}, QStringLiteral("Miesiąc"), Pismo::Naglowek,
                           Ulozenie::Srodek)};

@@ -1,4 +1,4 @@
-#include "reports/place/ZbiorowkaOkresu.h"
+#include "reports/place/ZbiorowkaMiesiecy.h"
 #include "common/Blad.h"
 #include "druk/Tabela.h"
 #include "reports/Firma.h"
@@ -174,7 +174,7 @@ QList<QString> nazwyPolOkresu(const WierszeOkresu& wiersze, const QStringList& s
 
 QList<PozycjaZbiorowki> PozycjeZbiorowki(Otoczenie& otoczenie, const WarunkiZbiorowki& warunki) {
     Sesja& sesja = otoczenie.sesja;
-    const QList<RokMies> miesiace = MiesiaceOkresu(sesja, warunki.okres);
+    const QList<RokMies> miesiace = MiesiaceZakresu(sesja, warunki.okres);
     if (miesiace.isEmpty()) throw Blad(QStringLiteral("Nie ma list płac za: %1.").arg(warunki.okres.napis()));
     QList<PozycjaZbiorowki> wynik;
     QHash<qint64, qsizetype> miejsca;
@@ -200,8 +200,8 @@ QList<PozycjaZbiorowki> PozycjeZbiorowki(Otoczenie& otoczenie, const WarunkiZbio
     return wynik;
 }
 
-std::shared_ptr<const Uklad> UlozZbiorowkeOkresu(Otoczenie& otoczenie, const WarunkiZbiorowki& warunki,
-                                                 QDate dzien) {
+std::shared_ptr<const Uklad> UlozZbiorowkeMiesiecy(Otoczenie& otoczenie, const WarunkiZbiorowki& warunki,
+                                                   QDate dzien) {
     const auto wiersze = std::make_shared<WierszeOkresu>(PozycjeZbiorowki(otoczenie, warunki));
     const Firma firma = FirmaNaWydruku(otoczenie.stale);
     const QString okres = (warunki.okres.od == warunki.okres.dokad ? QStringLiteral("za miesiąc ")
@@ -222,7 +222,7 @@ std::shared_ptr<const Uklad> UlozZbiorowkeOkresu(Otoczenie& otoczenie, const War
         NowyOpis(warunki.okres.od == warunki.okres.dokad ? u"zbiorowka-miesiac" : u"zbiorowka-rok",
                  QStringLiteral("Zbiorówka płac ") + okres, true);
     const QStringList nazwy =
-        NazwySkladnikow(otoczenie, MiesiaceOkresu(otoczenie.sesja, warunki.okres).last());
+        NazwySkladnikow(otoczenie, MiesiaceZakresu(otoczenie.sesja, warunki.okres).last());
     opis.grupy = {DzialOsoby};
     opis.nazwyPol = nazwyPolOkresu(*wiersze, nazwy);
     opis.brakWierszy = QStringLiteral("Nie ma wypłat, które spełniają podane warunki.");

@@ -1,4 +1,4 @@
-#include "reports/place/PlaceOkresu.h"
+#include "reports/place/PlaceMiesiecy.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "reports/Firma.h"
 #include "store/Sesja.h"
@@ -60,12 +60,12 @@ void doliczTabele(Sesja& sesja, const TabelaDef& tabela, RokMies miesiac, const 
 
 } // namespace
 
-QString OkresMiesiecy::napis() const {
+QString ZakresMiesiecy::napis() const {
     return od == dokad ? MiesiacSlownie(od)
                        : MiesiacSlownie(od) + QStringLiteral(" - ") + MiesiacSlownie(dokad);
 }
 
-QList<RokMies> MiesiaceOkresu(Sesja& sesja, const OkresMiesiecy& okres) {
+QList<RokMies> MiesiaceZakresu(Sesja& sesja, const ZakresMiesiecy& okres) {
     QList<RokMies> wynik;
     for (RokMies m = okres.od; m <= okres.dokad; m = m.plus(1))
         if (JestMiesiac(sesja, m, {"PLA", "PLB", "PLS"})) wynik.append(m);

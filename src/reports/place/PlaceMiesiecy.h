@@ -16,7 +16,7 @@ class Sesja;
 namespace tornel::reports {
 
 /// First and last month.
-struct OkresMiesiecy {
+struct ZakresMiesiecy {
     RokMies od, dokad;
     /// "Marzec 2001", or "Styczeń 2001 - Marzec 2001".
     [[nodiscard]] QString napis() const;
@@ -52,7 +52,7 @@ struct WyborPlac {
 
 /// The months of the span that are on the list of months. Reads `PLACE`. Throws `Blad` when a table of one is
 /// missing.
-[[nodiscard]] QList<RokMies> MiesiaceOkresu(Sesja& sesja, const OkresMiesiecy& okres);
+[[nodiscard]] QList<RokMies> MiesiaceZakresu(Sesja& sesja, const ZakresMiesiecy& okres);
 
 /// Adds the rows of the month to the sums that `osoba` gives for an employee's number. Reads `PLA`, `PLB`,
 /// `PLS` of the month once, through the index where one employee is wanted. Throws `BladBazy`, and

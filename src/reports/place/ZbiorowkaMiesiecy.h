@@ -1,7 +1,7 @@
 // The payroll of a month or of several: by employee, by department and whole.
 #pragma once
 #include "druk/Uklad.h"
-#include "reports/place/PlaceOkresu.h"
+#include "reports/place/PlaceMiesiecy.h"
 #include "rules/Otoczenie.h"
 #include <optional>
 #include <QDate>
@@ -10,7 +10,7 @@
 namespace tornel::reports {
 
 struct WarunkiZbiorowki {
-    OkresMiesiecy okres;
+    ZakresMiesiecy okres;
     QString listy;                          ///< symbols, a character each; empty for all lists
     std::optional<QStringList> dzialy = {}; ///< nothing for all departments
 };
@@ -28,7 +28,7 @@ struct PozycjaZbiorowki {
 
 /// The print: a sheet of the main amounts, one of the contributions, and as many of the components as the
 /// months use, side by side. `dzien` is the day of printing. Throws as `PozycjeZbiorowki`.
-[[nodiscard]] std::shared_ptr<const Uklad> UlozZbiorowkeOkresu(Otoczenie& otoczenie,
-                                                               const WarunkiZbiorowki& warunki, QDate dzien);
+[[nodiscard]] std::shared_ptr<const Uklad>
+UlozZbiorowkeMiesiecy(Otoczenie& otoczenie, const WarunkiZbiorowki& warunki, QDate dzien);
 
 } // namespace tornel::reports
