@@ -7,7 +7,7 @@
 #include "app/frmLogowanie.h"
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
-#include "app/frmMainWydruki.h"
+#include "app/frmMainWydrukiKadr.h"
 #include "app/frmSplash.h"
 #include "bank/frmKonta.h"
 #include "bank/frmMCS.h"
