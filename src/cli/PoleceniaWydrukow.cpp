@@ -42,7 +42,7 @@ const QString kTekst = QStringLiteral("tekst");
 
 } // namespace
 
-QList<OpcjaPolecenia> opcjeWydruku(QList<OpcjaPolecenia> wlasne) {
+QList<OpcjaPolecenia> opcjeWydruku(const QList<OpcjaPolecenia>& wlasne) {
     return wlasne +
            QList<OpcjaPolecenia>{{u"pdf", u"PLIK"}, {u"png", u"KATALOG"}, {u"csv", u"PLIK"}, {u"tekst", {}}};
 }

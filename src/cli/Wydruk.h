@@ -6,7 +6,7 @@
 namespace tornel::cli {
 
 /// The options of every print behind those of its own.
-[[nodiscard]] QList<OpcjaPolecenia> opcjeWydruku(QList<OpcjaPolecenia> wlasne);
+[[nodiscard]] QList<OpcjaPolecenia> opcjeWydruku(const QList<OpcjaPolecenia>& wlasne);
 /// Throws `ZleUzycie` unless exactly one way out is given; to be asked before anything is read.
 void WymagajDrogi(const Argumenty& argumenty);
 /// Writes the print there. Throws `Blad` that names a file.
