@@ -20,10 +20,10 @@ const QList<OpcjaPolecenia>& opcjeOgolne() {
 }
 
 const QList<Polecenie>& polecenia() {
-    static const QList<Polecenie> wszystkie = poleceniaBazy() + poleceniaRegul() + poleceniaKadr() +
-                                              poleceniaNieobecnosci() + poleceniaTabel() +
-                                              poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() +
-                                              poleceniaBanku() + poleceniaZestawien() + poleceniaWydrukow();
+    static const QList<Polecenie> wszystkie =
+        poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
+        poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaUmow() +
+        poleceniaZestawien() + poleceniaWydrukow();
     return wszystkie;
 }
 

@@ -37,5 +37,6 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaBanku();
 [[nodiscard]] QList<Polecenie> poleceniaWydrukow();
 [[nodiscard]] QList<Polecenie> poleceniaZestawien();
+[[nodiscard]] QList<Polecenie> poleceniaUmow();
 
 } // namespace tornel::cli

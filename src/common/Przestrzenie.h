@@ -28,8 +28,12 @@ using namespace personnel;
 namespace bank {
 using namespace payroll;
 }
+namespace contracts { // beside bank: neither sees the other
+using namespace personnel;
+}
 namespace reports {
 using namespace bank;
+using namespace contracts;
 }
 namespace start {
 using namespace reports;
