@@ -23,7 +23,7 @@ const QList<Polecenie>& polecenia() {
     static const QList<Polecenie> wszystkie =
         poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
         poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaUmow() +
-        poleceniaZestawien() + poleceniaWydrukow();
+        poleceniaPodatkow() + poleceniaZestawien() + poleceniaWydrukow();
     return wszystkie;
 }
 

@@ -35,6 +35,7 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaListy();
 [[nodiscard]] QList<Polecenie> poleceniaNadgodzin();
 [[nodiscard]] QList<Polecenie> poleceniaBanku();
+[[nodiscard]] QList<Polecenie> poleceniaPodatkow();
 [[nodiscard]] QList<Polecenie> poleceniaWydrukow();
 [[nodiscard]] QList<Polecenie> poleceniaZestawien();
 [[nodiscard]] QList<Polecenie> poleceniaUmow();

@@ -31,9 +31,12 @@ using namespace payroll;
 namespace contracts { // beside bank: neither sees the other
 using namespace personnel;
 }
-namespace reports {
+namespace tax {
 using namespace bank;
 using namespace contracts;
+}
+namespace reports {
+using namespace tax;
 }
 namespace start {
 using namespace reports;

@@ -1,0 +1,133 @@
+#include "cli/Polecenia.h"
+#include "common/Daty.h"
+#include "store/Sesja.h"
+#include "tax/DeklaracjeRoczne.h"
+#include "tax/Pit4.h"
+#include <QDate>
+
+namespace tornel::cli {
+
+namespace {
+
+const QString kNumer = QStringLiteral("numer");
+
+/// One value of a row as JSON and the text output show it.
+QString wartoscPola(const Wiersz& w, Kolumna k) {
+    switch (rodzajWartosci(k.def().typ)) {
+    case RodzajWartosci::Kwota:
+        return TekstKwoty(w.kwota(k));
+    case RodzajWartosci::Data:
+        return FormatDaty(w.data(k));
+    case RodzajWartosci::Calkowita:
+        return QString::number(w.liczba(k));
+    default:
+        return w.tekst(k);
+    }
+}
+
+using Sumy = QList<std::pair<QString, Waluta>>;
+
+/// The declaration field by field, then the sums that only the print has.
+void piszDeklaracje(Wywolanie& w, const Recordset& rs, const Sumy& sumy) {
+    QJsonObject json;
+    QList<QStringList> wiersze{{QStringLiteral("POLE"), QStringLiteral("WARTOŚĆ")}};
+    const auto dodaj = [&](const QString& nazwa, const QString& wartosc) {
+        json.insert(nazwa, wartosc);
+        wiersze.append({nazwa, wartosc});
+    };
+    for (int nr = 0; nr < static_cast<int>(rs.tabela().kolumny.size()); ++nr) {
+        const Kolumna k = rs.tabela().nr(nr);
+        dodaj(QString::fromLatin1(k.def().nazwa.data(), static_cast<qsizetype>(k.def().nazwa.size())),
+              wartoscPola(rs.biezacyWiersz(), k));
+    }
+    for (const auto& [nazwa, kwota] : sumy) dodaj(nazwa, TekstKwoty(kwota));
+    if (w.json())
+        w.pisz(json);
+    else
+        w.piszTabele(wiersze, {false, false});
+}
+
+tax::KluczPit4 kluczZArgumentow(const Wywolanie& w) {
+    const QString numer = w.argumenty.wartosc(kNumer);
+    return {miesiacZTekstu(w.argumenty.pozycje[0]),
+            numer.isEmpty() ? 0 : liczbaZTekstu(numer, 0, 32767, kNumer)};
+}
+
+int pit4Nowa(Wywolanie& w) {
+    const tax::KluczPit4 klucz = kluczZArgumentow(w);
+    tax::Pit4 pit4(w.otoczenie());
+    const auto nowa = pit4.Nowy(klucz, w.argumenty.wartosc(QStringLiteral("listy")), QDate::currentDate());
+    if (!nowa) return status::Odmowa;
+    w.pisz(nowa->napis());
+    return status::Wykonane;
+}
+
+int pit4Pokaz(Wywolanie& w) {
+    const tax::KluczPit4 klucz = kluczZArgumentow(w);
+    tax::Pit4 pit4(w.otoczenie());
+    if (!pit4.zaznacz(klucz)) throw Blad(QStringLiteral("Nie ma deklaracji PIT-4 %1.").arg(klucz.napis()));
+    const Recordset& rs = w.otoczenie().sesja.rsPIT4;
+    const tax::SumyPit4 s = tax::SumyDeklaracji(rs.biezacyWiersz());
+    piszDeklaracje(w, rs,
+                   {{QStringLiteral("SUMA1"), s.SUMA1},
+                    {QStringLiteral("SUMA2"), s.SUMA2},
+                    {QStringLiteral("SUMA3"), s.SUMA3}});
+    return status::Wykonane;
+}
+
+int pit4Usun(Wywolanie& w) {
+    const tax::KluczPit4 klucz = kluczZArgumentow(w);
+    return tax::Pit4(w.otoczenie()).Usun(klucz) ? status::Wykonane : status::Odmowa;
+}
+
+/// A yearly declaration: how it is filled and where its working row is.
+struct DeklaracjaRoczna {
+    void (*wypelnij)(Otoczenie& otoczenie, qint64 prcId, const tax::OkresPodatkowy& okres, QDate dzis);
+    Recordset Sesja::*uchwyt;
+};
+
+int roczna(Wywolanie& w, const DeklaracjaRoczna& deklaracja) {
+    const Argumenty& a = w.argumenty;
+    const QString od = QStringLiteral("od"), dokad = QStringLiteral("do");
+    if (!a.ma(od) || !a.ma(dokad)) throw ZleUzycie(QStringLiteral("Podaj --od RRRR-MM i --do RRRR-MM."));
+    const tax::OkresPodatkowy okres{miesiacZTekstu(a.wartosc(od)), miesiacZTekstu(a.wartosc(dokad))};
+    if (okres.od > okres.dokad) throw ZleUzycie(QStringLiteral("Zakres dat jest nieprawidłowy."));
+    Otoczenie& o = w.otoczenie();
+    deklaracja.wypelnij(o, numerPracownikaZTekstu(a.pozycje[0]), okres, QDate::currentDate());
+    const Recordset& rs = o.sesja.*deklaracja.uchwyt;
+    const tax::SumyZrodel s = tax::SumujZrodla(rs);
+    piszDeklaracje(w, rs,
+                   {{QStringLiteral("SPRZY"), s.SPRZY},
+                    {QStringLiteral("SKUP"), s.SKUP},
+                    {QStringLiteral("SDOCHOD"), s.SDOCHOD},
+                    {QStringLiteral("SPOB_ZAL"), s.SPOB_ZAL}});
+    return status::Wykonane;
+}
+
+int pit11(Wywolanie& w) { return roczna(w, {tax::WypelnijPit11, &Sesja::rsPIT11}); }
+int pit40(Wywolanie& w) { return roczna(w, {tax::WypelnijPit40, &Sesja::rsPIT40}); }
+int pit8b(Wywolanie& w) { return roczna(w, {tax::WypelnijPit8B, &Sesja::rsPIT8B}); }
+
+} // namespace
+
+QList<Polecenie> poleceniaPodatkow() {
+    static const QList<OpcjaPolecenia> numer{{u"numer", u"N"}};
+    static const QList<OpcjaPolecenia> okres{{u"od", u"RRRR-MM"}, {u"do", u"RRRR-MM"}};
+    constexpr QStringView osoba = u"NR --od RRRR-MM --do RRRR-MM";
+    return {
+        {u"pit4 nowa",
+         u"RRRR-MM",
+         u"deklaracja PIT-4 z listy płac miesiąca",
+         1,
+         1,
+         {{u"numer", u"N"}, {u"listy", u"SYMBOLE"}},
+         pit4Nowa},
+        {u"pit4 pokaz", u"RRRR-MM", u"deklaracja PIT-4 z sumami", 1, 1, numer, pit4Pokaz},
+        {u"pit4 usun", u"RRRR-MM", u"usuwa deklarację PIT-4", 1, 1, numer, pit4Usun},
+        {u"pit11", osoba, u"roczna informacja o dochodach i zaliczkach", 1, 1, okres, pit11},
+        {u"pit40", osoba, u"roczne rozliczenie podatku pracownika", 1, 1, okres, pit40},
+        {u"pit8b", osoba, u"informacja o podatku zryczałtowanym z umów i honorariów", 1, 1, okres, pit8b},
+    };
+}
+
+} // namespace tornel::cli

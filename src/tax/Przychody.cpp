@@ -1,0 +1,208 @@
+#include "tax/Przychody.h"
+#include "common/Blad.h"
+#include "payroll/miesiace/Miesiace.h"
+#include "rules/SkladnikiPlac.h"
+#include "store/Sesja.h"
+#include "store/Zapytanie.h"
+#include <algorithm>
+#include <vector>
+
+namespace tornel::tax {
+
+using schemat::HON;
+using schemat::PLA;
+using schemat::PLACE;
+using schemat::PLB;
+using schemat::PLS;
+using schemat::UOD;
+using schemat::UZL;
+
+namespace {
+
+constexpr int kDodatnich = 30;
+constexpr int kUjemnych = 15;
+
+using KluczWiersza = std::pair<qint64, QString>;
+
+/// Runs a query over a table, for one employee if `prcId` names him.
+template <typename Wiersz>
+void czytaj(Sesja& sesja, Zapytanie zapytanie, Kolumna numer, std::optional<qint64> prcId, Wiersz wiersz) {
+    if (prcId) zapytanie.gdzie(numer == Parametr{0});
+    PrzygotowaneZapytanie gotowe(sesja.cnPlace, zapytanie);
+    if (prcId)
+        for (auto w = gotowe.uruchom(*prcId); w.nastepny();) wiersz(w);
+    else
+        for (auto w = gotowe.uruchom(); w.nastepny();) wiersz(w);
+}
+
+struct SkladkiWiersza {
+    Waluta spoleczne, ubzdr, ubzdr_nal;
+};
+
+/// The insurance of the month's rows by employee and list.
+QHash<KluczWiersza, SkladkiWiersza> skladkiMiesiaca(Sesja& sesja, RokMies miesiac,
+                                                    std::optional<qint64> prcId) {
+    QHash<KluczWiersza, SkladkiWiersza> wynik;
+    const auto pytanie = Zapytanie(PLB)
+                             .kolumny(PLB("PRC_ID"), PLB("LISTA"), PLB("FEPRC"), PLB("FRPRC"), PLB("FCPRC"),
+                                      PLB("UBZDR"), PLB("UBZDR_NAL"))
+                             .zTabel({Sesja::nazwaMiesiaca("PLB", miesiac)});
+    czytaj(sesja, pytanie, PLB("PRC_ID"), prcId, [&](const WierszeZapytania& w) {
+        wynik.insert({w.liczba(PLB("PRC_ID")), w.tekst(PLB("LISTA"))},
+                     {w.kwota(PLB("FEPRC")) + w.kwota(PLB("FRPRC")) + w.kwota(PLB("FCPRC")),
+                      w.kwota(PLB("UBZDR")), w.kwota(PLB("UBZDR_NAL"))});
+    });
+    return wynik;
+}
+
+/// The components that make the income of a month: its masks, not those of today's catalogue.
+struct SkladnikiPrzychodu {
+    std::vector<Kolumna> dodatnie, ujemne;
+};
+
+SkladnikiPrzychodu skladnikiMiesiaca(Sesja& sesja, RokMies miesiac) {
+    const auto place = sesja.rsPLACE.szukaj(FormatRoku(miesiac.rok), FormatMiesiaca(miesiac.mies));
+    const auto maska = [&](Kolumna aktywne, Kolumna brutto) {
+        return static_cast<quint32>(place->liczba(aktywne) & place->liczba(brutto));
+    };
+    const quint32 sp = maska(PLACE("akt_sp"), PLACE("br_sp"));
+    const quint32 sm = maska(PLACE("akt_sm"), PLACE("br_sm"));
+    SkladnikiPrzychodu wynik;
+    for (int i = 1; i <= kDodatnich; ++i)
+        if (maBit(sp, i)) wynik.dodatnie.push_back(schemat::SP(i));
+    for (int i = 1; i <= kUjemnych; ++i)
+        if (maBit(sm, i)) wynik.ujemne.push_back(schemat::SM(i));
+    return wynik;
+}
+
+void dodajPrzychod(Sesja& sesja, RokMies miesiac, std::optional<qint64> prcId,
+                   QHash<qint64, SumyPlac>& sumy) {
+    const SkladnikiPrzychodu skladniki = skladnikiMiesiaca(sesja, miesiac);
+    Zapytanie pytanie(PLS);
+    pytanie.kolumny(PLS("PRC_ID")).zTabel({Sesja::nazwaMiesiaca("PLS", miesiac)});
+    for (const Kolumna k : skladniki.dodatnie) pytanie.kolumny(k);
+    for (const Kolumna k : skladniki.ujemne) pytanie.kolumny(k);
+    czytaj(sesja, pytanie, PLS("PRC_ID"), prcId, [&](const WierszeZapytania& w) {
+        Waluta& przychod = sumy[w.liczba(PLS("PRC_ID"))].przychod;
+        for (const Kolumna k : skladniki.dodatnie) przychod += w.kwota(k);
+        for (const Kolumna k : skladniki.ujemne) przychod -= w.kwota(k);
+    });
+}
+
+void dodajPodatek(Sesja& sesja, RokMies miesiac, std::optional<qint64> prcId, QHash<qint64, SumyPlac>& sumy) {
+    const auto skladki = skladkiMiesiaca(sesja, miesiac, prcId);
+    const auto pytanie =
+        Zapytanie(PLA)
+            .kolumny(PLA("PRC_ID"), PLA("LISTA"), PLA("KUP"), PLA("PPD"), PLA("POD_DOCH"), PLA("PODATEK"))
+            .zTabel({Sesja::nazwaMiesiaca("PLA", miesiac)});
+    czytaj(sesja, pytanie, PLA("PRC_ID"), prcId, [&](const WierszeZapytania& w) {
+        const qint64 numer = w.liczba(PLA("PRC_ID"));
+        const auto partner = skladki.constFind({numer, w.tekst(PLA("LISTA"))});
+        if (partner == skladki.constEnd()) return;
+        SumyPlac& s = sumy[numer];
+        s.koszty += w.kwota(PLA("KUP"));
+        s.ulga += w.kwota(PLA("PPD"));
+        s.naliczony += w.kwota(PLA("POD_DOCH"));
+        s.zaliczka += w.kwota(PLA("PODATEK"));
+        s.skladki += partner->spoleczne;
+        s.ubzdr += partner->ubzdr;
+        s.ubzdr_nal += partner->ubzdr_nal;
+    });
+}
+
+QHash<qint64, SumyPlac> sumyPlac(Sesja& sesja, const OkresPodatkowy& okres, std::optional<qint64> prcId) {
+    QHash<qint64, SumyPlac> sumy;
+    for (RokMies m = okres.od; m <= okres.dokad; m = m.plus(1)) {
+        if (!JestMiesiac(sesja, m, {"PLA", "PLB", "PLS"})) continue;
+        dodajPrzychod(sesja, m, prcId, sumy);
+        dodajPodatek(sesja, m, prcId, sumy);
+    }
+    return sumy;
+}
+
+/// Where a kind of contract keeps what is summed. A fee has no contributions.
+struct KolumnyUmowy {
+    const TabelaDef* tabela;
+    Kolumna prcId, zaplacona, brutto, koszty, podatek;
+    std::optional<Kolumna> feprc = {}, frprc = {}, fcprc = {}, ubzdr = {};
+};
+
+constexpr KolumnyUmowy kUmowy[] = {
+    {&UZL, UZL("prc_id"), UZL("data_wyp"), UZL("Brutto"), UZL("koszt_uz"), UZL("Podatek"), UZL("Feprc"),
+     UZL("Frprc"), UZL("FcPrc"), UZL("Ubzdr")},
+    {&UOD, UOD("prc_id"), UOD("data_wyp"), UOD("Brutto"), UOD("koszt_uz"), UOD("Podatek"), UOD("Feprc"),
+     UOD("Frprc"), UOD("FcPrc"), UOD("Ubzdr")},
+    {&HON, HON("prc_id"), HON("data_wyp"), HON("Brutto"), HON("koszt_uz"), HON("Podatek")},
+};
+
+QHash<qint64, SumyUmow> sumyUmow(Sesja& sesja, const TabelaDef& tabela, const OkresPodatkowy& okres,
+                                 std::optional<qint64> prcId) {
+    const KolumnyUmowy* u = std::ranges::find(kUmowy, &tabela, &KolumnyUmowy::tabela);
+    if (u == std::end(kUmowy)) throw Blad(QStringLiteral("Deklaracje nie czytają tej tabeli umów."));
+    Zapytanie pytanie(tabela);
+    pytanie.kolumny(u->prcId, u->brutto, u->koszty, u->podatek)
+        .gdzie(u->zaplacona >= Wartosc(okres.od.pierwszyDzien()) &&
+               u->zaplacona <= Wartosc(okres.dokad.ostatniDzien()));
+    for (const auto& k : {u->feprc, u->frprc, u->fcprc, u->ubzdr})
+        if (k) pytanie.kolumny(*k);
+    QHash<qint64, SumyUmow> sumy;
+    czytaj(sesja, pytanie, u->prcId, prcId, [&](const WierszeZapytania& w) {
+        const auto kwota = [&](const std::optional<Kolumna>& k) { return k ? w.kwota(*k) : Waluta{}; };
+        sumy[w.liczba(u->prcId)] += {w.kwota(u->brutto), w.kwota(u->koszty), w.kwota(u->podatek),
+                                     kwota(u->feprc) + kwota(u->frprc) + kwota(u->fcprc), kwota(u->ubzdr)};
+    });
+    return sumy;
+}
+
+} // namespace
+
+SumyPlac SumyPracownika(Sesja& sesja, const OkresPodatkowy& okres, qint64 prcId) {
+    return sumyPlac(sesja, okres, prcId).value(prcId);
+}
+
+QHash<qint64, SumyPlac> SumyWszystkich(Sesja& sesja, const OkresPodatkowy& okres) {
+    return sumyPlac(sesja, okres, {});
+}
+
+std::optional<SumyMiesiaca> PodsumujMiesiac(Sesja& sesja, RokMies miesiac) {
+    const auto skladki = skladkiMiesiaca(sesja, miesiac, {});
+    const auto pytanie = Zapytanie(PLA)
+                             .kolumny(PLA("PRC_ID"), PLA("LISTA"), PLA("BRUTTO"), PLA("POD_DOCH"))
+                             .zTabel({Sesja::nazwaMiesiaca("PLA", miesiac)})
+                             .wedlug(PLA("PRC_ID"), PLA("LISTA"));
+    std::optional<SumyMiesiaca> sumy;
+    qint64 poprzedni = -1;
+    czytaj(sesja, pytanie, PLA("PRC_ID"), {}, [&](const WierszeZapytania& w) {
+        if (!sumy) sumy.emplace();
+        const qint64 numer = w.liczba(PLA("PRC_ID"));
+        const auto partner = skladki.constFind({numer, w.tekst(PLA("LISTA"))});
+        if (partner == skladki.constEnd()) return;
+        // The lists of one person stand together: he is one taxpayer.
+        sumy->podatnikow += numer != poprzedni;
+        poprzedni = numer;
+        sumy->przychod += w.kwota(PLA("BRUTTO")) - partner->spoleczne;
+        sumy->zaliczka += w.kwota(PLA("POD_DOCH"));
+        sumy->ubzdr += partner->ubzdr;
+    });
+    return sumy;
+}
+
+SumyUmow& SumyUmow::operator+=(const SumyUmow& b) {
+    brutto += b.brutto;
+    koszty += b.koszty;
+    podatek += b.podatek;
+    skladki += b.skladki;
+    ubzdr += b.ubzdr;
+    return *this;
+}
+
+SumyUmow SumujUmowy(Sesja& sesja, const TabelaDef& tabela, const OkresPodatkowy& okres, qint64 prcId) {
+    return sumyUmow(sesja, tabela, okres, prcId).value(prcId);
+}
+
+QHash<qint64, SumyUmow> SumujUmowyWszystkich(Sesja& sesja, const TabelaDef& tabela,
+                                             const OkresPodatkowy& okres) {
+    return sumyUmow(sesja, tabela, okres, {});
+}
+
+} // namespace tornel::tax
