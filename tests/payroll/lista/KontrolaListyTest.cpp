@@ -131,6 +131,7 @@ TEST_F(KontrolaListyTest, RowsThatNeedAttentionAreFoundByWhatIsStored) {
     const QString opis = u"Wiersze niepoliczone: 6 (nr 002, 006, 008, 010, 011, 015)\n"
                          u"Przelew większy od kwoty do wypłaty: 2 (nr 013, 015)"_s;
     EXPECT_EQ(OpisDoUwagi(uwagi), opis);
+    EXPECT_EQ((StanWiersza{false, true}.opis() + StanWiersza{true, true}.opis()).count(u"Kwota przelewu jest większa"_s), 2);
 
     // Blocking such a month needs a Yes of its own.
     Miesiace miesiace(otoczenie());
@@ -155,6 +156,14 @@ TEST_F(KontrolaListyTest, TypedComponentsAreWrittenOverOnlyWhenTheClerkAgrees) {
     ASSERT_TRUE(l->Wypisz_daneP(klucz(2)));
     EXPECT_TRUE(l->Przelicz2());
     oczekujWPliku(klucz(2), "SP_1=1100");
+
+    wpisz(2, "SM_9=3"); // a deduction alone is a typed amount too
+    l = lista();
+    ASSERT_TRUE(l->Wypisz_daneP(klucz(2)));
+    rozmowa_.spodziewaj(u"Kwoty składników wpisane ręcznie zostaną zastąpione. Czy przepisać ?"_s,
+                        Odpowiedz::Tak);
+    EXPECT_TRUE(l->Przelicz2());
+    oczekujWPliku(klucz(2), "SM_9=0");
 
     wpisz(1, "SP_5=350 SM_9=7 SP_3=1"); // component 3 is out of use: nothing refills it
     l = lista();                        // the marks are in the file

@@ -65,6 +65,10 @@ TEST_F(MiesiaceTest, ARefusedOrDoubleMonthIsNotMade) {
     EXPECT_FALSE(m.Nowy_miesiac([]() -> std::optional<RokMies> { throw Blad(u"zapytano o miesiąc"_s); }));
     rozmowa_.spodziewaj(kNowyMiesiac, Odpowiedz::Tak);
     EXPECT_FALSE(m.Nowy_miesiac([] { return std::nullopt; }));
+    for (const RokMies zly : {RokMies{1989, 12}, {2100, 1}, {2001, 0}, {2001, 13}}) {
+        rozmowa_.spodziewaj(kNowyMiesiac, Odpowiedz::Tak);
+        EXPECT_THROW((void)m.Nowy_miesiac([&] { return zly; }), Blad) << zly.rok << ' ' << zly.mies;
+    }
     EXPECT_EQ(naglowki(), 0);
     miesiac();
     miesiac(kSierpien);

@@ -111,6 +111,22 @@ TEST_F(DniTest, EachDayOfTheMonthIsOfOneKind) {
     }
 }
 
+TEST(NieobecnosciPokrywajaSie, OnAnyDayOfTheMonthAlone) {
+    const auto okres = [](int od, int dokad) {
+        Nieobecnosc n;
+        n.Data = QDate(2001, 7, 1).addDays(od - 1);
+        n.data_do = QDate(2001, 7, 1).addDays(dokad - 1);
+        return std::vector{n};
+    };
+    const auto sie = [&](const auto& urlop, const auto& zwolnienie) {
+        return NieobecnosciPokrywajaSie({2001, 7}, urlop, zwolnienie);
+    };
+    EXPECT_TRUE(sie(okres(1, 1), okres(-5, 1)));
+    EXPECT_TRUE(sie(okres(31, 40), okres(31, 31)));
+    EXPECT_FALSE(sie(okres(-5, 1), okres(2, 30)));
+    EXPECT_FALSE(sie(okres(-5, 0), okres(-5, 0))) << "in the month before";
+}
+
 TEST_F(DniTest, WhatCannotBeCountedLeavesTheRowAndSaysWhy) {
     miesiac();
     pracownik(1, "");

@@ -211,6 +211,14 @@ TEST_F(L4Test, AnAverageOverTheTurnOfTheYearCountsMonthsThatAreMissing) {
     oczekujWPliku({1, u" "_s}, "SR_BR_ZUS=449,27", {2001, 1});
 }
 
+TEST(SredniaDoL4, IsInGrosze) {
+    PodstawaL4 zarobil;
+    zarobil.skladniki = zl(100);
+    const SrednieL4 srednie = SredniaDoL4({zarobil, {}, {}});
+    EXPECT_EQ(srednie.SredniaBrutto, zl(33.33));
+    EXPECT_EQ(srednie.SredniaNetto, zl(33.33));
+}
+
 TEST_F(L4Test, TheClerksOwnAverageIsReducedByTheRowsContributions) {
     zwolnienie(1, {2001, 7, 2}, {2001, 7, 2}, 100);
     static const struct {
