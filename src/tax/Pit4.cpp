@@ -83,14 +83,14 @@ bool Pit4::jestNaLiscie(const KluczPit4& szukany) {
            znajdz(PIT4("id_dekl"), szukany.numer, Skad::Biezacy);
 }
 
-std::optional<SumyMiesiaca> Pit4::sumyNowej(RokMies miesiac) {
+std::optional<Wiersz1Pit4> Pit4::sumyNowej(RokMies miesiac) {
     const bool jest = JestMiesiac(o_.sesja, miesiac, {"PLA", "PLB"});
     if (jest)
         if (const auto sumy = PodsumujMiesiac(o_.sesja, miesiac)) return sumy;
     const QString powod = jest ? QStringLiteral("Brak pracowników na liście w podanym miesiącu.")
                                : QStringLiteral("Brak miesiąca na Liście Płac.");
     if (!o_.rozmowa.pytanie(powod + QStringLiteral(" Czy utworzyć pustą deklarację ?"))) return std::nullopt;
-    return SumyMiesiaca{};
+    return Wiersz1Pit4{};
 }
 
 std::optional<KluczPit4> Pit4::Nowy(const KluczPit4& nowy, const QString& listy, QDate dzis) {
@@ -114,7 +114,7 @@ std::optional<KluczPit4> Pit4::Nowy(const KluczPit4& nowy, const QString& listy,
     return nowy;
 }
 
-void Pit4::wpiszNowa(const KluczPit4& nowy, const QString& listy, const SumyMiesiaca& sumy, QDate dzis) {
+void Pit4::wpiszNowa(const KluczPit4& nowy, const QString& listy, const Wiersz1Pit4& sumy, QDate dzis) {
     rs_.AddNewZero();
     rs_.ustaw(PIT4("Rok"), nowy.miesiac.rok);
     rs_.ustaw(PIT4("Mies"), nowy.miesiac.mies);
@@ -150,12 +150,12 @@ bool Pit4::Usun(const KluczPit4& usuwany) {
     return true;
 }
 
-SumyMiesiaca Pit4::zapisane() const {
+Wiersz1Pit4 Pit4::zapisane() const {
     return {static_cast<int>(rs_.liczba(PIT4("przy_1"))), rs_.kwota(PIT4("kup_1")),
             rs_.kwota(PIT4("pob_zal_1")), rs_.kwota(PIT4("ubzdr_pob1"))};
 }
 
-std::optional<SumyMiesiaca> Pit4::dzisiejsze() const {
+std::optional<Wiersz1Pit4> Pit4::dzisiejsze() const {
     const RokMies miesiac = klucz(rs_.biezacyWiersz()).miesiac;
     if (!JestMiesiac(o_.sesja, miesiac, {"PLA", "PLB"})) return std::nullopt;
     return PodsumujMiesiac(o_.sesja, miesiac);

@@ -52,16 +52,16 @@ public:
     bool Usun(const KluczPit4& klucz);
 
     /// What line 1 of the current declaration holds.
-    [[nodiscard]] SumyMiesiaca zapisane() const;
+    [[nodiscard]] Wiersz1Pit4 zapisane() const;
     /// What it would hold were it made now; nothing if the month is gone or has no rows. A difference from
     /// `zapisane` means that the month, or line 1, was changed after the declaration was made.
-    [[nodiscard]] std::optional<SumyMiesiaca> dzisiejsze() const;
+    [[nodiscard]] std::optional<Wiersz1Pit4> dzisiejsze() const;
 
 private:
     [[nodiscard]] bool jestNaLiscie(const KluczPit4& klucz);
     /// The sums that line 1 begins with; nothing when the clerk wants no empty declaration.
-    [[nodiscard]] std::optional<SumyMiesiaca> sumyNowej(RokMies miesiac);
-    void wpiszNowa(const KluczPit4& klucz, const QString& listy, const SumyMiesiaca& sumy, QDate dzis);
+    [[nodiscard]] std::optional<Wiersz1Pit4> sumyNowej(RokMies miesiac);
+    void wpiszNowa(const KluczPit4& klucz, const QString& listy, const Wiersz1Pit4& sumy, QDate dzis);
 
     Otoczenie& o_;
     Recordset& rs_;

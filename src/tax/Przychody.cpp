@@ -164,13 +164,13 @@ QHash<qint64, SumyPlac> SumyWszystkich(Sesja& sesja, const OkresPodatkowy& okres
     return sumyPlac(sesja, okres, {});
 }
 
-std::optional<SumyMiesiaca> PodsumujMiesiac(Sesja& sesja, RokMies miesiac) {
+std::optional<Wiersz1Pit4> PodsumujMiesiac(Sesja& sesja, RokMies miesiac) {
     const auto skladki = skladkiMiesiaca(sesja, miesiac, {});
     const auto pytanie = Zapytanie(PLA)
                              .kolumny(PLA("PRC_ID"), PLA("LISTA"), PLA("BRUTTO"), PLA("POD_DOCH"))
                              .zTabel({Sesja::nazwaMiesiaca("PLA", miesiac)})
                              .wedlug(PLA("PRC_ID"), PLA("LISTA"));
-    std::optional<SumyMiesiaca> sumy;
+    std::optional<Wiersz1Pit4> sumy;
     qint64 poprzedni = -1;
     czytaj(sesja, pytanie, PLA("PRC_ID"), {}, [&](const WierszeZapytania& w) {
         if (!sumy) sumy.emplace();

@@ -38,16 +38,16 @@ struct SumyPlac {
 [[nodiscard]] QHash<qint64, SumyPlac> SumyWszystkich(Sesja& sesja, const OkresPodatkowy& okres);
 
 /// What the first line of PIT-4 takes from a month.
-struct SumyMiesiaca {
+struct Wiersz1Pit4 {
     int podatnikow = 0;
     Waluta przychod; ///< gross less the employee's contributions
     Waluta zaliczka; ///< tax before deductions
     Waluta ubzdr;
 
-    friend bool operator==(const SumyMiesiaca&, const SumyMiesiaca&) = default;
+    friend bool operator==(const Wiersz1Pit4&, const Wiersz1Pit4&) = default;
 };
 /// Nothing when `PLA` has no rows. Reads `PLA`, `PLB` of a month that exists.
-[[nodiscard]] std::optional<SumyMiesiaca> PodsumujMiesiac(Sesja& sesja, RokMies miesiac);
+[[nodiscard]] std::optional<Wiersz1Pit4> PodsumujMiesiac(Sesja& sesja, RokMies miesiac);
 
 /// Sums over contracts, zł. A fee has no contributions.
 struct SumyUmow {
