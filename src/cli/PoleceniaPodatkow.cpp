@@ -80,6 +80,24 @@ int pit4Usun(Wywolanie& w) {
     return tax::Pit4(w.otoczenie()).Usun(klucz) ? status::Wykonane : status::Odmowa;
 }
 
+int pit4Kontrola(Wywolanie& w) {
+    const int rok = liczbaZTekstu(w.argumenty.pozycje[0], 1900, 2100, QStringLiteral("rok"));
+    QList<QStringList> wiersze{{QStringLiteral("MIESIĄC"), QStringLiteral("PIT-4"),
+                                QStringLiteral("ZALICZKI PIT-11"), QStringLiteral("ULGA"),
+                                QStringLiteral("UB. ZDROWOTNE"), QStringLiteral("ZAOKRĄGLENIA"),
+                                QStringLiteral("NIEWYJAŚNIONE")}};
+    bool zgodne = true;
+    for (const tax::KontrolaPit4& k : tax::KontrolaRoku(w.otoczenie(), rok)) {
+        const Waluta reszta = k.niewyjasnione();
+        zgodne = zgodne && reszta.zero();
+        wiersze.append({k.miesiac.napis(), k.pit4 ? FormatKwoty(*k.pit4) : QStringLiteral("brak"),
+                        FormatKwoty(k.place.zaliczka), FormatKwoty(k.place.ulga), FormatKwoty(k.place.ubzdr),
+                        FormatKwoty(k.place.zaokraglenie), reszta.zero() ? QString() : FormatKwoty(reszta)});
+    }
+    w.piszTabele(wiersze, {false, true, true, true, true, true, true});
+    return zgodne ? status::Wykonane : status::Odmowa;
+}
+
 /// A yearly declaration: how it is filled and where its working row is.
 struct DeklaracjaRoczna {
     void (*wypelnij)(Otoczenie& otoczenie, qint64 prcId, const tax::OkresPodatkowy& okres, QDate dzis);
@@ -124,6 +142,7 @@ QList<Polecenie> poleceniaPodatkow() {
          pit4Nowa},
         {u"pit4 pokaz", u"RRRR-MM", u"deklaracja PIT-4 z sumami", 1, 1, numer, pit4Pokaz},
         {u"pit4 usun", u"RRRR-MM", u"usuwa deklarację PIT-4", 1, 1, numer, pit4Usun},
+        {u"pit4 kontrola", u"RRRR", u"deklaracje PIT-4 roku wobec zaliczek PIT-11", 1, 1, {}, pit4Kontrola},
         {u"pit11", osoba, u"roczna informacja o dochodach i zaliczkach", 1, 1, okres, pit11},
         {u"pit40", osoba, u"roczne rozliczenie podatku pracownika", 1, 1, okres, pit40},
         {u"pit8b", osoba, u"informacja o podatku zryczałtowanym z umów i honorariów", 1, 1, okres, pit8b},

@@ -161,4 +161,21 @@ std::optional<Wiersz1Pit4> Pit4::dzisiejsze() const {
     return PodsumujMiesiac(o_.sesja, miesiac);
 }
 
+QList<KontrolaPit4> KontrolaRoku(Otoczenie& o, int rok) {
+    Recordset deklaracje(PIT4);
+    deklaracje.Open(o.sesja.cnPlace);
+    deklaracje.Sort({PIT4("Rok"), PIT4("Mies"), PIT4("id_dekl")});
+    QList<KontrolaPit4> wynik;
+    for (int mies = 1; mies <= 12; ++mies) {
+        KontrolaPit4 k{{rok, mies}, {}, {}};
+        // A second declaration of the month was made from the same rows.
+        for (const Wiersz w : deklaracje.wiersze())
+            if (!k.pit4 && klucz(w).miesiac == k.miesiac) k.pit4 = w.kwota(PIT4("pob_zal_1"));
+        if (JestMiesiac(o.sesja, k.miesiac, {"PLA", "PLB"}))
+            k.place = SprawdzMiesiac(o.sesja, k.miesiac, o.stale.ZaokZal);
+        wynik.append(k);
+    }
+    return wynik;
+}
+
 } // namespace tornel::tax

@@ -67,6 +67,21 @@ private:
     Recordset& rs_;
 };
 
+/// A month of the year's control: PIT-4 against the advances that PIT-11 takes.
+struct KontrolaPit4 {
+    RokMies miesiac;
+    std::optional<Waluta> pit4; ///< line 1 of the month's first declaration; nothing without one
+    KontrolaMiesiaca place;
+
+    /// What neither reduction, health insurance nor rounding explains: rows that do not add up, and a
+    /// declaration that is missing, was edited, or is older than a change of the month.
+    [[nodiscard]] Waluta niewyjasnione() const {
+        return place.niewyjasnione + pit4.value_or(Waluta{}) - place.naliczony;
+    }
+};
+/// The twelve months; one without a payroll has zeros. Reads `PIT4`, `PLACE`, the months' `PLA`, `PLB`.
+[[nodiscard]] QList<KontrolaPit4> KontrolaRoku(Otoczenie& otoczenie, int rok);
+
 /// Of one declaration. Throws `Przepelnienie`.
 [[nodiscard]] SumyPit4 SumyDeklaracji(const Wiersz& deklaracja);
 

@@ -91,18 +91,15 @@ void dodajPrzychod(Sesja& sesja, RokMies miesiac, std::optional<qint64> prcId,
 
 void dodajPodatek(Sesja& sesja, RokMies miesiac, std::optional<qint64> prcId, QHash<qint64, SumyPlac>& sumy) {
     const auto skladki = skladkiMiesiaca(sesja, miesiac, prcId);
-    const auto pytanie =
-        Zapytanie(PLA)
-            .kolumny(PLA("PRC_ID"), PLA("LISTA"), PLA("KUP"), PLA("PPD"), PLA("POD_DOCH"), PLA("PODATEK"))
-            .zTabel({Sesja::nazwaMiesiaca("PLA", miesiac)});
+    const auto pytanie = Zapytanie(PLA)
+                             .kolumny(PLA("PRC_ID"), PLA("LISTA"), PLA("KUP"), PLA("PODATEK"))
+                             .zTabel({Sesja::nazwaMiesiaca("PLA", miesiac)});
     czytaj(sesja, pytanie, PLA("PRC_ID"), prcId, [&](const WierszeZapytania& w) {
         const qint64 numer = w.liczba(PLA("PRC_ID"));
         const auto partner = skladki.constFind({numer, w.tekst(PLA("LISTA"))});
         if (partner == skladki.constEnd()) return;
         SumyPlac& s = sumy[numer];
         s.koszty += w.kwota(PLA("KUP"));
-        s.ulga += w.kwota(PLA("PPD"));
-        s.naliczony += w.kwota(PLA("POD_DOCH"));
         s.zaliczka += w.kwota(PLA("PODATEK"));
         s.skladki += partner->spoleczne;
         s.ubzdr += partner->ubzdr;
@@ -185,6 +182,31 @@ std::optional<Wiersz1Pit4> PodsumujMiesiac(Sesja& sesja, RokMies miesiac) {
         sumy->ubzdr += partner->ubzdr;
     });
     return sumy;
+}
+
+KontrolaMiesiaca SprawdzMiesiac(Sesja& sesja, RokMies miesiac, int zaokragl) {
+    // Half of the last place that is kept.
+    Waluta prog = Waluta::zSurowej(5000);
+    for (int i = 0; i < zaokragl; ++i) prog = Waluta::zSurowej(prog.surowa() / 10);
+    const auto skladki = skladkiMiesiaca(sesja, miesiac, {});
+    const auto pytanie =
+        Zapytanie(PLA)
+            .kolumny(PLA("PRC_ID"), PLA("LISTA"), PLA("PPD"), PLA("POD_DOCH"), PLA("PODATEK"))
+            .zTabel({Sesja::nazwaMiesiaca("PLA", miesiac)});
+    KontrolaMiesiaca k;
+    czytaj(sesja, pytanie, PLA("PRC_ID"), {}, [&](const WierszeZapytania& w) {
+        const auto partner = skladki.constFind({w.liczba(PLA("PRC_ID")), w.tekst(PLA("LISTA"))});
+        if (partner == skladki.constEnd()) return;
+        const Waluta naliczony = w.kwota(PLA("POD_DOCH")), zaliczka = w.kwota(PLA("PODATEK"));
+        const Waluta ulga = std::min(w.kwota(PLA("PPD")), naliczony);
+        const Waluta reszta = naliczony - ulga - partner->ubzdr - zaliczka;
+        k.naliczony += naliczony;
+        k.zaliczka += zaliczka;
+        k.ulga += ulga;
+        k.ubzdr += partner->ubzdr;
+        (reszta <= prog && -reszta <= prog ? k.zaokraglenie : k.niewyjasnione) += reszta;
+    });
+    return k;
 }
 
 SumyUmow& SumyUmow::operator+=(const SumyUmow& b) {

@@ -20,13 +20,11 @@ struct OkresPodatkowy {
 
 /// Sums over payroll rows, zł.
 struct SumyPlac {
-    Waluta przychod;  ///< active components that count to the gross, by the masks of each month
-    Waluta koszty;    ///< `KUP`
-    Waluta naliczony; ///< `POD_DOCH`, tax before deductions
-    Waluta ulga;      ///< `PPD` of the rows, monthly reduction of the advance
-    Waluta zaliczka;  ///< `PODATEK`
-    Waluta skladki;   ///< employee's pension, disability and sickness contributions
-    Waluta ubzdr;     ///< health insurance: `UBZDR` and `UBZDR_NAL`
+    Waluta przychod; ///< active components that count to the gross, by the masks of each month
+    Waluta koszty;   ///< `KUP`
+    Waluta zaliczka; ///< `PODATEK`
+    Waluta skladki;  ///< employee's pension, disability and sickness contributions
+    Waluta ubzdr;    ///< health insurance: `UBZDR` and `UBZDR_NAL`
     Waluta ubzdr_nal;
 };
 
@@ -48,6 +46,18 @@ struct Wiersz1Pit4 {
 };
 /// Nothing when `PLA` has no rows. Reads `PLA`, `PLB` of a month that exists.
 [[nodiscard]] std::optional<Wiersz1Pit4> PodsumujMiesiac(Sesja& sesja, RokMies miesiac);
+
+/// A month held against itself: PIT-4 takes the tax before deductions, PIT-11 the advance. zł.
+struct KontrolaMiesiaca {
+    Waluta naliczony, zaliczka;
+    Waluta ulga;          ///< the monthly reduction, as far as there was tax
+    Waluta ubzdr;         ///< health insurance deducted
+    Waluta zaokraglenie;  ///< of the advances, row by row
+    Waluta niewyjasnione; ///< of rows whose rest is more than a rounding
+};
+/// `zaokragl` is the number of places that advances are rounded to. Reads `PLA`, `PLB` of a month that
+/// exists.
+[[nodiscard]] KontrolaMiesiaca SprawdzMiesiac(Sesja& sesja, RokMies miesiac, int zaokragl);
 
 /// Sums over contracts, zł. A fee has no contributions.
 struct SumyUmow {

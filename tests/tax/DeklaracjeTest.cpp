@@ -110,6 +110,26 @@ TEST_F(DeklaracjeTest, SumyWydrukuIPorzadekKolumn) {
     EXPECT_EQ(s.SUMA3, s.SUMA2 - zl(128));
 }
 
+TEST_F(DeklaracjeTest, KontrolaRokuZnaczyTylkoNiewyjasnione) {
+    stale().ZaokZal = 1;
+    miesiac(kMaj);
+    wiersz(kMaj, 1, u" "_s, "POD_DOCH=200,17 PPD=41,12 UBZDR=100 PODATEK=59,1");
+    wiersz(kMaj, 2, u" "_s, "POD_DOCH=30 PPD=41,12"); // the reduction takes all of it
+    Pit4 pit4(otoczenie());
+    ASSERT_TRUE(pit4.Nowy({kMaj, 0}, {}, kDzis));
+    const auto maj = [&] { return KontrolaRoku(otoczenie(), 2001).at(4); };
+    EXPECT_EQ(maj().place.ulga, zl(71.12));
+    EXPECT_EQ(maj().place.ubzdr, zl(100));
+    EXPECT_EQ(maj().place.zaokraglenie, zl(-0.05));
+    EXPECT_EQ(maj().niewyjasnione(), Waluta{});
+
+    // A row that does not add up, which the declaration does not know either.
+    wiersz(kMaj, 3, u" "_s, "POD_DOCH=50 PODATEK=49,9");
+    EXPECT_EQ(maj().place.niewyjasnione, zl(0.1));
+    EXPECT_EQ(maj().niewyjasnione(), zl(0.1 - 50));
+    EXPECT_FALSE(KontrolaRoku(otoczenie(), 2001).at(5).pit4);
+}
+
 TEST_F(DeklaracjeTest, PIT11IdzieMaskamiMiesiecyPrzezPrzerwe) {
     pracownik(1, "");
     pracownik(2, "Zwoln=T");
