@@ -34,7 +34,7 @@ using namespace personnel;
 namespace tax {
 using namespace bank;
 using namespace contracts;
-}
+} // namespace tax
 namespace reports {
 using namespace tax;
 }

@@ -1,6 +1,7 @@
 // Payments: transfer orders cut to their form, taxes by office, the bank's file and its marks.
 #include "bank/MultiCash.h"
 #include "bank/ZleceniaPrzelewow.h"
+#include "common/PolaKedu.h"
 #include "wsparcie/BazaTestowa.h"
 #include "wsparcie/KonsolaTestowa.h"
 #include "wsparcie/Przestrzen.h"
@@ -39,7 +40,7 @@ TEST_F(PrzelewyKonsoli, OrdersAndTheBanksFile) {
     const auto multicash = [&](const char* reszta) {
         return uruchom(QStringList{u"--tak"_s, u"multicash"_s, u"2001-02"_s, u"--wystawienie"_s,
                                    u"09-07-2001"_s, u"--platnosc"_s, u"10-07-2001"_s, u"--konto"_s, u"1"_s,
-                                   u"--szczegoly"_s, u"Płaca"_s, u"--katalog"_s} +
+                                   u"--szczegoly"_s, u"Płaca|\"raz\""_s, u"--katalog"_s} +
                        QString::fromUtf8(reszta).split(u' '));
     };
     const auto przelewy = uruchom("--json przelew pracownicy 2001-02 --konto 1 --tytul Płaca");
@@ -64,6 +65,7 @@ TEST_F(PrzelewyKonsoli, OrdersAndTheBanksFile) {
     const QByteArray plikBanku = czytaj(plik("01070900.pli"));
     EXPECT_EQ(plikBanku.count("\r\n"), tabela("PLB200102").count(u";T\n"_s));
     EXPECT_TRUE(plikBanku.startsWith("110,20010710,"));
+    EXPECT_TRUE(plikBanku.contains(windows1250(u"\"PŁACA 'RAZ'|||\""_s))) << "no mark of the form's own";
     EXPECT_TRUE(tabela("WYKONANE").contains(u"\n200102;1;multicash;"_s));
     // All are marked now: nothing to write leaves the file as it is.
     const auto drugi = multicash((katalog + u" --paczka 0"_s).toUtf8().constData());

@@ -131,7 +131,9 @@ TEST_F(KontrolaListyTest, RowsThatNeedAttentionAreFoundByWhatIsStored) {
     const QString opis = u"Wiersze niepoliczone: 6 (nr 002, 006, 008, 010, 011, 015)\n"
                          u"Przelew większy od kwoty do wypłaty: 2 (nr 013, 015)"_s;
     EXPECT_EQ(OpisDoUwagi(uwagi), opis);
-    EXPECT_EQ((StanWiersza{false, true}.opis() + StanWiersza{true, true}.opis()).count(u"Kwota przelewu jest większa"_s), 2);
+    EXPECT_EQ((StanWiersza{false, true}.opis() + StanWiersza{true, true}.opis())
+                  .count(u"Kwota przelewu jest większa"_s),
+              2);
 
     // Blocking such a month needs a Yes of its own.
     Miesiace miesiace(otoczenie());
