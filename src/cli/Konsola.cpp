@@ -23,7 +23,7 @@ const QList<Polecenie>& polecenia() {
     static const QList<Polecenie> wszystkie =
         poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
         poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaUmow() +
-        poleceniaPodatkow() + poleceniaZestawien() + poleceniaWydrukow();
+        poleceniaZus() + poleceniaPodatkow() + poleceniaZestawien() + poleceniaWydrukow();
     return wszystkie;
 }
 

@@ -39,5 +39,6 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaWydrukow();
 [[nodiscard]] QList<Polecenie> poleceniaZestawien();
 [[nodiscard]] QList<Polecenie> poleceniaUmow();
+[[nodiscard]] QList<Polecenie> poleceniaZus();
 
 } // namespace tornel::cli

@@ -52,12 +52,31 @@ QString CzytajTekst(const QString& sciezka) {
     return tekst;
 }
 
+NowyPlik::NowyPlik(const QString& sciezka) : plik_(std::make_unique<QSaveFile>(sciezka)) {
+    if (!plik_->open(QIODevice::WriteOnly)) zglosBlad();
+}
+
+NowyPlik::~NowyPlik() = default;
+
+void NowyPlik::zglosBlad() const {
+    const QString sciezka = plik_->fileName();
+    throw Blad(QStringLiteral("Nie można zapisać pliku „%1”: %2.")
+                   .arg(sciezka, przyczynaZapisu(QFileInfo(sciezka))));
+}
+
+void NowyPlik::dopisz(const QByteArray& kawalek) {
+    if (plik_->write(kawalek) != kawalek.size()) zglosBlad();
+}
+
+void NowyPlik::zatwierdz() {
+    if (!plik_->commit()) zglosBlad();
+    utrwalKatalog(plik_->fileName());
+}
+
 void ZapiszPlik(const QString& sciezka, const QByteArray& tresc) {
-    QSaveFile plik(sciezka);
-    if (!plik.open(QIODevice::WriteOnly) || plik.write(tresc) != tresc.size() || !plik.commit())
-        throw Blad(QStringLiteral("Nie można zapisać pliku „%1”: %2.")
-                       .arg(sciezka, przyczynaZapisu(QFileInfo(sciezka))));
-    utrwalKatalog(sciezka);
+    NowyPlik plik(sciezka);
+    plik.dopisz(tresc);
+    plik.zatwierdz();
 }
 
 } // namespace tornel::common

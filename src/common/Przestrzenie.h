@@ -35,9 +35,14 @@ namespace tax {
 using namespace bank;
 using namespace contracts;
 } // namespace tax
+namespace zus { // beside tax: neither sees the other
+using namespace bank;
+using namespace contracts;
+} // namespace zus
 namespace reports {
 using namespace tax;
-}
+using namespace zus;
+} // namespace reports
 namespace start {
 using namespace reports;
 }

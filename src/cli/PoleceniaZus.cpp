@@ -1,0 +1,88 @@
+#include "cli/Polecenia.h"
+#include "common/Daty.h"
+#include "common/Rozmowa.h"
+#include "zus/ZbiorKedu.h"
+#include <QFileInfo>
+
+namespace tornel::cli {
+
+namespace {
+
+QString opcjaZus(const Wywolanie& w, const char16_t* nazwa) {
+    return w.argumenty.wartosc(QString::fromUtf16(nazwa));
+}
+bool jestOpcja(const Wywolanie& w, const char16_t* nazwa) {
+    return w.argumenty.ma(QString::fromUtf16(nazwa));
+}
+
+QDate dzienOpcji(const Wywolanie& w, const char16_t* nazwa) {
+    const auto data = CzytajDate(opcjaZus(w, nazwa));
+    if (!data)
+        throw ZleUzycie(QStringLiteral("Brak daty dd-mm-rrrr po --%1.").arg(QString::fromUtf16(nazwa)));
+    return *data;
+}
+
+/// "RCA", "ZPA=2".
+void wybierzDokument(WyborDokumentow& wybor, const QString& tekst) {
+    const QString nazwa = tekst.section(QLatin1Char('='), 0, 0);
+    const DokumentKedu* dokument = znajdzDokument(nazwa);
+    if (!dokument || dokument->petla == Petla::Brak)
+        throw ZleUzycie(QStringLiteral("Nie ma dokumentu „%1”.").arg(nazwa));
+    const bool zTypem = dokument->petla == Petla::Platnik;
+    if (zTypem != tekst.contains(QLatin1Char('=')))
+        throw ZleUzycie(QStringLiteral("Typ od 0 do 3 podaje się przy ZPA i ZFA, na przykład ZPA=1."));
+    wybor.ustaw(dokument->kod, zTypem ? liczbaZTekstu(tekst.section(QLatin1Char('='), 1), 0, 3,
+                                                      QStringLiteral("typ dokumentu"))
+                                      : 1);
+}
+
+void wybierzRaporty(const Wywolanie& w, ZamowienieKedu& zamowienie) {
+    for (const DokumentKedu& d : DokumentyKedu()) {
+        if (d.petla != Petla::Raport || !zamowienie.wybor.jest(d.kod)) continue;
+        if (!jestOpcja(w, u"miesiac"))
+            throw ZleUzycie(QStringLiteral("Raport ZUS %1 wymaga --miesiac RRRR-MM.").arg(d.nazwa));
+        const RokMies miesiac = miesiacZTekstu(opcjaZus(w, u"miesiac"));
+        zamowienie.raporty[d.kod] = {miesiac, jestOpcja(w, u"identyfikator")
+                                                  ? opcjaZus(w, u"identyfikator")
+                                                  : DomyslnyIdentyfikator(miesiac)};
+    }
+}
+
+int keduZapisz(Wywolanie& w) {
+    ZamowienieKedu zamowienie{.plik = w.argumenty.pozycje.first(), .kiedy = QDateTime::currentDateTime()};
+    const QStringList dokumenty = w.argumenty.opcje.value(QStringLiteral("dokument"));
+    if (dokumenty.isEmpty()) throw ZleUzycie(QStringLiteral("Brak dokumentów po --dokument."));
+    for (const QString& d : dokumenty) wybierzDokument(zamowienie.wybor, d);
+    if (jestOpcja(w, u"pracownik") == jestOpcja(w, u"wszyscy"))
+        throw ZleUzycie(QStringLiteral("Podaje się --wszyscy albo --pracownik N."));
+    if (jestOpcja(w, u"pracownik")) zamowienie.prcId = numerPracownikaZTekstu(opcjaZus(w, u"pracownik"));
+    if (jestOpcja(w, u"zlecenia-od") || jestOpcja(w, u"zlecenia-do"))
+        zamowienie.zlecenia = {dzienOpcji(w, u"zlecenia-od"), dzienOpcji(w, u"zlecenia-do")};
+    wybierzRaporty(w, zamowienie);
+    Otoczenie& o = w.otoczenie();
+    if (QFileInfo::exists(zamowienie.plik) && !o.rozmowa.pytanie(kPytanieOPlik.toString()))
+        return status::Odmowa;
+    return ZbiorKedu(o, zamowienie).StworzPlik() ? status::Wykonane : status::Odmowa;
+}
+
+} // namespace
+
+QList<Polecenie> poleceniaZus() {
+    return {
+        {u"kedu zapisz",
+         u"PLIK --dokument KOD[=TYP] ... (--wszyscy | --pracownik N) [--miesiac RRRR-MM]",
+         u"kolekcja dokumentów dla ZUS",
+         1,
+         1,
+         {{u"dokument", u"KOD"},
+          {u"wszyscy", {}},
+          {u"pracownik", u"N"},
+          {u"miesiac", u"RRRR-MM"},
+          {u"identyfikator", u"TEKST"},
+          {u"zlecenia-od", u"DATA"},
+          {u"zlecenia-do", u"DATA"}},
+         keduZapisz},
+    };
+}
+
+} // namespace tornel::cli
