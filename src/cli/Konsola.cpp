@@ -1,6 +1,7 @@
 #include "cli/Konsola.h"
 #include "cli/Polecenia.h"
 #include "cli/RozmowaKonsoli.h"
+#include "start/Foldery.h"
 #include <algorithm>
 #include <QCommandLineParser>
 #include <QFileDevice>
@@ -13,8 +14,8 @@ namespace {
 /// Options that every command takes.
 const QList<OpcjaPolecenia>& opcjeOgolne() {
     static const QList<OpcjaPolecenia> opcje = {
-        {u"baza", u"PLIK"},       {u"tak", {}},  {u"nie", {}},
-        {u"odpowiedzi", u"PLIK"}, {u"json", {}}, {u"help", {}},
+        {u"baza", u"PLIK"}, {u"tak", {}},  {u"nie", {}},     {u"odpowiedzi", u"PLIK"},
+        {u"json", {}},      {u"help", {}}, {u"version", {}},
     };
     return opcje;
 }
@@ -35,7 +36,8 @@ QString pomoc() {
     QString tekst = QStringLiteral(
         "Użycie: tornel-cli [--baza PLIK] [--tak | --nie | --odpowiedzi PLIK] [--json] POLECENIE ...\n"
         "\n"
-        "  --baza PLIK        baza danych; bez tej opcji Baza.ini i Tornel.mdb obok programu\n"
+        "  --baza PLIK        baza danych; bez tej opcji Baza.ini i Tornel.mdb obok programu,\n"
+        "                     a zainstalowanego w folderze danych użytkownika\n"
         "  --tak, --nie       ta sama odpowiedź na każde pytanie\n"
         "  --odpowiedzi PLIK  odpowiedzi z pliku UTF-8 o liniach: fragment pytania=T albo =N\n"
         "  --json             dane jako JSON, gdzie ma to sens\n"
@@ -47,6 +49,7 @@ QString pomoc() {
     return tekst +
            QStringLiteral(
                "  pomoc\n      ten tekst\n"
+               "  --version\n      wersja programu\n"
                "\n"
                "Pliki CSV: UTF-8, w pierwszym wierszu nazwy kolumn, między polami średniki, pola ze "
                "średnikiem,\n"
@@ -151,11 +154,15 @@ int wykonaj(const QStringList& podane, const QString& folderProgramu, QIODevice&
         wypisz(wyjscie, pomoc().toUtf8());
         return status::Wykonane;
     }
+    if (argumenty.ma(QStringLiteral("version"))) {
+        wypisz(wyjscie, "tornel-cli " TORNEL_WERSJA "\n");
+        return status::Wykonane;
+    }
     const Polecenie& polecenie = znajdzPolecenie(argumenty.pozycje);
     sprawdz(polecenie, argumenty);
     const auto* plik = qobject_cast<QFileDevice*>(&bledy);
     RozmowaKonsoli rozmowa(odpowiedzi(argumenty), bledy, plik && isatty(plik->handle()));
-    Wywolanie wywolanie(std::move(argumenty), folderProgramu, rozmowa);
+    Wywolanie wywolanie(std::move(argumenty), FolderDanych(folderProgramu), rozmowa);
     const int wynik = polecenie.wykonaj(wywolanie);
     wypisz(wyjscie, wywolanie.wyjscie());
     return wynik;
