@@ -10,9 +10,11 @@ struct KolumnaDruku {
     int pole = 0;
     Format format = Format::Tekst;
     bool sumowana = false;
+    bool doPrawej = false; ///< numbers given as texts
 
     [[nodiscard]] Ulozenie ulozenie() const {
-        return format == Format::Tekst || format == Format::Data ? Ulozenie::Lewo : Ulozenie::Prawo;
+        const bool tekst = format == Format::Tekst || format == Format::Data;
+        return tekst && !doPrawej ? Ulozenie::Lewo : Ulozenie::Prawo;
     }
 };
 

@@ -17,14 +17,26 @@ QSettings ustawienia() {
     return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tornel"), QStringLiteral("Tornel")};
 }
 
-/// A list's columns as text: the shares, and by which of them it is ordered.
+/// A list's columns: the shares, their order and choice, and by which of them the rows are ordered.
 QString kluczKolumn(const WidokListy& lista) { return lista.objectName() + QStringLiteral("/kolumny"); }
+QString kluczUkladu(const WidokListy& lista) { return lista.objectName() + QStringLiteral("/uklad"); }
 QString kluczPorzadku(const WidokListy& lista) { return lista.objectName() + QStringLiteral("/porzadek"); }
 
+QStringList naTeksty(const QList<int>& liczby) {
+    QStringList wynik;
+    for (const int liczba : liczby) wynik.append(QString::number(liczba));
+    return wynik;
+}
+
+QList<int> naLiczby(const QStringList& teksty) {
+    QList<int> wynik;
+    for (const QString& tekst : teksty) wynik.append(tekst.toInt());
+    return wynik;
+}
+
 void zapamietajListe(QSettings& pamiec, const WidokListy& lista) {
-    QStringList udzialy;
-    for (const int udzial : lista.udzialy()) udzialy.append(QString::number(udzial));
-    pamiec.setValue(kluczKolumn(lista), udzialy);
+    pamiec.setValue(kluczKolumn(lista), naTeksty(lista.udzialy()));
+    pamiec.setValue(kluczUkladu(lista), naTeksty(lista.ukladKolumn()));
     const int kolumna = lista.header()->sortIndicatorSection();
     const bool malejaco = lista.header()->sortIndicatorOrder() == Qt::DescendingOrder;
     if (kolumna < 0)
@@ -34,10 +46,9 @@ void zapamietajListe(QSettings& pamiec, const WidokListy& lista) {
 }
 
 void przywrocListe(const QSettings& pamiec, WidokListy& lista) {
-    QList<int> udzialy;
-    for (const QString& udzial : pamiec.value(kluczKolumn(lista)).toStringList())
-        udzialy.append(udzial.toInt());
-    if (!udzialy.isEmpty()) lista.ustawUdzialy(udzialy);
+    const QStringList udzialy = pamiec.value(kluczKolumn(lista)).toStringList();
+    if (!udzialy.isEmpty()) lista.ustawUdzialy(naLiczby(udzialy));
+    lista.ustawUkladKolumn(naLiczby(pamiec.value(kluczUkladu(lista)).toStringList()));
     const int porzadek = pamiec.value(kluczPorzadku(lista)).toInt();
     if (porzadek == 0 || std::abs(porzadek) > lista.lista().columnCount()) return;
     lista.sortuj(std::abs(porzadek) - 1, porzadek < 0 ? Qt::DescendingOrder : Qt::AscendingOrder);

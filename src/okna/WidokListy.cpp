@@ -1,8 +1,11 @@
 #include "okna/WidokListy.h"
+#include "okna/MenuListy.h"
 #include "okna/Wyglad.h"
 #include <algorithm>
+#include <numeric>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -23,7 +26,7 @@ WidokListy::WidokListy(QList<KolumnaListy> kolumny, QList<int> udzialy, QWidget*
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setTabKeyNavigation(false);
-    header()->setSectionsMovable(false);
+    header()->setFirstSectionMovable(true);
     header()->setHighlightSections(false);
     header()->setTextElideMode(Qt::ElideMiddle);
     header()->setSortIndicatorClearable(true);
@@ -31,6 +34,10 @@ WidokListy::WidokListy(QList<KolumnaListy> kolumny, QList<int> udzialy, QWidget*
     ustawRole(RolaListy::Lista);
     connect(header(), &QHeaderView::sortIndicatorChanged, &model_, &ListaModel::sort);
     connect(header(), &QHeaderView::sectionResized, this, &WidokListy::przyjmijSzerokosc);
+    header()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header(), &QWidget::customContextMenuRequested, this, [this](const QPoint& punkt) {
+        if (rola_ == RolaListy::Lista) MenuKolumn(*this).exec(header()->mapToGlobal(punkt));
+    });
     connect(&model_, &ListaModel::layoutChanged, this, [this] { scrollTo(currentIndex()); });
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& indeks) { emit wejscie(model_.id(indeks.row())); });
@@ -40,6 +47,7 @@ void WidokListy::ustawRole(RolaListy rola) {
     rola_ = rola;
     const bool lista = rola == RolaListy::Lista;
     header()->setSectionsClickable(lista);
+    header()->setSectionsMovable(lista);
     header()->setSortIndicatorShown(lista);
 }
 
@@ -101,14 +109,14 @@ QString WidokListy::zaznaczoneJakoTekst() const {
         for (int i = zakres.top(); i <= zakres.bottom(); ++i) wiersze.append(i);
     std::ranges::sort(wiersze);
     if (wiersze.isEmpty()) return {};
-    const int kolumn = model_.columnCount();
+    const QList<int> kolumny = widoczneKolumny();
     QStringList naglowki;
-    for (int k = 0; k < kolumn; ++k)
+    for (const int k : kolumny)
         naglowki.append(model_.headerData(k, Qt::Horizontal, Qt::DisplayRole).toString());
     QStringList linie{naglowki.join(QLatin1Char('\t'))};
     for (const int i : std::as_const(wiersze)) {
         QStringList teksty;
-        for (int k = 0; k < kolumn; ++k) {
+        for (const int k : kolumny) {
             // A break inside a text would break the table.
             QString tekst = model_.data(model_.index(i, k), Qt::DisplayRole).toString();
             for (const char16_t znak : {u'\t', u'\r', u'\n'}) tekst.replace(QChar(znak), QLatin1Char(' '));
@@ -183,24 +191,76 @@ void WidokListy::resizeEvent(QResizeEvent* zdarzenie) {
     rozlozKolumny();
 }
 
+QList<int> WidokListy::widoczneKolumny() const {
+    QList<int> wynik;
+    for (const int k : ukladKolumn())
+        if (k >= 0) wynik.append(k);
+    return wynik;
+}
+
+QList<int> WidokListy::ukladKolumn() const {
+    QList<int> wynik;
+    for (int miejsce = 0; miejsce < header()->count(); ++miejsce) {
+        const int k = header()->logicalIndex(miejsce);
+        wynik.append(header()->isSectionHidden(k) ? -1 - k : k);
+    }
+    return wynik;
+}
+
+void WidokListy::ustawUkladKolumn(const QList<int>& uklad) {
+    QList<int> kolumny;
+    for (const int k : uklad) kolumny.append(k < 0 ? -1 - k : k);
+    QList<int> posortowane = kolumny;
+    std::ranges::sort(posortowane);
+    QList<int> wszystkie(header()->count());
+    std::iota(wszystkie.begin(), wszystkie.end(), 0);
+    const bool ktoras = std::ranges::any_of(uklad, [](int k) { return k >= 0; });
+    if (posortowane != wszystkie || !ktoras) return;
+    {
+        const QScopedValueRollback rozklada(rozklada_, true);
+        for (int miejsce = 0; miejsce < kolumny.size(); ++miejsce) {
+            header()->moveSection(header()->visualIndex(kolumny.at(miejsce)), miejsce);
+            setColumnHidden(kolumny.at(miejsce), uklad.at(miejsce) < 0);
+        }
+    }
+    rozlozKolumny();
+}
+
+void WidokListy::pokazKolumne(int kolumna, bool pokaz) {
+    if (!pokaz && widoczneKolumny() == QList<int>{kolumna}) return;
+    {
+        const QScopedValueRollback rozklada(rozklada_, true);
+        setColumnHidden(kolumna, !pokaz);
+    }
+    rozlozKolumny();
+}
+
+/// The shares are of the whole width, those of the hidden columns go to the others.
 void WidokListy::rozlozKolumny() {
     const QScopedValueRollback rozklada(rozklada_, true);
-    const int ostatnia = model_.columnCount() - 1;
+    const QList<int> widoczne = widoczneKolumny();
+    if (udzialy_.size() < model_.columnCount() || widoczne.isEmpty()) return;
+    int calosc = 0;
+    for (const int k : widoczne) calosc += udzialy_.at(k);
     int reszta = viewport()->width();
-    for (int k = 0; k < ostatnia && k < udzialy_.size(); ++k) {
-        const int szerokosc = viewport()->width() * udzialy_.at(k) / 100;
+    for (const int k : widoczne.first(widoczne.size() - 1)) {
+        const int szerokosc = viewport()->width() * udzialy_.at(k) / std::max(calosc, 1);
         setColumnWidth(k, szerokosc);
         reszta -= szerokosc;
     }
     // The header stretches its last section only when it grows, not when the others do.
-    if (udzialy_.size() >= ostatnia) setColumnWidth(ostatnia, reszta);
+    setColumnWidth(widoczne.last(), reszta);
 }
 
 void WidokListy::przyjmijSzerokosc() {
     // Sections change by themselves too while the list is being built and laid out.
     if (rozklada_ || !isVisible() || viewport()->width() <= 0) return;
     if (!header()->underMouse() && !header()->hasFocus()) return;
-    for (int k = 0; k < udzialy_.size(); ++k) udzialy_[k] = columnWidth(k) * 100 / viewport()->width();
+    const QList<int> widoczne = widoczneKolumny();
+    int calosc = 0;
+    for (const int k : widoczne) calosc += udzialy_.value(k);
+    for (const int k : widoczne)
+        if (k < udzialy_.size()) udzialy_[k] = std::max(1, columnWidth(k) * calosc / viewport()->width());
 }
 
 void WidokListy::ustawUdzialy(const QList<int>& udzialy) {
@@ -208,6 +268,15 @@ void WidokListy::ustawUdzialy(const QList<int>& udzialy) {
     if (udzialy.size() != udzialy_.size() || zaWaska) return;
     udzialy_ = udzialy;
     rozlozKolumny();
+}
+
+void WidokListy::contextMenuEvent(QContextMenuEvent* zdarzenie) {
+    if (rola_ != RolaListy::Lista) return;
+    // The menu key opens it at the row, not where the mouse happens to be.
+    const bool klawisz = zdarzenie->reason() == QContextMenuEvent::Keyboard;
+    const QPoint punkt =
+        klawisz ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()) : zdarzenie->globalPos();
+    MenuListy(*this).exec(punkt);
 }
 
 void WidokListy::paintEvent(QPaintEvent* zdarzenie) {

@@ -1,5 +1,5 @@
-// The list at the left of a screen: one row chosen at a time, columns by shares of its width, sorted by any
-// of them, filtered, copied, with a hint while empty.
+// The list at the left of a screen: one row chosen at a time, columns by shares of its width, in an order and
+// a choice of the clerk's, sorted by any of them, filtered, copied, printed, with a hint while empty.
 #pragma once
 #include "okna/ListaModel.h"
 #include <QTreeView>
@@ -10,7 +10,8 @@ namespace tornel::okna {
 enum class RolaListy { Lista, Tabliczka };
 
 /// Keys: Ctrl+A marks all rows, Ctrl+C copies the marked ones as a table, Ctrl+1 to Ctrl+9 sort by a column
-/// as a click on its header does: ascending, descending, as the screen gave them.
+/// as a click on its header does: ascending, descending, as the screen gave them. The right button or the
+/// menu key opens its menu (`MenuListy`), on the header that of its columns.
 class WidokListy : public QTreeView {
     Q_OBJECT
 public:
@@ -33,8 +34,18 @@ public:
     void ustawRole(RolaListy rola);
     /// Orders the rows as `ListaModel::sort` does; marked and chosen rows stay so.
     void sortuj(int kolumna, Qt::SortOrder kierunek);
-    /// The marked rows below their headings, in the order seen, tabs between the columns.
+    /// The numbers of the columns that are seen, from left to right.
+    [[nodiscard]] QList<int> widoczneKolumny() const;
+    /// Shows or hides a column; the last one that is seen stays.
+    void pokazKolumne(int kolumna, bool pokaz);
+    /// The columns from left to right, a hidden one as -1 - its number.
+    [[nodiscard]] QList<int> ukladKolumn() const;
+    /// An order and choice as `ukladKolumn` gave them; others are left aside.
+    void ustawUkladKolumn(const QList<int>& uklad);
+    /// The marked rows below their headings, in the order seen, tabs between the columns that are seen.
     [[nodiscard]] QString zaznaczoneJakoTekst() const;
+    /// Puts them on the clipboard.
+    void kopiuj() const;
     [[nodiscard]] const QList<int>& udzialy() const { return udzialy_; }
     /// Shares as `udzialy` gave them; others are left aside.
     void ustawUdzialy(const QList<int>& udzialy);
@@ -45,6 +56,8 @@ public:
     /// What an empty list says: what to do next.
     void ustawPodpowiedz(const QString& tekst);
     [[nodiscard]] ListaModel& lista() { return model_; }
+    [[nodiscard]] const ListaModel& lista() const { return model_; }
+    [[nodiscard]] RolaListy rola() const { return rola_; }
 
 signals:
     /// Another row was chosen, by the clerk or by `ustaw`.
@@ -59,12 +72,12 @@ protected:
     void keyPressEvent(QKeyEvent* zdarzenie) override;
     void resizeEvent(QResizeEvent* zdarzenie) override;
     void paintEvent(QPaintEvent* zdarzenie) override;
+    void contextMenuEvent(QContextMenuEvent* zdarzenie) override;
 
 private:
     void zaznacz(const QList<qint64>& numery);
     void ustawBiezacy(qint64 id);
     void sortujKolejno(int kolumna);
-    void kopiuj() const;
     void rozlozKolumny();
     void przyjmijSzerokosc();
 

@@ -1,3 +1,5 @@
+#include "druk/Wyjscie.h"
+#include "okna/MenuListy.h"
 #include "okna/Okno.h"
 #include "okna/PoleSzukania.h"
 #include "okna/WidokListy.h"
@@ -7,6 +9,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QSplitter>
@@ -205,6 +208,7 @@ TEST(OknoTest, PamietaRozmiarPodzialKolumnyIPorzadek) {
         okno.podzial->setSizes({300, 380});
         okno.lista->ustawUdzialy({30, 30, 40});
         okno.lista->sortuj(0, Qt::DescendingOrder);
+        okno.lista->ustawUkladKolumn({2, -2, 0});
         okno.reject();
     }
     OknoProbne okno;
@@ -213,6 +217,88 @@ TEST(OknoTest, PamietaRozmiarPodzialKolumnyIPorzadek) {
     EXPECT_EQ(okno.lista->udzialy(), (QList<int>{30, 30, 40}));
     EXPECT_EQ(kolejnosc(*okno.lista), (QList<qint64>{1, 2, 3, 4, 5}));
     EXPECT_EQ(okno.lista->header()->sortIndicatorOrder(), Qt::DescendingOrder);
+    EXPECT_EQ(okno.lista->ukladKolumn(), (QList<int>{2, -2, 0}));
+}
+
+QAction* pozycja(const QMenu& menu, const QString& napis) {
+    for (QAction* a : menu.actions())
+        if (a->text() == napis) return a;
+    ADD_FAILURE() << "no entry " << napis.toStdString();
+    return nullptr;
+}
+
+TEST(MenuListyOknaTest, KolumnySieUkrywaPrzestawiaIZostajeOstatnia) {
+    OknoProbne okno;
+    WidokListy& lista = *okno.lista;
+    for (const QList<int>& zly : {QList<int>{0, 1}, {0, 0, 1}, {0, 1, 3}, {-1, -2, -3}}) {
+        lista.ustawUkladKolumn(zly);
+        EXPECT_EQ(lista.ukladKolumn(), (QList<int>{0, 1, 2}));
+    }
+    lista.header()->moveSection(2, 0);
+    MenuKolumn kolumny(lista);
+    pozycja(kolumny, u"KWOTA"_s)->trigger();
+    EXPECT_EQ(lista.widoczneKolumny(), (QList<int>{2, 0}));
+    EXPECT_EQ(lista.columnWidth(2) + lista.columnWidth(0), lista.viewport()->width())
+        << "the columns left share the width";
+    lista.wybierz(2);
+    EXPECT_EQ(lista.zaznaczoneJakoTekst(), u"DATA\tNAZWISKO\n31-12-2000\tłoś\n"_s);
+
+    pozycja(kolumny, u"NAZWISKO"_s)->trigger();
+    EXPECT_FALSE(pozycja(MenuKolumn(lista), u"DATA"_s)->isEnabled());
+    lista.pokazKolumne(2, false);
+    EXPECT_EQ(lista.widoczneKolumny(), QList<int>{2}) << "one column has to stay";
+}
+
+TEST(MenuListyOknaTest, MaPoleceniaPrzyciskowSwojegoOkna) {
+    OknoProbne okno;
+    okno.lista->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    int nacisniec = 0;
+    const auto dodaj = [&](const QString& nazwa, const QString& napis) {
+        auto* p = new QPushButton(napis);
+        p->setObjectName(nazwa);
+        okno.layout()->addWidget(p);
+        p->show();
+        QObject::connect(p, &QPushButton::clicked, &okno, [&] { ++nacisniec; });
+        return p;
+    };
+    dodaj(u"cmdUsun"_s, u"&Usuń"_s);
+    dodaj(u"cmdNowy"_s, u"&Nowy"_s)->setEnabled(false);
+    dodaj(u"cmdFolder"_s, u"..."_s);
+    dodaj(u"cmdSkryty"_s, u"Niewidoczny"_s)->hide();
+    auto* drukuj = dodaj(u"cmdDrukuj"_s, u"&Drukuj"_s);
+    auto* wydruki = new QMenu(&okno);
+    wydruki->addAction(u"Karta"_s);
+    drukuj->setMenu(wydruki);
+
+    MenuListy menu(*okno.lista);
+    QStringList napisy;
+    for (const QAction* a : menu.actions()) napisy.append(a->isSeparator() ? u"-"_s : a->text());
+    EXPECT_EQ(napisy,
+              (QStringList{u"&Usuń"_s, u"&Nowy"_s, u"&Drukuj"_s, u"-"_s, u"Kopiuj"_s, u"Zaznacz wszystko"_s,
+                           u"Zapisz listę jako CSV..."_s, u"Drukuj listę..."_s, u"Kolumny"_s}));
+    pozycja(menu, u"&Nowy"_s)->trigger();
+    EXPECT_EQ(nacisniec, 0) << "as able as its button";
+    pozycja(menu, u"&Usuń"_s)->trigger();
+    EXPECT_EQ(nacisniec, 1);
+    EXPECT_EQ(pozycja(menu, u"&Drukuj"_s)->menu(), wydruki);
+    okno.lista->ustaw({});
+    EXPECT_FALSE(pozycja(MenuListy(*okno.lista), u"Drukuj listę..."_s)->isEnabled());
+}
+
+TEST(MenuListyOknaTest, NaPapierIDoPlikuIdzieToCoWidac) {
+    OknoProbne okno;
+    okno.setWindowTitle(u"Próba[*]"_s);
+    WidokListy& lista = *okno.lista;
+    lista.sortuj(1, Qt::DescendingOrder);
+    lista.ustawUkladKolumn({1, 0, -3});
+    lista.filtruj([](const WierszListy& w) { return w.teksty.at(0) != u"Lis"_s; });
+    const auto uklad = UlozListe(lista);
+    EXPECT_EQ(QString::fromUtf8(CsvWydruku(*uklad)),
+              u"KWOTA;NAZWISKO\n1200,00;łoś\n99,00;Ćwik\n-1,50;Żak\n(brak);Cwik\n"_s);
+    const QString papier = TekstWydruku(*uklad);
+    for (const QString& tekst : {u"Próba"_s, u"wierszy: 4"_s, u"KWOTA"_s, u"1200,00"_s})
+        EXPECT_TRUE(papier.contains(tekst)) << tekst.toStdString();
+    EXPECT_FALSE(papier.contains(u"Lis"_s));
 }
 
 } // namespace
