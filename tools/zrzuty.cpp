@@ -51,6 +51,9 @@
 #include "start/Przyklad.h"
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
+#include "zus/frmKedu.h"
+#include "zus/frmUwagiKedu.h"
+#include "zus/frmWydrukiZUS.h"
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
@@ -58,6 +61,7 @@
 #include <QSettings>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 using namespace tornel::app;
 
@@ -265,6 +269,35 @@ void wydruki(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.ekran(karta, QStringLiteral("karta-ewidencji"));
 }
 
+/// The insurer's documents: the choice, the remarks, and a collection of all of them.
+void zus(const Zrzuty& zrzuty, Otoczenie& o) {
+    ZamowienieKedu zamowienie{.plik =
+                                  QFileInfo(o.sesja.cnPlace.sciezka()).path() + QStringLiteral("/firma.kdu"),
+                              .kiedy = QDateTime({2001, 4, 10}, {12, 0})};
+    for (const DokumentKedu& d : DokumentyKedu()) {
+        zamowienie.wybor.ustaw(d.kod, 1);
+        if (d.petla == Petla::Raport)
+            zamowienie.raporty[d.kod] = {{2001, 3}, DomyslnyIdentyfikator({2001, 3})};
+    }
+    const QList<UwagaKedu> uwagi = SprawdzKedu(o, zamowienie);
+    tornel::zus::frmUwagiKedu okno([&] { return uwagi; }, [](const UwagaKedu&, QWidget*) {});
+    zrzuty.dialog(okno, QStringLiteral("uwagi-kedu"));
+    class BezSlowa : public RozmowaOkien {
+        void komunikat(const QString&, Styl, const QString&) override {}
+    } milczaca;
+    Otoczenie poCichu{o.sesja, o.stale, o.skladniki, milczaca};
+    (void)ZbiorKedu(poCichu, zamowienie).StworzPlik();
+    PortKedu port;
+    port.pokaz = [](const QString&, QWidget*) {};
+    o.stale.WydrukiZUS = QStringLiteral("100001000011010");
+    frmWydrukiZUS wydruki(o, port);
+    zrzuty.ekran(wydruki, QStringLiteral("wydruki-zus"));
+    frmKedu kolekcja(o.rozmowa, {}, zamowienie.plik);
+    auto* drzewo = kolekcja.findChild<QTreeView*>();
+    drzewo->expand(drzewo->model()->index(2, 0, drzewo->model()->index(0, 0)));
+    zrzuty.ekran(kolekcja, QStringLiteral("kolekcja"));
+}
+
 /// The handbook as F1 opens it over a screen.
 void pomoc(const Zrzuty& zrzuty, Pomoc& podrecznik, QWidget& okno) {
     podrecznik.pokazSpis(okno);
@@ -275,8 +308,15 @@ void pomoc(const Zrzuty& zrzuty, Pomoc& podrecznik, QWidget& okno) {
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir ustawienia; // what the desktop remembers of the windows is not looked at
+    // A desktop on which every window has the size that it was made with.
+    QFile ekran(ustawienia.filePath(QStringLiteral("ekran.json")));
+    if (!ekran.open(QIODevice::WriteOnly)) return 1;
+    ekran.write(
+        R"({"screens": [{"name": "ekran", "x": 0, "y": 0, "width": 1920, "height": 1080, "logicalDpi": 96,
+                    "logicalBaseDpi": 96, "dpr": 1}]})");
+    ekran.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + ekran.fileName().toUtf8());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ustawienia.path());
     Aplikacja aplikacja(argc, argv);
     Wyglad::zastosuj(aplikacja);
@@ -308,6 +348,7 @@ int main(int argc, char** argv) {
     przelewy(zrzuty, o);
     nieobecnosci(zrzuty, o);
     wydruki(zrzuty, o);
+    zus(zrzuty, o);
     pomoc(zrzuty, podrecznik, glowne);
     return 0;
 }

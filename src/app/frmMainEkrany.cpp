@@ -4,6 +4,7 @@
 #include "app/frmMain.h"
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmMainWydrukiListy.h"
+#include "app/frmMainZus.h"
 #include "bank/frmKonta.h"
 #include "payroll/miesiace/frmPlace.h"
 #include "payroll/nadgodziny/frmNadg.h"
@@ -56,6 +57,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     zarejestruj<frmMPRACY>(okno, otoczenie, Wejscie::AdresyDzialalnosci);
     zarejestruj<frmKonta>(okno, otoczenie, Wejscie::KontaBankowe);
     ZarejestrujZbiorowki(okno, otoczenie);
+    ZarejestrujZus(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);
     zarejestruj<frmLogLista>(okno, otoczenie, Wejscie::ListaUzytkownikow);
     okno.rejestruj(Wejscie::StaleProgramu, [&] {

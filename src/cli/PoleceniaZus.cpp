@@ -1,6 +1,8 @@
 #include "cli/Polecenia.h"
+#include "cli/Wydruk.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
+#include "reports/zus/WydrukKedu.h"
 #include "zus/ZbiorKedu.h"
 #include <QFileInfo>
 
@@ -65,10 +67,34 @@ int keduZapisz(Wywolanie& w) {
     return ZbiorKedu(o, zamowienie).StworzPlik() ? status::Wykonane : status::Odmowa;
 }
 
+int keduPokaz(Wywolanie& w) {
+    const OdczytKedu kolekcja = OdczytKedu::zPliku(w.argumenty.pozycje.first());
+    for (const DokumentOdczytany& d : kolekcja.dokumenty()) {
+        w.pisz(QStringLiteral("ZUS %1 %2").arg(d.kod, kolekcja.osoba(d)).trimmed());
+        for (const BlokOdczytany& b : d.bloki) {
+            w.pisz(QStringLiteral("  %1 %2").arg(b.nazwa, b.opis));
+            for (const PoleOdczytane& p : kolekcja.pola(b))
+                if (!p.puste) w.pisz(QStringLiteral("    %1: %2").arg(p.napis, p.wartosc));
+        }
+    }
+    for (const QString& uwaga : kolekcja.uwagi()) w.otoczenie().rozmowa.komunikat(uwaga, Styl::Wykrzyknik);
+    return status::Wykonane;
+}
+
+int wydrukKedu(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    const QString& plik = w.argumenty.pozycje.first();
+    WypiszWydruk(w, *reports::UlozKedu(std::make_shared<OdczytKedu>(OdczytKedu::zPliku(plik)), plik));
+    return status::Wykonane;
+}
+
 } // namespace
 
 QList<Polecenie> poleceniaZus() {
     return {
+        {u"kedu pokaz", u"PLIK", u"dokumenty kolekcji z nazwami pól", 1, 1, {}, keduPokaz},
+        {u"wydruk kedu", u"PLIK (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"kolekcja z nazwami pól", 1, 1, opcjeWydruku({}), wydrukKedu},
         {u"kedu zapisz",
          u"PLIK --dokument KOD[=TYP] ... (--wszyscy | --pracownik N) [--miesiac RRRR-MM]",
          u"kolekcja dokumentów dla ZUS",

@@ -1,5 +1,7 @@
 #include "common/PolaKedu.h"
 #include "common/Blad.h"
+#include <algorithm>
+#include <array>
 #include <iconv.h>
 #include <QHash>
 
@@ -48,6 +50,20 @@ QByteArray windows1250(const QString& tekst) {
         if (tekst[i].isHighSurrogate() && i + 1 < tekst.size()) ++i; // one character, one mark
         wynik += bajty.value(tekst[i], '?');
     }
+    return wynik;
+}
+
+QString zWindows1250(QByteArrayView bajty) {
+    static const std::array<QChar, 256> znaki = [] {
+        std::array<QChar, 256> wynik;
+        wynik.fill(QChar::ReplacementCharacter);
+        const QHash<QChar, char> bajtow = bajtyZnakow();
+        for (auto i = bajtow.cbegin(); i != bajtow.cend(); ++i)
+            wynik[static_cast<uchar>(i.value())] = i.key();
+        return wynik;
+    }();
+    QString wynik(bajty.size(), Qt::Uninitialized);
+    std::ranges::transform(bajty, wynik.begin(), [](char b) { return znaki[static_cast<uchar>(b)]; });
     return wynik;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 #include "common/Waluta.h"
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QDate>
 #include <QString>
 
@@ -14,5 +15,7 @@ namespace tornel::common {
 [[nodiscard]] QString KeduKwota(Waluta kwota, int szer);
 /// Windows-1250; a character that it lacks becomes "?".
 [[nodiscard]] QByteArray windows1250(const QString& tekst);
+/// The other way round; a byte without a character becomes U+FFFD.
+[[nodiscard]] QString zWindows1250(QByteArrayView bajty);
 
 } // namespace tornel::common

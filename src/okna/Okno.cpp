@@ -2,12 +2,21 @@
 #include "common/Blad.h"
 #include "okna/Aplikacja.h"
 #include "okna/PamiecOkien.h"
+#include <algorithm>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 
 namespace tornel::okna {
+
+namespace {
+
+/// What the desktop puts around a window.
+constexpr QSize kRamkaOkna{8, 40};
+
+} // namespace
 
 Okno::Okno(const QString& nazwa, QWidget* rodzic, PoEnterze poEnterze)
     : QDialog(rodzic), poEnterze_(poEnterze) {
@@ -22,13 +31,17 @@ QSplitter* Okno::dzielnik(QWidget* lewa, int szerokosc, QWidget* prawa) {
     dzielnik->setChildrenCollapsible(false);
     for (QWidget* strona : {lewa, prawa}) dzielnik->addWidget(strona);
     dzielnik->setStretchFactor(1, 1);
-    lewa->setMinimumWidth(szerokosc / 2);
+    lewa->setMinimumWidth(std::max(szerokosc / 2, lewa->minimumSizeHint().width()));
     dzielnik->setSizes({szerokosc, QWIDGETSIZE_MAX / 2});
     return dzielnik;
 }
 
 void Okno::showEvent(QShowEvent* zdarzenie) {
-    if (!std::exchange(pokazane_, true)) pamiecOkien::przywroc(*this);
+    if (!std::exchange(pokazane_, true)) {
+        pamiecOkien::przywroc(*this);
+        // A screen smaller than the one the window was made or left on.
+        resize(size().boundedTo(screen()->availableSize() - kRamkaOkna));
+    }
     QDialog::showEvent(zdarzenie);
 }
 

@@ -70,6 +70,8 @@ frmPrac::frmPrac(Otoczenie& otoczenie, FiltrPracownikow filtr, QWidget* rodzic, 
 
 frmPrac::~frmPrac() = default;
 
+void frmPrac::pokaz(qint64 prcId) { lvwPrac_->wybierz(prcId); }
+
 QWidget* frmPrac::lewaStrona() {
     auto* tytul = new QLabel(Pracownicy::tytulListy(filtr_));
     tytul->setObjectName(QStringLiteral("labTytul"));

@@ -26,6 +26,9 @@ public:
             PortWydrukowKadr wydruki = {});
     ~frmPrac() override;
 
+    /// Chooses the employee, if he is on the list.
+    void pokaz(qint64 prcId);
+
 protected:
     [[nodiscard]] bool jestZmiana() const override;
     [[nodiscard]] bool zapiszZmiany() override;

@@ -86,6 +86,7 @@ struct Stale {
     int Zas_rodz = 0, Zas_piel = 0, Zas_wych = 0;
     Numery<5> FC_zas{}, FW_zas{}, BP_zas{};
     QString PathKDU;
+    QString WydrukiZUS; ///< documents chosen for the next collection
 
     // Tax declarations.
     QString NazwaPelna, NazwaSkroc, NIPPlatnika;

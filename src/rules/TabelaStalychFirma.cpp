@@ -120,6 +120,8 @@ constexpr StalaDef kStaleFirma[] = {
     {423, u"FW_zas", &S::FW_zas, u"", u"Ubezpieczenia wypadkowego:", ZUS2, Numer, kSwiadczenia,
      kNumerySwiadczen},
     {424, u"BP_zas", &S::BP_zas, u"", u"Budżetu państwa:", ZUS2, Numer, kSwiadczenia, kNumerySwiadczen},
+
+    {999, u"WydrukiZUS", &S::WydrukiZUS, u"000000000000000", u"Dokumenty kolekcji ZUS", Brak, Tekst},
 };
 
 } // namespace

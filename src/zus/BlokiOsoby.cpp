@@ -27,7 +27,7 @@ Wartosc kasaChorych(const KontekstKedu& k) {
 }
 
 constexpr QStringView kPesel = u"PESEL", kNip = u"NIP", kDokument = u"Rodzaj dokumentu tożsamości";
-constexpr QStringView kSeriaNumer = u"Seria i numer dokumentu", kNazwisko = u"Nazwisko", kImie = u"Imię";
+constexpr QStringView kSeriaNumer = u"Seria i numer dokumentu";
 constexpr QStringView kUrodzenie = u"Data urodzenia";
 
 constexpr PoleKedu kOsoba[] = {
@@ -35,8 +35,8 @@ constexpr PoleKedu kOsoba[] = {
     cyfry(10, PRACDP("Nip"), kNip),
     stale(u"1", kDokument),
     tekst(9, DwieKolumny{PRACDP("dowod_ser"), PRACDP("dowod_nr")}, kSeriaNumer),
-    tekst(31, PRACDP("Naz"), kNazwisko),
-    tekst(22, PRACDP("Imie_1"), kImie),
+    tekst(31, PRACDP("Naz"), kNapisNazwiska),
+    tekst(22, PRACDP("Imie_1"), kNapisImienia),
     data(PRACDP("data_ur"), kUrodzenie),
     zera(16),
     zera(16),
@@ -47,8 +47,8 @@ constexpr PoleKedu kDIOP[] = {
     cyfry(10, PRACDP("snip"), kNip),
     stale(u"1", kDokument),
     tekst(9, DwieKolumny{PRACDP("sdowod_ser"), PRACDP("sdowod_nr")}, kSeriaNumer),
-    tekst(31, PRACDP("snaz"), kNazwisko),
-    tekst(22, PRACDP("simie_1"), kImie),
+    tekst(31, PRACDP("snaz"), kNapisNazwiska),
+    tekst(22, PRACDP("simie_1"), kNapisImienia),
     data(PRACDP("sdata_ur"), kUrodzenie),
     zera(16),
     zera(16),
@@ -160,8 +160,8 @@ constexpr std::array<PoleKedu, 12> kCzlonek{
     cyfry(10, RODZINA("Nip"), kNip),
     stale(u"1", kDokument),
     tekst(9, DwieKolumny{RODZINA("dowod_ser"), RODZINA("dowod_nr")}, kSeriaNumer),
-    tekst(31, RODZINA("Naz"), kNazwisko),
-    tekst(22, RODZINA("Imie"), kImie),
+    tekst(31, RODZINA("Naz"), kNapisNazwiska),
+    tekst(22, RODZINA("Imie"), kNapisImienia),
     data(RODZINA("data_ur"), kUrodzenie),
     tekst(2, RODZINA("kod_pokr"), u"Kod pokrewieństwa"),
     krzyzyk(RODZINA("wyl_utrz"), u"Na wyłącznym utrzymaniu"),

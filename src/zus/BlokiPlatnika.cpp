@@ -175,8 +175,8 @@ constexpr PoleKedu kDOBR[] = {
 constexpr QStringView kSporzadzono = u"Data sporządzenia";
 constexpr PoleKedu kOPL1[] = {data(dzis, kSporzadzono)};
 constexpr PoleKedu kOPL2[] = {
-    licznik(3, liczbaKont, u"Rachunki w ZUS ZBA"),
-    licznik(3, liczbaAdresow, u"Adresy w ZUS ZAA"),
+    licznik(3, liczbaKont, u"Liczba rachunków w ZUS ZBA"),
+    licznik(3, liczbaAdresow, u"Liczba adresów w ZUS ZAA"),
     data(dzis, kSporzadzono),
 };
 

@@ -55,8 +55,8 @@ constexpr auto oOsobie(std::array<PoleKedu, N> pola) {
 }
 
 constexpr auto kOsobaRaportu = oOsobie(std::array{
-    tekst(31, &R::nazwisko, u"Nazwisko"),
-    tekst(22, &R::imie, u"Imię"),
+    tekst(31, &R::nazwisko, kNapisNazwiska),
+    tekst(22, &R::imie, kNapisImienia),
     tekst(1, rodzajIdentyfikatora, u"Typ identyfikatora: P - PESEL, N - NIP, 1 - dowód osobisty"),
     tekst(11, numerIdentyfikatora, u"Identyfikator"),
     tekst(4, PRACZUS("kod_tyt_ub"), u"Kod tytułu ubezpieczenia"),

@@ -62,7 +62,8 @@ constexpr std::array<DokumentKedu, kDokumentow> kDokumenty{{
      kRCA,
      {},
      2,
-     u"ZUS RCA"},
+     u"Formularz ZUS RCA na:",
+     u"Proszę podać identyfikator raportu ZUS RCA"},
     {KodKedu::RNA,
      u"RNA",
      u"Raport imienny dla płatników nie uprawnionych do wypłaty świadczeń z ubezpieczenia Chorobowego",
@@ -70,7 +71,8 @@ constexpr std::array<DokumentKedu, kDokumentow> kDokumenty{{
      kRNA,
      {},
      2,
-     u"ZUS RNA"},
+     u"Formularz ZUS RNA na:",
+     u"Proszę podać identyfikator raportu ZUS RNA"},
     {KodKedu::RZA,
      u"RZA",
      u"Raport imienny o należnych składkach na ubezpieczenie zdrowotne",
@@ -78,8 +80,9 @@ constexpr std::array<DokumentKedu, kDokumentow> kDokumenty{{
      kRZA,
      {},
      2,
-     u"ZUS RZA"},
-    // Asked for by the name of the RZA: deliberate.
+     u"Formularz ZUS RZA na:",
+     u"Proszę podać identyfikator raportu ZUS RZA"},
+    // Its identifier is asked for by the name of the RZA: deliberate.
     {KodKedu::RSA,
      u"RSA",
      u"Raport imienny o wypłaconych świadczeniach i przerwach w opłacaniu składek",
@@ -87,7 +90,8 @@ constexpr std::array<DokumentKedu, kDokumentow> kDokumenty{{
      kRSA,
      {},
      2,
-     u"ZUS RZA"},
+     u"Formularz ZUS RSA na:",
+     u"Proszę podać identyfikator raportu ZUS RZA"},
     {KodKedu::DRA, u"DRA", u"Deklaracja rozliczeniowa", Petla::Brak},
 }};
 

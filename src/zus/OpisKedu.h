@@ -114,7 +114,8 @@ struct DokumentKedu {
     /// Of `Pracownik`: the mark, from 1 to `najwyzszy`. Of `Rodzina`, `Konta` and `Adresy`: the mark, 1 or 2.
     Kolumna znak = {};
     int najwyzszy = 2;
-    QStringView pytanyJako = {}; ///< of `Raport`: what the prompt for its identifier calls it
+    QStringView pytanieMiesiaca = {}; ///< of `Raport`
+    QStringView pytanieIdentyfikatora = {};
 };
 
 /// The fifteen documents.

@@ -4,6 +4,9 @@
 
 namespace tornel::zus::pola {
 
+/// What the fields with a person's name are called, by which a view tells whom a block is about.
+inline constexpr QStringView kNapisNazwiska = u"Nazwisko", kNapisImienia = u"Imię";
+
 constexpr PoleKedu tekst(int szer, ZrodloPola zrodlo, QStringView napis) {
     return {Pisarz::Tekst, szer, zrodlo, napis};
 }

@@ -320,6 +320,66 @@ TEST_F(EkranyTest, KlawiaturaNaKazdymEkranie) {
     EXPECT_GE(otwarte_.size(), 35) << otwarte_.join(u' ').toStdString();
 }
 
+/// Texts that do not fit into their controls, and controls that stand outside their window.
+void sprawdzMiejsce(const QWidget& ekran, bool napisyPol) {
+    const auto calyWEkranie = [&](const QWidget& w) {
+        const QRect tu(w.mapTo(&ekran, QPoint()), w.size());
+        return ekran.rect().contains(tu);
+    };
+    for (const auto* p : ekran.findChildren<QPushButton*>()) {
+        if (!p->isVisible()) continue;
+        EXPECT_GE(p->width(), p->sizeHint().width()) << "cut: " << p->text().toStdString();
+        bool przewijany = false;
+        for (const QWidget* w = p->parentWidget(); w; w = w->parentWidget())
+            przewijany = przewijany || w->inherits("QScrollArea");
+        EXPECT_TRUE(przewijany || calyWEkranie(*p)) << "outside: " << p->text().toStdString();
+    }
+    for (const auto* l : ekran.findChildren<QLabel*>()) {
+        if (!napisyPol || !l->isVisible() || l->text().isEmpty() || l->wordWrap() ||
+            l->textFormat() == Qt::RichText)
+            continue;
+        EXPECT_GE(l->width() + 1, l->minimumSizeHint().width()) << "cut: " << l->text().toStdString();
+    }
+    for (const auto* f : ekran.findChildren<QCheckBox*>())
+        if (f->isVisible())
+            EXPECT_GE(f->width() + 1, f->sizeHint().width()) << "cut: " << f->text().toStdString();
+}
+
+TEST_F(EkranyTest, KazdyMiesciSieNaMalymEkranieIPrzyDuzymPismie) {
+    const QFont dawne = QApplication::font();
+    const struct {
+        int punkty;
+        QSize ekran;
+    } warunki[] = {{10, {1280, 720}}, {16, {1920, 1080}}};
+    for (const auto& w : warunki) {
+        QFont pismo = dawne;
+        pismo.setPointSize(w.punkty);
+        QApplication::setFont(pismo);
+        otworzOkno();
+        const QSize ramka(8, 40); // of the window manager
+        straznik_.disconnect();
+        wKazdymOknie([&](QWidget& ekran) {
+            naKazdejZakladce(ekran, [&](const QString& zakladka) {
+                SCOPED_TRACE(std::to_string(w.punkty) + " " + nazwa(ekran).toStdString() + " / " +
+                             zakladka.toStdString());
+                QCoreApplication::processEvents();
+                EXPECT_LE(ekran.width(), w.ekran.width() - ramka.width());
+                EXPECT_LE(ekran.height(), w.ekran.height() - ramka.height());
+                // In a large font the names of components are cut beside their fields; their tips have them.
+                sprawdzMiejsce(ekran, w.punkty == 10);
+            });
+        });
+        for (const PozycjaMenu& p : menuGlowne())
+            if (p.wejscie != Wejscie::Koniec && okno_->akcja(p.wejscie)->isEnabled())
+                okno_->akcja(p.wejscie)->trigger();
+        frmPlaceLista(otoczenie(), {2001, 3}, u" "_s).exec();
+        frmWybPr(otoczenie(), 1).exec();
+        EXPECT_GE(otwarte_.size(), 15);
+        okno_.reset();
+    }
+    QApplication::setFont(dawne);
+}
+
 void klik(const QWidget& ekran, const QString& przycisk) {
     QTest::mouseClick(&widzet(ekran, przycisk), Qt::LeftButton);
 }

@@ -29,6 +29,8 @@
 #include "start/Przyklad.h"
 #include "wsparcie/BazaTestowa.h"
 #include "wsparcie/Przestrzen.h"
+#include "zus/frmKedu.h"
+#include "zus/frmUwagiKedu.h"
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
@@ -214,6 +216,10 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
         },
         [&] { return std::make_unique<frmWybKonta>(o()); },
         [&] { return std::make_unique<frmMCS>(o(), ZrodloPrzelewow()); },
+        [] {
+            return std::make_unique<frmUwagiKedu>([] { return QList<UwagaKedu>(); }, frmUwagiKedu::Popraw());
+        },
+        [&] { return std::make_unique<frmKedu>(rozmowa_, QString(), QString()); },
         [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
         [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },
         [] { return std::make_unique<frmNrSkladnikaURL>(OkresUrlopu(), 0); },

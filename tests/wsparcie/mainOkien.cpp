@@ -1,5 +1,6 @@
 #include "okna/Aplikacja.h"
 #include <gtest/gtest.h>
+#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -14,6 +15,18 @@ class BezPamieci : public testing::EmptyTestEventListener {
     }
 };
 
+/// A small desktop that nobody sees, unless another one is asked for.
+void malyEkran(const QString& opis) {
+    const QByteArray pulpit = qgetenv("QT_QPA_PLATFORM");
+    if (!pulpit.isEmpty() && pulpit != "offscreen") return;
+    QFile plik(opis);
+    if (!plik.open(QIODevice::WriteOnly)) return;
+    plik.write(
+        R"({"screens": [{"name": "ekran", "x": 0, "y": 0, "width": 1280, "height": 720, "logicalDpi": 96,
+                   "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + opis.toUtf8());
+}
+
 } // namespace
 
 /// Read by AddressSanitizer. Libraries below the windows keep caches for the life of the process, which the
@@ -22,8 +35,8 @@ extern "C" const char* __asan_default_options() { return "detect_leaks=0"; }
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir ustawienia;
+    malyEkran(ustawienia.filePath(QStringLiteral("ekran.json")));
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ustawienia.path());
     testing::UnitTest::GetInstance()->listeners().Append(new BezPamieci);
     tornel::okna::Aplikacja program(argc, argv);
