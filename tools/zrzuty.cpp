@@ -38,6 +38,7 @@
 #include "personnel/frmPrac.h"
 #include "personnel/frmRejUrl.h"
 #include "personnel/frmRejZwoln.h"
+#include "personnel/frmRodzina.h"
 #include "personnel/frmTrDoPr.h"
 #include "personnel/frmUS.h"
 #include "personnel/frmWybPr.h"
@@ -52,12 +53,14 @@
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
 #include "zus/frmKedu.h"
+#include "zus/frmListaDRA.h"
 #include "zus/frmUwagiKedu.h"
 #include "zus/frmWydrukiZUS.h"
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
+#include <QPushButton>
 #include <QSettings>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -279,6 +282,12 @@ void zus(const Zrzuty& zrzuty, Otoczenie& o) {
         if (d.petla == Petla::Raport)
             zamowienie.raporty[d.kod] = {{2001, 3}, DomyslnyIdentyfikator({2001, 3})};
     }
+    frmRodzina rodzina(o, 11);
+    zrzuty.ekran(rodzina, QStringLiteral("rodzina"));
+    (void)RozliczeniaDRA(o).Nowe({2001, 3}, {}, {2001, 4, 5});
+    frmListaDRA dra(o, [](QWidget*) {});
+    dra.findChild<QPushButton*>(QStringLiteral("cmdKontrola"))->click();
+    zrzuty.ekran(dra, QStringLiteral("dra"));
     const QList<UwagaKedu> uwagi = SprawdzKedu(o, zamowienie);
     tornel::zus::frmUwagiKedu okno([&] { return uwagi; }, [](const UwagaKedu&, QWidget*) {});
     zrzuty.dialog(okno, QStringLiteral("uwagi-kedu"));

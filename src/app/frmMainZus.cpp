@@ -5,10 +5,13 @@
 #include "okna/Drukowanie.h"
 #include "personnel/frmMPRACY.h"
 #include "personnel/frmPrac.h"
+#include "personnel/frmRodzina.h"
+#include "reports/zus/WydrukDRA.h"
 #include "reports/zus/WydrukKedu.h"
 #include "rules/frmStaleProgramu.h"
 #include "rules/Stale.h"
 #include "zus/frmKedu.h"
+#include "zus/frmListaDRA.h"
 #include "zus/frmWydrukiZUS.h"
 
 namespace tornel::app {
@@ -17,8 +20,10 @@ namespace {
 
 void popraw(Otoczenie& o, const UwagaKedu& uwaga, QWidget* rodzic) {
     switch (uwaga.gdzie) {
-    case MiejscePoprawki::Pracownik:
-    case MiejscePoprawki::Rodzina: {
+    case MiejscePoprawki::Rodzina:
+        frmRodzina(o, uwaga.prcId, rodzic).exec();
+        return;
+    case MiejscePoprawki::Pracownik: {
         frmPrac kadry(o, FiltrPracownikow::Wszyscy, rodzic, WydrukiKartoteki(o));
         kadry.pokaz(uwaga.prcId);
         kadry.exec();
@@ -50,6 +55,13 @@ void pokazKolekcje(Otoczenie& o, const QString& plik, QWidget* rodzic) {
 } // namespace
 
 void ZarejestrujZus(frmMain& okno, Otoczenie& otoczenie) {
+    okno.rejestruj(Wejscie::ListaDRA, [&] {
+        const auto wydrukuj = [&](QWidget* rodzic) {
+            PokazWydruk(reports::UlozDRA(otoczenie), otoczenie.stale.DrukReszta ? Podglad::Nie : Podglad::Tak,
+                        otoczenie.rozmowa, rodzic);
+        };
+        frmListaDRA(otoczenie, wydrukuj, &okno).exec();
+    });
     okno.rejestruj(Wejscie::WydrukiZUS, [&] {
         PortKedu port;
         port.popraw = [&](const UwagaKedu& uwaga, QWidget* rodzic) { popraw(otoczenie, uwaga, rodzic); };

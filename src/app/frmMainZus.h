@@ -6,7 +6,8 @@ namespace tornel::app {
 
 class frmMain;
 
-/// The entry "Wydruki ZUS", with the screens that its remarks lead to and the view of a collection.
+/// The entries "Lista dokumentów ZUS DRA" and "Wydruki ZUS", with the screens that its remarks lead to and
+/// the view of a collection.
 void ZarejestrujZus(frmMain& okno, Otoczenie& otoczenie);
 
 } // namespace tornel::app

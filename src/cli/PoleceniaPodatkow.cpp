@@ -1,4 +1,5 @@
 #include "cli/Polecenia.h"
+#include "cli/WierszTabeli.h"
 #include "common/Daty.h"
 #include "store/Sesja.h"
 #include "tax/DeklaracjeRoczne.h"
@@ -10,42 +11,6 @@ namespace tornel::cli {
 namespace {
 
 const QString kNumer = QStringLiteral("numer");
-
-/// One value of a row as JSON and the text output show it.
-QString wartoscPola(const Wiersz& w, Kolumna k) {
-    switch (rodzajWartosci(k.def().typ)) {
-    case RodzajWartosci::Kwota:
-        return TekstKwoty(w.kwota(k));
-    case RodzajWartosci::Data:
-        return FormatDaty(w.data(k));
-    case RodzajWartosci::Calkowita:
-        return QString::number(w.liczba(k));
-    default:
-        return w.tekst(k);
-    }
-}
-
-using Sumy = QList<std::pair<QString, Waluta>>;
-
-/// The declaration field by field, then the sums that only the print has.
-void piszDeklaracje(Wywolanie& w, const Recordset& rs, const Sumy& sumy) {
-    QJsonObject json;
-    QList<QStringList> wiersze{{QStringLiteral("POLE"), QStringLiteral("WARTOŚĆ")}};
-    const auto dodaj = [&](const QString& nazwa, const QString& wartosc) {
-        json.insert(nazwa, wartosc);
-        wiersze.append({nazwa, wartosc});
-    };
-    for (int nr = 0; nr < static_cast<int>(rs.tabela().kolumny.size()); ++nr) {
-        const Kolumna k = rs.tabela().nr(nr);
-        dodaj(QString::fromLatin1(k.def().nazwa.data(), static_cast<qsizetype>(k.def().nazwa.size())),
-              wartoscPola(rs.biezacyWiersz(), k));
-    }
-    for (const auto& [nazwa, kwota] : sumy) dodaj(nazwa, TekstKwoty(kwota));
-    if (w.json())
-        w.pisz(json);
-    else
-        w.piszTabele(wiersze, {false, false});
-}
 
 tax::KluczPit4 kluczZArgumentow(const Wywolanie& w) {
     const QString numer = w.argumenty.wartosc(kNumer);
@@ -68,10 +33,10 @@ int pit4Pokaz(Wywolanie& w) {
     if (!pit4.zaznacz(klucz)) throw Blad(QStringLiteral("Nie ma deklaracji PIT-4 %1.").arg(klucz.napis()));
     const Recordset& rs = w.otoczenie().sesja.rsPIT4;
     const tax::SumyPit4 s = tax::SumyDeklaracji(rs.biezacyWiersz());
-    piszDeklaracje(w, rs,
-                   {{QStringLiteral("SUMA1"), s.SUMA1},
-                    {QStringLiteral("SUMA2"), s.SUMA2},
-                    {QStringLiteral("SUMA3"), s.SUMA3}});
+    PiszWiersz(w, rs,
+               {{QStringLiteral("SUMA1"), s.SUMA1},
+                {QStringLiteral("SUMA2"), s.SUMA2},
+                {QStringLiteral("SUMA3"), s.SUMA3}});
     return status::Wykonane;
 }
 
@@ -114,11 +79,11 @@ int roczna(Wywolanie& w, const DeklaracjaRoczna& deklaracja) {
     deklaracja.wypelnij(o, numerPracownikaZTekstu(a.pozycje[0]), okres, QDate::currentDate());
     const Recordset& rs = o.sesja.*deklaracja.uchwyt;
     const tax::SumyZrodel s = tax::SumujZrodla(rs);
-    piszDeklaracje(w, rs,
-                   {{QStringLiteral("SPRZY"), s.SPRZY},
-                    {QStringLiteral("SKUP"), s.SKUP},
-                    {QStringLiteral("SDOCHOD"), s.SDOCHOD},
-                    {QStringLiteral("SPOB_ZAL"), s.SPOB_ZAL}});
+    PiszWiersz(w, rs,
+               {{QStringLiteral("SPRZY"), s.SPRZY},
+                {QStringLiteral("SKUP"), s.SKUP},
+                {QStringLiteral("SDOCHOD"), s.SDOCHOD},
+                {QStringLiteral("SPOB_ZAL"), s.SPOB_ZAL}});
     return status::Wykonane;
 }
 

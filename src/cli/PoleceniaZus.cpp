@@ -1,8 +1,14 @@
 #include "cli/Polecenia.h"
+#include "cli/WierszTabeli.h"
 #include "cli/Wydruk.h"
 #include "common/Daty.h"
+#include "common/Liczby.h"
 #include "common/Rozmowa.h"
+#include "reports/zus/WydrukDRA.h"
 #include "reports/zus/WydrukKedu.h"
+#include "store/Sesja.h"
+#include "zus/OdczytKedu.h"
+#include "zus/RozliczenieDRA.h"
 #include "zus/ZbiorKedu.h"
 #include <QFileInfo>
 
@@ -88,10 +94,70 @@ int wydrukKedu(Wywolanie& w) {
     return status::Wykonane;
 }
 
+KluczDRA kluczDra(const Wywolanie& w) {
+    return {miesiacZTekstu(w.argumenty.pozycje.first()),
+            jestOpcja(w, u"numer") ? liczbaZTekstu(opcjaZus(w, u"numer"), 1, 32767, QStringLiteral("numer"))
+                                   : 1};
+}
+
+RozliczeniaDRA wybraneDra(Wywolanie& w) {
+    RozliczeniaDRA dra(w.otoczenie());
+    const KluczDRA klucz = kluczDra(w);
+    if (!dra.zaznacz(klucz)) throw Blad(QStringLiteral("Nie ma rozliczenia ZUS DRA %1.").arg(klucz.napis()));
+    return dra;
+}
+
+int draNowa(Wywolanie& w) {
+    const auto nowe =
+        RozliczeniaDRA(w.otoczenie())
+            .Nowe(miesiacZTekstu(w.argumenty.pozycje.first()), opcjaZus(w, u"listy"), QDate::currentDate());
+    if (!nowe) return status::Odmowa;
+    w.pisz(QString::number(nowe->numer));
+    return status::Wykonane;
+}
+
+int draPokaz(Wywolanie& w) {
+    const RozliczeniaDRA dra = wybraneDra(w);
+    const WplatyDRA wplaty = Wplaty(dra.sumy());
+    PiszWiersz(w, w.otoczenie().sesja.rsZUS,
+               {{QStringLiteral("wpłata 51"), wplaty.spoleczne},
+                {QStringLiteral("wpłata 52"), wplaty.zdrowotne},
+                {QStringLiteral("wpłata 53"), wplaty.fundusze}});
+    if (w.json()) return status::Wykonane;
+    for (const KontrolaDRA& k : dra.kontrola())
+        if (k.deklaracja != k.raport)
+            w.pisz(
+                QStringLiteral("różnica z RCA, %1: %2").arg(k.napis, FormatKwoty(k.deklaracja - k.raport)));
+    return status::Wykonane;
+}
+
+int draUsun(Wywolanie& w) {
+    return RozliczeniaDRA(w.otoczenie()).Usun(kluczDra(w)) ? status::Wykonane : status::Odmowa;
+}
+
+int wydrukDra(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    (void)wybraneDra(w);
+    WypiszWydruk(w, *reports::UlozDRA(w.otoczenie()));
+    return status::Wykonane;
+}
+
 } // namespace
 
 QList<Polecenie> poleceniaZus() {
+    const QList<OpcjaPolecenia> numer{{u"numer", u"N"}};
     return {
+        {u"dra nowa",
+         u"RRRR-MM",
+         u"rozliczenie ZUS DRA z list płac miesiąca",
+         1,
+         1,
+         {{u"listy", u"SYMBOLE"}},
+         draNowa},
+        {u"dra pokaz", u"RRRR-MM", u"rozliczenie z wpłatami i różnicami wobec RCA", 1, 1, numer, draPokaz},
+        {u"dra usun", u"RRRR-MM", u"usuwa rozliczenie ZUS DRA", 1, 1, numer, draUsun},
+        {u"wydruk dra", u"RRRR-MM (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"rozliczenie ZUS DRA na formularzu", 1, 1, opcjeWydruku(numer), wydrukDra},
         {u"kedu pokaz", u"PLIK", u"dokumenty kolekcji z nazwami pól", 1, 1, {}, keduPokaz},
         {u"wydruk kedu", u"PLIK (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
          u"kolekcja z nazwami pól", 1, 1, opcjeWydruku({}), wydrukKedu},

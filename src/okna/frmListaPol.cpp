@@ -123,6 +123,14 @@ void frmListaPol::budujSkroty() {
 
 void frmListaPol::dodaj(QWidget* widzet) { ramki_->addWidget(widzet); }
 
+void frmListaPol::dodajPrzycisk(QPushButton* przycisk) {
+    przycisk->setAutoDefault(false);
+    przycisk->setEnabled(biezacy_ >= 0);
+    auto* rzad = qobject_cast<QHBoxLayout*>(cmdUsun_->parentWidget()->layout());
+    rzad->insertWidget(rzad->indexOf(cmdUsun_) + 1 + static_cast<int>(wlasne_.size()), przycisk);
+    wlasne_.append(przycisk);
+}
+
 // --- list and row
 // ------------------------------------------------------------------------------------------------
 
@@ -160,6 +168,7 @@ void frmListaPol::Wypisz(qint64 id) {
     const bool jest = id >= 0 && przejdz(id);
     biezacy_ = jest ? id : -1;
     cmdUsun_->setEnabled(jest);
+    for (QPushButton* p : std::as_const(wlasne_)) p->setEnabled(jest);
     wiazanie_.blokuj(!jest);
     if (jest)
         wiazanie_.wczytaj();

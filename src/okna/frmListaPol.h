@@ -81,6 +81,8 @@ protected:
     [[nodiscard]] Wiazanie& wiazanie() { return wiazanie_; }
     /// Puts a widget below the frames of the fields.
     void dodaj(QWidget* widzet);
+    /// Puts a button of the screen's own behind that which deletes. It is able while a row is shown.
+    void dodajPrzycisk(QPushButton* przycisk);
 
     [[nodiscard]] bool jestZmiana() const override { return biezacy_ >= 0 && wiazanie_.jestZmiana(); }
     [[nodiscard]] bool zapiszZmiany() override { return Wpisz(); }
@@ -109,6 +111,7 @@ private:
     QVBoxLayout* ramki_ = nullptr;
     QLabel* labZmiana_;
     QPushButton *cmdNowy_, *cmdUsun_, *cmdAnuluj_;
+    QList<QPushButton*> wlasne_;
 };
 
 } // namespace tornel::okna

@@ -11,6 +11,7 @@
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPracWydruki.h"
 #include "personnel/frmPracZakladki.h"
+#include "personnel/frmRodzina.h"
 #include "store/SchematKadr.h"
 #include <algorithm>
 #include <QComboBox>
@@ -112,17 +113,19 @@ QWidget* frmPrac::rzad() {
     cmdWyszukaj_ = przycisk(QStringLiteral("cmdWyszukaj"), QStringLiteral("&Wyszukaj"), u"szukaj");
     cmdNowy_ = przycisk(QStringLiteral("cmdnowyprac"), QStringLiteral("&Nowy prac."), u"nowy");
     cmdUsun_ = przycisk(QStringLiteral("cmdusunprac"), QStringLiteral("&Usuń prac."), u"usun");
+    cmdRodzina_ = przycisk(QStringLiteral("cmdRodzina"), QStringLiteral("&Rodzina"));
     cmdDrukuj_ = przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj");
     cmdAnuluj_ = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Anuluj"));
     cmdZapisz_ = przycisk(QStringLiteral("cmdZapisz"), QStringLiteral("&Zapisz"));
     cmdPowrot_ = przycisk(QStringLiteral("cmdPowrot"), QStringLiteral("&Powrót"), u"powrot");
-    const QList<QPushButton*> przyciski{cmdWyszukaj_, cmdNowy_,   cmdUsun_,  cmdDrukuj_,
-                                        cmdAnuluj_,   cmdZapisz_, cmdPowrot_};
+    const QList<QPushButton*> przyciski{cmdWyszukaj_, cmdNowy_,   cmdUsun_,   cmdRodzina_,
+                                        cmdDrukuj_,   cmdAnuluj_, cmdZapisz_, cmdPowrot_};
     // Enter goes from field to field, so no button may answer it from afar.
     for (QPushButton* p : przyciski) p->setAutoDefault(false);
     connect(cmdWyszukaj_, &QPushButton::clicked, this, &frmPrac::szukaj);
     connect(cmdNowy_, &QPushButton::clicked, this, &frmPrac::NowyPracownik);
     connect(cmdUsun_, &QPushButton::clicked, this, &frmPrac::UsunPracownika);
+    connect(cmdRodzina_, &QPushButton::clicked, this, &frmPrac::rodzina);
     connect(cmdAnuluj_, &QPushButton::clicked, this, &frmPrac::anuluj);
     connect(cmdZapisz_, &QPushButton::clicked, this, &frmPrac::zapisz);
     connect(cmdPowrot_, &QPushButton::clicked, this, &QDialog::reject);
@@ -130,8 +133,8 @@ QWidget* frmPrac::rzad() {
     for (const PozycjaWydrukow& w : std::as_const(wydruki_.dostepne))
         connect(menu->addAction(w.napis), &QAction::triggered, this, [this, w] { drukuj(w); });
     cmdDrukuj_->setMenu(menu);
-    return rzadPrzyciskow(
-        {cmdWyszukaj_, cmdNowy_, cmdUsun_, cmdDrukuj_, cmdAnuluj_, cmdZapisz_, przyciskPomocy(), cmdPowrot_});
+    return rzadPrzyciskow({cmdWyszukaj_, cmdNowy_, cmdUsun_, cmdRodzina_, cmdDrukuj_, cmdAnuluj_, cmdZapisz_,
+                           przyciskPomocy(), cmdPowrot_});
 }
 
 void frmPrac::budujSkroty() {
@@ -209,6 +212,7 @@ void frmPrac::pokazStan() {
     cmdZapisz_->setEnabled(zmiany);
     cmdAnuluj_->setEnabled(kartoteka_.zmienionyPracownik() || wpisane);
     cmdUsun_->setEnabled(jest);
+    cmdRodzina_->setEnabled(jest);
     cmdWyszukaj_->setEnabled(jest);
     cmdDrukuj_->setEnabled(!osoby_.isEmpty() && !wydruki_.dostepne.isEmpty());
 }
@@ -239,6 +243,10 @@ void frmPrac::szukaj() {
         },
         this)
         .exec();
+}
+
+void frmPrac::rodzina() {
+    if (lvwPrac_->wybrany() >= 0) frmRodzina(o_, lvwPrac_->wybrany(), this).exec();
 }
 
 void frmPrac::NowyPracownik() {

@@ -49,6 +49,7 @@ private:
     void przejdz(int oIle);
 
     void szukaj();
+    void rodzina();
     void NowyPracownik();
     void UsunPracownika();
     void anuluj();
@@ -68,7 +69,8 @@ private:
     QComboBox* cboSort_;
     QLabel* labIlu_;
     ZakladkiPracownika* zakladki_;
-    QPushButton *cmdWyszukaj_, *cmdNowy_, *cmdUsun_, *cmdDrukuj_, *cmdAnuluj_, *cmdZapisz_, *cmdPowrot_;
+    QPushButton *cmdWyszukaj_, *cmdNowy_, *cmdUsun_, *cmdDrukuj_, *cmdRodzina_, *cmdAnuluj_, *cmdZapisz_,
+        *cmdPowrot_;
 };
 
 } // namespace tornel::personnel

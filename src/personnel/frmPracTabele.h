@@ -268,7 +268,8 @@ inline constexpr PoleTabeli kDokumentyZus[] = {
     {u"ZUS ZUA:", PRACZUS("oi_zua"), Wybor, {}, kZUA},
     {u"ZUS ZZA:", PRACZUS("oi_zza"), Wybor, {}, kZZA},
     {u"ZUS ZIUA:", PRACZUS("oi_ziua"), Wybor, {}, kZIUA},
-    {u"ZUS RCA, RNA lub RZA:", PRACZUS("rza"), Wybor, {}, kRZA},
+    {u"ZUS RCA, RNA lub RZA:", PRACZUS("rza"), Wybor,
+     u"Wiersz w raportach RZA i RSA; 1 i 2 działają tak samo", kRZA},
 };
 inline constexpr PoleTabeli kStawki[] = {
     {u"Ubezp. zdrowotne:", PRACZUS("wsk_ubzdr"), Kwota}, {u"Fundusz emerytalny:", PRACZUS("wsk_fe"), Kwota},

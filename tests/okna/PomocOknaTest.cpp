@@ -21,6 +21,7 @@
 #include "personnel/frmKartaEw.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
+#include "personnel/frmRodzina.h"
 #include "personnel/frmWybPr.h"
 #include "personnel/frmWydrukKadr.h"
 #include "personnel/Urlopy.h"
@@ -219,6 +220,7 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
         [] {
             return std::make_unique<frmUwagiKedu>([] { return QList<UwagaKedu>(); }, frmUwagiKedu::Popraw());
         },
+        [&] { return std::make_unique<frmRodzina>(o(), 11); },
         [&] { return std::make_unique<frmKedu>(rozmowa_, QString(), QString()); },
         [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
         [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },

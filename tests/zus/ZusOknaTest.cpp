@@ -1,11 +1,15 @@
 // The screens of the insurer's documents: choice, remarks, view.
 #include "common/Pliki.h"
+#include "okna/WidokListy.h"
+#include "reports/zus/WydrukDRA.h"
 #include "start/Przyklad.h"
 #include "start/Rozruch.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
+#include "wsparcie/TekstStrony.h"
 #include "wsparcie/Widzet.h"
 #include "zus/frmKedu.h"
+#include "zus/frmListaDRA.h"
 #include "zus/frmUwagiKedu.h"
 #include "zus/frmWydrukiZUS.h"
 #include <QAbstractItemModelTester>
@@ -174,6 +178,32 @@ TEST_F(ZusOkna, UwagaProwadziDoMiejscaAPoprawionaZnika) {
     EXPECT_EQ(widzet<QLabel>(okno, u"labIle"_s).text(), u"Nie ma już uwag."_s);
     widzet<QPushButton>(okno, u"cmdMimo"_s).click();
     EXPECT_EQ(okno.result(), QDialog::Accepted);
+}
+
+TEST_F(ZusOkna, RozliczeniePokazujeWplatyIZmianeMiesiaca) {
+    (void)RozliczeniaDRA(o()).Nowe({2001, 3}, {}, {2001, 4, 5});
+    int wydrukow = 0;
+    frmListaDRA okno(o(), [&](QWidget*) { ++wydrukow; });
+    okno.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&okno));
+    EXPECT_TRUE(widzet<QLabel>(okno, u"labWplaty"_s).text().contains(u"społeczne (51) 14217,05 zł"_s))
+        << widzet<QLabel>(okno, u"labWplaty"_s).text().toStdString();
+    auto& baner = widzet<QLabel>(okno, u"labNieaktualne"_s);
+    EXPECT_FALSE(baner.isVisible());
+    auto& fp = widzet<QLineEdit>(okno, u"txtFp"_s);
+    fp.setFocus(Qt::TabFocusReason);
+    fp.selectAll();
+    QTest::keyClicks(&fp, u"1 000,5"_s);
+    widzet<QPushButton>(okno, u"cmdKontrola"_s).click(); // stores first
+    EXPECT_EQ(o().sesja.rsZUS.kwota(schemat::ZUS("Fp")), Waluta::zLiczby(1000.5));
+    EXPECT_EQ(widzet<QLineEdit>(okno, u"txtDoZaplaty"_s).text(), u"17777,66"_s);
+    EXPECT_TRUE(baner.isVisible()) << "the month gives another amount";
+    EXPECT_EQ(widzet<WidokListy>(okno, u"lvwKontrola"_s).model()->rowCount(), 7);
+    widzet<QPushButton>(okno, u"cmdDrukuj"_s).click();
+    EXPECT_EQ(wydrukow, 1);
+    porownajZWzorcem(__FILE__, u"dra"_s, *reports::UlozDRA(o()));
+    QTest::keyClick(&okno, Qt::Key_Escape);
+    EXPECT_FALSE(okno.isVisible());
 }
 
 } // namespace
