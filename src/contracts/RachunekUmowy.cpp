@@ -31,6 +31,14 @@ RachunekUmowy Przelicz(RachunekUmowy r, KrokUmowy krok) {
     return r;
 }
 
+RachunekUmowy PoOpuszczeniu(RachunekUmowy r, const PoleUmowy& pole, Waluta kwota) {
+    Waluta& pozycja = *PozycjaRachunku(r, pole.kolumna);
+    pozycja = Round(kwota, 2);
+    // Deliberate: too high a transfer becomes 0, not the net amount.
+    if (pole.rodzaj == RodzajPolaUmowy::Przelew && r.Netto < pozycja) pozycja = {};
+    return Przelicz(r, pole.start);
+}
+
 Waluta* PozycjaRachunku(RachunekUmowy& r, std::string_view kolumna) {
     constexpr std::pair<std::string_view, Waluta RachunekUmowy::*> pojedyncze[] = {
         {"Brutto", &RachunekUmowy::Brutto},       {"koszt_uz", &RachunekUmowy::koszt_uz},

@@ -29,6 +29,10 @@ struct RachunekUmowy {
 /// `Przepelnienie` when an amount leaves the range of money.
 [[nodiscard]] RachunekUmowy Przelicz(RachunekUmowy rachunek, KrokUmowy krok);
 
+/// The rachunek after a field was left with this amount: rounded to grosze, half to even; a transfer above
+/// the net amount becomes 0; then calculated from the field's step. Throws `Przepelnienie`.
+[[nodiscard]] RachunekUmowy PoOpuszczeniu(RachunekUmowy rachunek, const PoleUmowy& pole, Waluta kwota);
+
 /// A number of the rachunek by its column ("Brutto", "wskfeprd"), in any case; none for another column.
 [[nodiscard]] Waluta* PozycjaRachunku(RachunekUmowy& rachunek, std::string_view kolumna);
 

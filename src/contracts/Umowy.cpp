@@ -8,6 +8,7 @@
 #include "store/Sesja.h"
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace tornel::contracts {
 
@@ -36,18 +37,44 @@ qint64 numerUrzedu(const QString& napis) {
 
 } // namespace
 
+bool FiltrUmow::pasuje(const LiniaUmowy& linia) const {
+    return (!rok || linia.zawarta.year() == *rok) && (!prcId || linia.prcId == *prcId) &&
+           (!niewyplacone || !linia.wyplacona.isValid());
+}
+
+SumaUmow SumujLinie(const QList<LiniaUmowy>& linie) {
+    SumaUmow suma{linie.size(), {}, {}};
+    for (const LiniaUmowy& l : linie) {
+        suma.brutto += l.brutto;
+        suma.netto += l.netto;
+    }
+    return suma;
+}
+
 Umowy::Umowy(Otoczenie& otoczenie, const RodzajUmowy& rodzaj)
     : o_(otoczenie), rodzaj_(rodzaj), rs_(uchwyt(otoczenie.sesja, rodzaj)) {
-    rs_.Open(o_.sesja.cnPlace);
-    rs_.Sort({rodzaj_.kolumna("data_zaw"), rodzaj_.numer, rodzaj_.id});
+    Odswiez();
     if (!o_.sesja.rsUS.otwarty()) o_.sesja.rsUS.Open(o_.sesja.cnPlace);
 }
 
+void Umowy::Odswiez() {
+    biezaca_.reset();
+    rachunek_ = {};
+    rs_.Open(o_.sesja.cnPlace);
+}
+
 QList<LiniaUmowy> Umowy::Wczytaj() const {
+    const Kolumna zawarta = rodzaj_.kolumna("data_zaw"), wyslana = rodzaj_.kolumna("wys_mcs"),
+                  osoba = rodzaj_.kolumna("prc_id"), naz = rodzaj_.kolumna("Naz"),
+                  imie = rodzaj_.kolumna("Imie"), brutto = rodzaj_.kolumna("Brutto"),
+                  netto = rodzaj_.kolumna("Netto"), wyplacona = rodzaj_.kolumna("data_wyp");
+    rs_.Sort({zawarta, rodzaj_.numer, rodzaj_.id});
     QList<LiniaUmowy> wynik;
+    wynik.reserve(rs_.RecordCount());
     for (const Wiersz w : rs_.wiersze())
-        wynik.append({w.liczba(rodzaj_.id), w.data(rodzaj_.kolumna("data_zaw")),
-                      w.tekst(rodzaj_.kolumna("Naz")).toUpper()});
+        wynik.append({w.liczba(rodzaj_.id), w.data(zawarta), w.tekst(naz).toUpper(), w.liczba(osoba),
+                      w.tekst(rodzaj_.numer), w.tekst(imie), w.kwota(brutto), w.kwota(netto),
+                      w.data(wyplacona), wyslana.tabela && w.flaga(wyslana)});
     return wynik;
 }
 
@@ -69,13 +96,18 @@ void Umowy::wymagajWybranej() const {
 
 Umowy::Zrozumienie Umowy::wpiszKwote(const PoleUmowy& pole, const QString& tekst) {
     const std::optional<Waluta> kwota = CzytajKwote(tekst);
-    RachunekUmowy rachunek = rachunek_;
-    Waluta& pozycja = *PozycjaRachunku(rachunek, pole.kolumna);
-    pozycja = Round(kwota.value_or(Waluta{}), 2);
-    // Deliberate: too high a transfer becomes 0, not the net amount.
-    if (pole.rodzaj == RodzajPolaUmowy::Przelew && rachunek.Netto < pozycja) pozycja = {};
-    rachunek_ = Przelicz(rachunek, pole.start);
+    rachunek_ = PoOpuszczeniu(rachunek_, pole, kwota.value_or(Waluta{}));
     return kwota ? Zrozumienie::Pelne : Zrozumienie::Zadne;
+}
+
+void Umowy::ustawKwote(const PoleUmowy& pole, Waluta kwota) {
+    wymagajWybranej();
+    *PozycjaRachunku(rachunek_, pole.kolumna) = kwota;
+}
+
+void Umowy::Porzuc() {
+    rs_.CancelBatch();
+    biezaca_.reset();
 }
 
 void Umowy::wpiszTekst(Kolumna kolumna, const QString& tekst) {
@@ -153,31 +185,67 @@ qint64 Umowy::WolnyNumer() const {
     return wolny;
 }
 
-qint64 Umowy::Nowy(qint64 prcId, QDate data) {
+void Umowy::wymagajOsoby(qint64 prcId, QDate data) const {
     const QList<Osoba> osoby = Pracownicy(o_).doWyboru(rodzaj_.trybWyboru);
     if (std::ranges::find(osoby, prcId, &Osoba::prcId) == osoby.end())
         throw Blad(QStringLiteral("Pracownik nr %1 nie pracuje albo nie zawiera takich umów.").arg(prcId));
     if (!data.isValid()) throw Blad(QStringLiteral("Nie podano daty zawarcia umowy."));
-    Sesja& s = o_.sesja;
-    const auto osoba = s.rsPRACDP.szukaj(prcId), ustawienia = s.rsPRACPR.szukaj(prcId);
-    if (!osoba || !ustawienia) throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
+}
 
+qint64 Umowy::dodaj(QDate data) {
     const qint64 id = WolnyNumer();
+    if (id > std::numeric_limits<qint16>::max())
+        throw Blad(QStringLiteral("Nie ma już wolnego numeru: umów tego rodzaju jest %1. Usuń niepotrzebne.")
+                       .arg(id - 1));
     rs_.AddNewZero(id);
-    rs_.ustaw(rodzaj_.kolumna("prc_id"), prcId);
-    rs_.ustaw(rodzaj_.kolumna("Naz"), osoba->tekst(PRACDP("Naz")));
-    rs_.ustaw(rodzaj_.kolumna("Imie"), osoba->tekst(PRACDP("Imie_1")));
     rs_.ustaw(rodzaj_.kolumna("data_zaw"), data);
-    for (const ZKartoteki& z : rodzaj_.zKartoteki)
-        rs_.ustaw(rodzaj_.kolumna(z.kolumna), ustawienia->wartosc(z.zrodlo));
     if (const Kolumna wyslane = rodzaj_.kolumna("wys_mcs"); wyslane.tabela)
         rs_.ustaw(wyslane, QStringLiteral("N"));
+    return id;
+}
+
+void Umowy::zapiszNowa() {
     try {
         rs_.UpdateBatch(rodzaj_.nowa);
     } catch (...) {
         rs_.CancelBatch();
         throw;
     }
+}
+
+qint64 Umowy::Nowy(qint64 prcId, QDate data) {
+    wymagajOsoby(prcId, data);
+    Sesja& s = o_.sesja;
+    const auto osoba = s.rsPRACDP.szukaj(prcId), ustawienia = s.rsPRACPR.szukaj(prcId);
+    if (!osoba || !ustawienia) throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
+
+    const qint64 id = dodaj(data);
+    rs_.ustaw(rodzaj_.kolumna("prc_id"), prcId);
+    rs_.ustaw(rodzaj_.kolumna("Naz"), osoba->tekst(PRACDP("Naz")));
+    rs_.ustaw(rodzaj_.kolumna("Imie"), osoba->tekst(PRACDP("Imie_1")));
+    for (const ZKartoteki& z : rodzaj_.zKartoteki)
+        rs_.ustaw(rodzaj_.kolumna(z.kolumna), ustawienia->wartosc(z.zrodlo));
+    zapiszNowa();
+    return id;
+}
+
+qint64 Umowy::Kopia(qint64 wzorId, QDate data) {
+    const auto wzor = rs_.szukaj(wzorId);
+    if (!wzor) throw Blad(QStringLiteral("Nie ma umowy o numerze %1.").arg(wzorId));
+    wymagajOsoby(wzor->liczba(rodzaj_.kolumna("prc_id")), data);
+    // What a new contract has not yet: its own number and days, and its place in a file for the bank.
+    constexpr std::string_view wlasne[] = {"data_zaw", "data_od", "data_do", "data_wyp", "paczka", "wys_mcs"};
+    QList<std::pair<Kolumna, Wartosc>> wspolne;
+    for (int i = 0; i < static_cast<int>(rodzaj_.tabela->kolumny.size()); ++i) {
+        const Kolumna k = rodzaj_.tabela->nr(i);
+        const bool wlasna =
+            i == rodzaj_.id.nr || i == rodzaj_.numer.nr ||
+            std::ranges::any_of(wlasne, [&](auto n) { return rodzaj_.tabela->numer(n) == i; });
+        if (!wlasna) wspolne.append({k, wzor->wartosc(k)});
+    }
+    const qint64 id = dodaj(data);
+    for (const auto& [kolumna, wartosc] : std::as_const(wspolne)) rs_.ustaw(kolumna, wartosc);
+    zapiszNowa();
     return id;
 }
 

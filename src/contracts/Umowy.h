@@ -18,7 +18,28 @@ struct LiniaUmowy {
     qint64 id = 0;
     QDate zawarta;
     QString nazwisko; ///< in upper case
+    qint64 prcId = 0;
+    QString numer, imie;
+    Waluta brutto, netto; ///< zł
+    QDate wyplacona;      ///< invalid while it is not paid
+    bool wyslana = false; ///< stands in a file for the bank
 };
+
+/// Which lines are wanted; what is not given may be anything.
+struct FiltrUmow {
+    std::optional<int> rok = {}; ///< of conclusion
+    std::optional<qint64> prcId = {};
+    bool niewyplacone = false; ///< only those without a day of payment
+
+    [[nodiscard]] bool pasuje(const LiniaUmowy& linia) const;
+};
+
+/// Of the lines given, zł.
+struct SumaUmow {
+    qsizetype ile = 0;
+    Waluta brutto, netto;
+};
+[[nodiscard]] SumaUmow SumujLinie(const QList<LiniaUmowy>& linie);
 
 class Umowy {
 public:
@@ -26,6 +47,9 @@ public:
     Umowy(Otoczenie& otoczenie, const RodzajUmowy& rodzaj);
     /// By date of conclusion, number and key.
     [[nodiscard]] QList<LiniaUmowy> Wczytaj() const;
+
+    /// Reads the table again, as after others have written it; nothing is taken up.
+    void Odswiez();
 
     /// Takes the contract up; its amounts and rates are those that its fields show. False if there is none.
     bool Wypisz(qint64 id);
@@ -41,9 +65,21 @@ public:
     /// action. Throws `BladBazy`, `Konflikt`.
     void Wpisz();
 
+    /// The amounts and rates of the contract taken up.
+    [[nodiscard]] const RachunekUmowy& rachunek() const { return rachunek_; }
+    /// Sets one of them as it stands, with no calculation. In memory.
+    void ustawKwote(const PoleUmowy& pole, Waluta kwota);
+    /// Drops what was set and not stored.
+    void Porzuc();
+    /// The handle that stands on the contract taken up.
+    [[nodiscard]] Recordset& tabela() { return rs_; }
+
     /// Adds a contract of this person with the rates of the personnel file and saves it; gives its key.
     /// Throws `Blad` for a person whom the picker of this kind would not list.
     qint64 Nowy(qint64 prcId, QDate data);
+    /// Adds a contract with all that contract `id` has, but its number, its days and its marks of bank files;
+    /// gives its key. Throws as `Nowy`, and `Blad` for an unknown `id`.
+    qint64 Kopia(qint64 id, QDate data);
     /// Asks and deletes the contract taken up. False on No.
     bool Usun();
     /// The smallest free key from 1.
@@ -51,6 +87,10 @@ public:
 
 private:
     void wymagajWybranej() const;
+    void wymagajOsoby(qint64 prcId, QDate data) const;
+    /// A new row with the smallest free key.
+    qint64 dodaj(QDate data);
+    void zapiszNowa();
     void wpiszTekst(Kolumna kolumna, const QString& tekst);
     void wpiszUrzad();
     Zrozumienie wpiszKwote(const PoleUmowy& pole, const QString& tekst);

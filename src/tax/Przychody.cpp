@@ -1,5 +1,6 @@
 #include "tax/Przychody.h"
 #include "common/Blad.h"
+#include "contracts/SumyUmow.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "rules/SkladnikiPlac.h"
 #include "store/Sesja.h"
@@ -9,13 +10,10 @@
 
 namespace tornel::tax {
 
-using schemat::HON;
 using schemat::PLA;
 using schemat::PLACE;
 using schemat::PLB;
 using schemat::PLS;
-using schemat::UOD;
-using schemat::UZL;
 
 namespace {
 
@@ -117,38 +115,14 @@ QHash<qint64, SumyPlac> sumyPlac(Sesja& sesja, const OkresPodatkowy& okres, std:
     return sumy;
 }
 
-/// Where a kind of contract keeps what is summed. A fee has no contributions.
-struct KolumnyUmowy {
-    const TabelaDef* tabela;
-    Kolumna prcId, zaplacona, brutto, koszty, podatek;
-    std::optional<Kolumna> feprc = {}, frprc = {}, fcprc = {}, ubzdr = {};
-};
+SumyUmow zKwot(const SumyKwot& k) {
+    return {k.brutto, k.koszty, k.podatek, k.feprc + k.frprc + k.fcprc, k.ubzdr};
+}
 
-constexpr KolumnyUmowy kUmowy[] = {
-    {&UZL, UZL("prc_id"), UZL("data_wyp"), UZL("Brutto"), UZL("koszt_uz"), UZL("Podatek"), UZL("Feprc"),
-     UZL("Frprc"), UZL("FcPrc"), UZL("Ubzdr")},
-    {&UOD, UOD("prc_id"), UOD("data_wyp"), UOD("Brutto"), UOD("koszt_uz"), UOD("Podatek"), UOD("Feprc"),
-     UOD("Frprc"), UOD("FcPrc"), UOD("Ubzdr")},
-    {&HON, HON("prc_id"), HON("data_wyp"), HON("Brutto"), HON("koszt_uz"), HON("Podatek")},
-};
-
-QHash<qint64, SumyUmow> sumyUmow(Sesja& sesja, const TabelaDef& tabela, const OkresPodatkowy& okres,
-                                 std::optional<qint64> prcId) {
-    const KolumnyUmowy* u = std::ranges::find(kUmowy, &tabela, &KolumnyUmowy::tabela);
-    if (u == std::end(kUmowy)) throw Blad(QStringLiteral("Deklaracje nie czytają tej tabeli umów."));
-    Zapytanie pytanie(tabela);
-    pytanie.kolumny(u->prcId, u->brutto, u->koszty, u->podatek)
-        .gdzie(u->zaplacona >= Wartosc(okres.od.pierwszyDzien()) &&
-               u->zaplacona <= Wartosc(okres.dokad.ostatniDzien()));
-    for (const auto& k : {u->feprc, u->frprc, u->fcprc, u->ubzdr})
-        if (k) pytanie.kolumny(*k);
-    QHash<qint64, SumyUmow> sumy;
-    czytaj(sesja, pytanie, u->prcId, prcId, [&](const WierszeZapytania& w) {
-        const auto kwota = [&](const std::optional<Kolumna>& k) { return k ? w.kwota(*k) : Waluta{}; };
-        sumy[w.liczba(u->prcId)] += {w.kwota(u->brutto), w.kwota(u->koszty), w.kwota(u->podatek),
-                                     kwota(u->feprc) + kwota(u->frprc) + kwota(u->fcprc), kwota(u->ubzdr)};
-    });
-    return sumy;
+const RodzajUmowy& rodzajTabeli(const TabelaDef& tabela) {
+    const auto rodzaj = std::ranges::find(RodzajeUmow(), &tabela, &RodzajUmowy::tabela);
+    if (rodzaj == RodzajeUmow().end()) throw Blad(QStringLiteral("Deklaracje nie czytają tej tabeli umów."));
+    return *rodzaj;
 }
 
 } // namespace
@@ -219,12 +193,19 @@ SumyUmow& SumyUmow::operator+=(const SumyUmow& b) {
 }
 
 SumyUmow SumujUmowy(Sesja& sesja, const TabelaDef& tabela, const OkresPodatkowy& okres, qint64 prcId) {
-    return sumyUmow(sesja, tabela, okres, prcId).value(prcId);
+    const RodzajUmowy& rodzaj = rodzajTabeli(tabela);
+    return zKwot(
+        contracts::SumujUmowy(sesja, rodzaj, okres.od.pierwszyDzien(), okres.dokad.ostatniDzien(), prcId)
+            .value(prcId));
 }
 
 QHash<qint64, SumyUmow> SumujUmowyWszystkich(Sesja& sesja, const TabelaDef& tabela,
                                              const OkresPodatkowy& okres) {
-    return sumyUmow(sesja, tabela, okres, {});
+    const auto kwoty = contracts::SumujUmowy(sesja, rodzajTabeli(tabela), okres.od.pierwszyDzien(),
+                                             okres.dokad.ostatniDzien());
+    QHash<qint64, SumyUmow> sumy;
+    for (auto k = kwoty.begin(); k != kwoty.end(); ++k) sumy.insert(k.key(), zKwot(k.value()));
+    return sumy;
 }
 
 } // namespace tornel::tax
