@@ -12,6 +12,8 @@
 #include "bank/frmKonta.h"
 #include "bank/frmMCS.h"
 #include "bank/frmWybKonta.h"
+#include "contracts/frmUmowy.h"
+#include "contracts/frmUZLData.h"
 #include "druk/Wyjscie.h"
 #include "okna/Aplikacja.h"
 #include "okna/frmInputData.h"
@@ -222,6 +224,21 @@ void przelewy(const Zrzuty& zrzuty, Otoczenie& o) {
                       QStringLiteral("wydruk-") + w.nazwa.toString());
 }
 
+void umowy(const Zrzuty& zrzuty, Otoczenie& o) {
+    for (const RodzajUmowy& rodzaj : RodzajeUmow()) {
+        const EkranUmow& opis = EkranRodzaju(rodzaj);
+        o.stale.MCSAkt = true;
+        frmUmowy ekran(o, rodzaj, nullptr, {.wydruki = {}, .przelewy = tornel::reports::UlozPrzelewy});
+        zrzuty.ekran(ekran, opis.nazwa.toString());
+        if (auto* karty = ekran.findChild<QTabWidget*>(QStringLiteral("tabUmowy"))) {
+            karty->setCurrentIndex(1);
+            zrzuty.ekran(ekran, opis.nazwa.toString() + QStringLiteral("-skladki"));
+        }
+    }
+    frmUZLData data(RodzajeUmow().front());
+    zrzuty.dialog(data, QStringLiteral("frmUZLData"));
+}
+
 void nieobecnosci(const Zrzuty& zrzuty, Otoczenie& o) {
     for (const int prcId : {3, 8})
         for (const int mies : {4, 5})
@@ -355,6 +372,7 @@ int main(int argc, char** argv) {
     uzytkownicy(zrzuty, o);
     place(zrzuty, o);
     przelewy(zrzuty, o);
+    umowy(zrzuty, o);
     nieobecnosci(zrzuty, o);
     wydruki(zrzuty, o);
     zus(zrzuty, o);

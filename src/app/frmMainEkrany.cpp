@@ -2,6 +2,7 @@
 #include "app/frmHaslo.h"
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
+#include "app/frmMainUmowy.h"
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmMainWydrukiListy.h"
 #include "app/frmMainZus.h"
@@ -58,6 +59,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     zarejestruj<frmKonta>(okno, otoczenie, Wejscie::KontaBankowe);
     ZarejestrujZbiorowki(okno, otoczenie);
     ZarejestrujZus(okno, otoczenie);
+    ZarejestrujUmowy(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);
     zarejestruj<frmLogLista>(okno, otoczenie, Wejscie::ListaUzytkownikow);
     okno.rejestruj(Wejscie::StaleProgramu, [&] {

@@ -28,8 +28,8 @@ using namespace personnel;
 namespace bank {
 using namespace payroll;
 }
-namespace contracts { // beside bank: neither sees the other
-using namespace personnel;
+namespace contracts {
+using namespace bank; // which pays them
 }
 namespace tax {
 using namespace bank;

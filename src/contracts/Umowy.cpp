@@ -52,7 +52,11 @@ SumaUmow SumujLinie(const QList<LiniaUmowy>& linie) {
 }
 
 Umowy::Umowy(Otoczenie& otoczenie, const RodzajUmowy& rodzaj)
-    : o_(otoczenie), rodzaj_(rodzaj), rs_(uchwyt(otoczenie.sesja, rodzaj)) {
+    : o_(otoczenie), rodzaj_(rodzaj),
+      rs_(uchwyt(otoczenie.sesja, rodzaj)), kolumny_{rodzaj.kolumna("data_zaw"), rodzaj.kolumna("Naz"),
+                                                     rodzaj.kolumna("prc_id"),   rodzaj.kolumna("Imie"),
+                                                     rodzaj.kolumna("Brutto"),   rodzaj.kolumna("Netto"),
+                                                     rodzaj.kolumna("data_wyp"), rodzaj.kolumna("wys_mcs")} {
     Odswiez();
     if (!o_.sesja.rsUS.otwarty()) o_.sesja.rsUS.Open(o_.sesja.cnPlace);
 }
@@ -64,18 +68,25 @@ void Umowy::Odswiez() {
 }
 
 QList<LiniaUmowy> Umowy::Wczytaj() const {
-    const Kolumna zawarta = rodzaj_.kolumna("data_zaw"), wyslana = rodzaj_.kolumna("wys_mcs"),
-                  osoba = rodzaj_.kolumna("prc_id"), naz = rodzaj_.kolumna("Naz"),
-                  imie = rodzaj_.kolumna("Imie"), brutto = rodzaj_.kolumna("Brutto"),
-                  netto = rodzaj_.kolumna("Netto"), wyplacona = rodzaj_.kolumna("data_wyp");
-    rs_.Sort({zawarta, rodzaj_.numer, rodzaj_.id});
+    rs_.Sort({kolumny_.zawarta, rodzaj_.numer, rodzaj_.id});
     QList<LiniaUmowy> wynik;
     wynik.reserve(rs_.RecordCount());
-    for (const Wiersz w : rs_.wiersze())
-        wynik.append({w.liczba(rodzaj_.id), w.data(zawarta), w.tekst(naz).toUpper(), w.liczba(osoba),
-                      w.tekst(rodzaj_.numer), w.tekst(imie), w.kwota(brutto), w.kwota(netto),
-                      w.data(wyplacona), wyslana.tabela && w.flaga(wyslana)});
+    for (const Wiersz w : rs_.wiersze()) wynik.append(linia(w));
     return wynik;
+}
+
+std::optional<LiniaUmowy> Umowy::linia(qint64 id) const {
+    const auto wiersz = rs_.szukaj(id);
+    return wiersz ? std::optional(linia(*wiersz)) : std::nullopt;
+}
+
+LiniaUmowy Umowy::linia(const Wiersz& w) const {
+    const KolumnyListy& k = kolumny_;
+    return {w.liczba(rodzaj_.id),     w.data(k.zawarta),
+            w.tekst(k.naz).toUpper(), w.liczba(k.osoba),
+            w.tekst(rodzaj_.numer),   w.tekst(k.imie),
+            w.kwota(k.brutto),        w.kwota(k.netto),
+            w.data(k.wyplacona),      k.wyslana.tabela && w.flaga(k.wyslana)};
 }
 
 bool Umowy::Wypisz(qint64 id) {
@@ -194,9 +205,6 @@ void Umowy::wymagajOsoby(qint64 prcId, QDate data) const {
 
 qint64 Umowy::dodaj(QDate data) {
     const qint64 id = WolnyNumer();
-    if (id > std::numeric_limits<qint16>::max())
-        throw Blad(QStringLiteral("Nie ma już wolnego numeru: umów tego rodzaju jest %1. Usuń niepotrzebne.")
-                       .arg(id - 1));
     rs_.AddNewZero(id);
     rs_.ustaw(rodzaj_.kolumna("data_zaw"), data);
     if (const Kolumna wyslane = rodzaj_.kolumna("wys_mcs"); wyslane.tabela)

@@ -9,6 +9,7 @@
 
 namespace tornel::store {
 class Recordset;
+class Wiersz;
 } // namespace tornel::store
 
 namespace tornel::contracts {
@@ -48,6 +49,9 @@ public:
     /// By date of conclusion, number and key.
     [[nodiscard]] QList<LiniaUmowy> Wczytaj() const;
 
+    /// The line of one contract as it stands in the handle; nothing for an unknown one.
+    [[nodiscard]] std::optional<LiniaUmowy> linia(qint64 id) const;
+
     /// Reads the table again, as after others have written it; nothing is taken up.
     void Odswiez();
 
@@ -86,6 +90,11 @@ public:
     [[nodiscard]] qint64 WolnyNumer() const;
 
 private:
+    /// What the list shows, found by name once.
+    struct KolumnyListy {
+        Kolumna zawarta, naz, osoba, imie, brutto, netto, wyplacona, wyslana;
+    };
+    [[nodiscard]] LiniaUmowy linia(const Wiersz& wiersz) const;
     void wymagajWybranej() const;
     void wymagajOsoby(qint64 prcId, QDate data) const;
     /// A new row with the smallest free key.
@@ -98,6 +107,7 @@ private:
     Otoczenie& o_;
     const RodzajUmowy& rodzaj_;
     Recordset& rs_;
+    KolumnyListy kolumny_;
     std::optional<qint64> biezaca_;
     RachunekUmowy rachunek_;
 };

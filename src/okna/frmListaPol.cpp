@@ -12,6 +12,7 @@
 #include <QScopeGuard>
 #include <QShortcut>
 #include <QSplitter>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace tornel::okna {
@@ -36,7 +37,7 @@ frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, co
     uklad->addWidget(
         dzielnik(lewaStrona(opis), opis.szerokosc > 0 ? opis.szerokosc : kSzerokoscListy, prawaStrona(opis)),
         1);
-    uklad->addWidget(dol());
+    uklad->addWidget(dol(opis.przyciski));
     budujSkroty();
     resize(kSzerokosc, std::max(kNajmniejszaWysokosc, sizeHint().height()));
 
@@ -57,10 +58,10 @@ QWidget* frmListaPol::lewaStrona(const OpisListyPol& opis) {
     txtSzukaj_ = new PoleSzukania(*lvwLista_, opis.kolumnaNumeru, opis.kolumnaNazwy);
     txtSzukaj_->setPlaceholderText(opis.szukaj);
     auto* lewa = new QWidget;
-    auto* uklad = new QVBoxLayout(lewa);
-    uklad->setContentsMargins(0, 0, 0, 0);
-    uklad->addWidget(txtSzukaj_);
-    uklad->addWidget(lvwLista_, 1);
+    lewy_ = new QVBoxLayout(lewa);
+    lewy_->setContentsMargins(0, 0, 0, 0);
+    lewy_->addWidget(txtSzukaj_);
+    lewy_->addWidget(lvwLista_, 1);
     return lewa;
 }
 
@@ -70,34 +71,63 @@ QWidget* frmListaPol::prawaStrona(const OpisListyPol& opis) {
     uklad->setContentsMargins(0, 0, 0, 0);
     ramki_ = new QVBoxLayout;
     uklad->addLayout(ramki_);
-    bool notatka = false;
-    QList<QGroupBox*> ramki;
-    for (const GrupaPol& grupa : opis.grupy) {
-        QGroupBox* ramka = wiazanie_.grupa(grupa.tytul, grupa.pola, grupa.kolumn);
-        ramki_->addWidget(ramka);
-        ramki.append(ramka);
-        for (const Pole& pole : grupa.pola) {
-            if (pole.dostep == Dostep::Edycja) pola_.append(pole.nazwa);
-            if (pole.rodzaj != Rodzaj::Notatka) continue;
-            notatka = true;
-            ramki_->setStretchFactor(ramka, 1);
-            if (pole.podpis.isEmpty()) wiazanie_.kontrolka(pole.nazwa)->setAccessibleName(grupa.tytul);
-        }
-    }
-    wyrownajPodpisy(ramki);
+    QStringList tytuly;
+    for (const GrupaPol& grupa : opis.grupy)
+        if (!tytuly.contains(grupa.zakladka)) tytuly.append(grupa.zakladka);
+    bool wypelnione = true;
+    if (opis.zakladki.isEmpty())
+        wypelnione = ustawRamki(*ramki_, opis.grupy, opis.najszerszePodpisy);
+    else
+        ramki_->addWidget(zakladki(opis, tytuly), 1);
     // A note takes the height that is left; without one the frames stay together at the top.
-    if (notatka)
+    if (wypelnione)
         uklad->setStretchFactor(ramki_, 1);
     else
         uklad->addStretch(1);
     return prawa;
 }
 
-QWidget* frmListaPol::dol() {
+QWidget* frmListaPol::zakladki(const OpisListyPol& opis, const QStringList& tytuly) {
+    auto* karty = new QTabWidget;
+    karty->setObjectName(opis.zakladki);
+    for (const QString& tytul : tytuly) {
+        QList<GrupaPol> grupy;
+        for (const GrupaPol& grupa : opis.grupy)
+            if (grupa.zakladka == tytul) grupy.append(grupa);
+        auto* strona = new QWidget;
+        auto* uklad = new QVBoxLayout(strona);
+        if (!ustawRamki(*uklad, grupy, opis.najszerszePodpisy)) uklad->addStretch(1);
+        karty->addTab(strona, tytul);
+    }
+    return karty;
+}
+
+bool frmListaPol::ustawRamki(QVBoxLayout& uklad, const QList<GrupaPol>& grupy, int najszerszePodpisy) {
+    bool notatka = false;
+    QList<QGroupBox*> ramki;
+    for (const GrupaPol& grupa : grupy) {
+        QGroupBox* ramka = wiazanie_.grupa(grupa.tytul, grupa.pola, grupa.kolumn);
+        uklad.addWidget(ramka);
+        ramki.append(ramka);
+        for (const Pole& pole : grupa.pola) {
+            if (pole.dostep == Dostep::Edycja) pola_.append(pole.nazwa);
+            if (pole.rodzaj != Rodzaj::Notatka) continue;
+            notatka = true;
+            uklad.setStretchFactor(ramka, 1);
+            if (pole.podpis.isEmpty())
+                wiazanie_.kontrolka(pole.nazwa)->setAccessibleName(nazwaDostepna(grupa.tytul));
+        }
+    }
+    wyrownajPodpisy(ramki, najszerszePodpisy > 0 ? najszerszePodpisy : QWIDGETSIZE_MAX);
+    return notatka;
+}
+
+QWidget* frmListaPol::dol(const QList<QPushButton*>& wlasne) {
     labZmiana_->setObjectName(QStringLiteral("labZmiana"));
     labZmiana_->setProperty("podpowiedz", true);
     // Enter belongs to the fields: no button takes it from them.
-    for (QPushButton* p : {cmdNowy_, cmdUsun_, cmdAnuluj_}) p->setAutoDefault(false);
+    const QList<QPushButton*> przyciski = QList{cmdNowy_, cmdUsun_} + wlasne;
+    for (QPushButton* p : przyciski + QList{cmdAnuluj_}) p->setAutoDefault(false);
     connect(cmdNowy_, &QPushButton::clicked, this, &frmListaPol::nowy);
     connect(cmdUsun_, &QPushButton::clicked, this, &frmListaPol::usun);
     connect(cmdAnuluj_, &QPushButton::clicked, this, &QDialog::reject);
@@ -105,7 +135,7 @@ QWidget* frmListaPol::dol() {
     auto* uklad = new QHBoxLayout(rzad);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(labZmiana_, 1);
-    uklad->addWidget(rzadPrzyciskow({cmdNowy_, cmdUsun_, przyciskPomocy(), cmdAnuluj_}));
+    uklad->addWidget(rzadPrzyciskow(przyciski + QList{przyciskPomocy(), cmdAnuluj_}));
     return rzad;
 }
 
@@ -122,6 +152,9 @@ void frmListaPol::budujSkroty() {
 }
 
 void frmListaPol::dodaj(QWidget* widzet) { ramki_->addWidget(widzet); }
+void frmListaPol::dodajNadPolami(QWidget* widzet) { ramki_->insertWidget(0, widzet); }
+void frmListaPol::dodajNadLista(QWidget* widzet) { lewy_->insertWidget(0, widzet); }
+void frmListaPol::dodajPodLista(QWidget* widzet) { lewy_->addWidget(widzet); }
 
 void frmListaPol::dodajPrzycisk(QPushButton* przycisk) {
     przycisk->setAutoDefault(false);
@@ -241,10 +274,12 @@ void frmListaPol::nowy() {
     doPierwszegoPola();
 }
 
+qint64 frmListaPol::poUsunieciu(qint64 id) { return lvwLista_->sasiad(id); }
+
 void frmListaPol::usun() {
     if (biezacy_ < 0) return;
-    const qint64 sasiad = lvwLista_->sasiad(biezacy_);
-    if (skasuj(biezacy_)) Wczytaj(sasiad);
+    const qint64 nastepny = poUsunieciu(biezacy_);
+    if (skasuj(biezacy_)) Wczytaj(nastepny);
 }
 
 } // namespace tornel::okna

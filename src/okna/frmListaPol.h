@@ -20,7 +20,8 @@ class WidokListy;
 struct GrupaPol {
     QString tytul;
     QList<Pole> pola;
-    int kolumn = 1; ///< how many fields stand side by side
+    int kolumn = 1;        ///< how many fields stand side by side
+    QString zakladka = {}; ///< caption of its tab; empty on a screen without tabs
 };
 
 /// What one such screen shows.
@@ -35,6 +36,9 @@ struct OpisListyPol {
     int kolumnaNumeru = 0; ///< where the quick find looks for digits
     int kolumnaNazwy = 1;  ///< and where for letters
     QList<GrupaPol> grupy;
+    QString zakladki = {};              ///< objectName of the tabs
+    int najszerszePodpisy = 0;          ///< captions wider than this are broken into lines; 0 for no bound
+    QList<QPushButton*> przyciski = {}; ///< of the screen's own, behind that which deletes
     QString nowy = QStringLiteral("&Nowy");
     QString usun = QStringLiteral("&Usuń");
     QString powrot = QStringLiteral("&Powrót");
@@ -68,6 +72,8 @@ protected:
     [[nodiscard]] virtual std::optional<qint64> utworz() = 0;
     /// Asks and deletes the row; false if it stays.
     [[nodiscard]] virtual bool skasuj(qint64 id) = 0;
+    /// The row to choose once `id` was deleted.
+    [[nodiscard]] virtual qint64 poUsunieciu(qint64 id);
     /// After a row was shown, or (`id` -1) an empty list.
     virtual void pokazano(qint64 id) { Q_UNUSED(id) }
 
@@ -79,10 +85,16 @@ protected:
     bool Wpisz();
     [[nodiscard]] qint64 biezacy() const { return biezacy_; }
     [[nodiscard]] Wiazanie& wiazanie() { return wiazanie_; }
+    [[nodiscard]] const Wiazanie& wiazanie() const { return wiazanie_; }
     /// Puts a widget below the frames of the fields.
     void dodaj(QWidget* widzet);
     /// Puts a button of the screen's own behind that which deletes. It is able while a row is shown.
     void dodajPrzycisk(QPushButton* przycisk);
+    /// Puts a widget above the fields, or above or below the list.
+    void dodajNadPolami(QWidget* widzet);
+    void dodajNadLista(QWidget* widzet);
+    void dodajPodLista(QWidget* widzet);
+    [[nodiscard]] WidokListy& lista() { return *lvwLista_; }
 
     [[nodiscard]] bool jestZmiana() const override { return biezacy_ >= 0 && wiazanie_.jestZmiana(); }
     [[nodiscard]] bool zapiszZmiany() override { return Wpisz(); }
@@ -92,7 +104,10 @@ protected:
 private:
     [[nodiscard]] QWidget* lewaStrona(const OpisListyPol& opis);
     [[nodiscard]] QWidget* prawaStrona(const OpisListyPol& opis);
-    [[nodiscard]] QWidget* dol();
+    /// Puts the frames into `uklad`; true if a note among them takes the height that is left.
+    bool ustawRamki(QVBoxLayout& uklad, const QList<GrupaPol>& grupy, int najszerszePodpisy);
+    [[nodiscard]] QWidget* zakladki(const OpisListyPol& opis, const QStringList& tytuly);
+    [[nodiscard]] QWidget* dol(const QList<QPushButton*>& wlasne);
     void budujSkroty();
     void wybierzWiersz(qint64 id);
     void Wypisz(qint64 id);
@@ -108,7 +123,7 @@ private:
     qint64 biezacy_ = -1;
     WidokListy* lvwLista_;
     PoleSzukania* txtSzukaj_ = nullptr;
-    QVBoxLayout* ramki_ = nullptr;
+    QVBoxLayout *ramki_ = nullptr, *lewy_ = nullptr;
     QLabel* labZmiana_;
     QPushButton *cmdNowy_, *cmdUsun_, *cmdAnuluj_;
     QList<QPushButton*> wlasne_;

@@ -60,6 +60,12 @@ frmData::frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStri
     connect(dtDo_, &QLineEdit::textEdited, this, &frmData::sprawdzKoniec);
 }
 
+void frmData::ustawZakres(const ZakresDat& zakres) {
+    dtOd_->setText(FormatDaty(zakres.od));
+    dtDo_->setText(FormatDaty(zakres.dokad));
+    koniecWpisany_ = true; // the end is a proposal of its own, not the start repeated
+}
+
 ZakresDat frmData::zakres() const {
     const auto dzien = [](const PoleDaty& pole) { return CzytajWpisanaDate(pole.text()).value_or(QDate()); };
     return {dzien(*dtOd_), dzien(*dtDo_)};

@@ -1,4 +1,4 @@
-// "Data": asks for the range of an absence.
+// "Data": asks for a range of days.
 #pragma once
 #include "okna/Okno.h"
 #include "personnel/RejestrNieobecnosci.h"
@@ -20,6 +20,8 @@ public:
     frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStringView> rodzaje,
             QWidget* rodzic = nullptr);
 
+    /// Proposes a range in place of today.
+    void ustawZakres(const ZakresDat& zakres);
     /// The range; an end or start that is no date is invalid.
     [[nodiscard]] ZakresDat zakres() const;
     /// The position of the kind, 0 if there is nothing to choose.

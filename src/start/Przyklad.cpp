@@ -11,6 +11,7 @@
 #include "start/NieobecnosciPrzykladu.h"
 #include "start/PracownicyPrzykladu.h"
 #include "start/Rozruch.h"
+#include "start/UmowyPrzykladu.h"
 #include "store/TabelaCsv.h"
 #include <QFile>
 #include <QFileInfo>
@@ -169,6 +170,7 @@ void utworzFirme(const QString& sciezka, int pracownikow, int miesiecy, const QS
         ustawFirme(o);
         zatrudnij(o, pracownikow);
         wpiszNieobecnosci(o, pracownikow);
+        DodajUmowyPrzykladu(o, pracownikow);
         transakcja.zatwierdz();
     }
     QList<RokMies> miesiace;

@@ -68,18 +68,20 @@ TEST_F(RozliczenieDRATest, AMonthGivesItsSumsByListAndSource) {
     EXPECT_EQ(wplaty.razem(), wplaty.spoleczne + zl(2528.13) + zl(979.32 + 31.98));
 
     // One person on another list, with benefits of two sources.
-    przenies(4, u"A"_s, 12, 120.5);
+    przenies(4, u"C"_s, 12, 120.5);
     o().stale.FC_zas[1] = 12;
     o().stale.BP_zas[0] = 12; // a component may be told twice
     o().stale.FW_zas[0] = 31; // no such component
-    const auto a = PodsumujDRA(o(), kMiesiacDRA, u"A"_s), reszta = PodsumujDRA(o(), kMiesiacDRA, u" "_s);
+    const auto a = PodsumujDRA(o(), kMiesiacDRA, u"C"_s), reszta = PodsumujDRA(o(), kMiesiacDRA, u"AB"_s);
     ASSERT_TRUE(a && reszta);
     EXPECT_EQ(a->il_ub, 1);
     EXPECT_EQ(a->swiad_fc, zl(120.5));
     EXPECT_EQ(a->swiad_bp, zl(120.5));
     EXPECT_EQ(a->swiad_fw, Waluta{});
     EXPECT_EQ(a->Feprd + reszta->Feprd, zl(3901.32));
-    EXPECT_EQ(PodsumujDRA(o(), kMiesiacDRA, u" A"_s)->il_ub, 11);
+    EXPECT_EQ(PodsumujDRA(o(), kMiesiacDRA, u"ABC"_s)->il_ub, 11);
+    przenies(5, {}, 12, 1);
+    EXPECT_EQ(PodsumujDRA(o(), kMiesiacDRA, u" "_s)->il_ub, 1) << "a list without a symbol";
     EXPECT_FALSE(PodsumujDRA(o(), kMiesiacDRA, u"X"_s)) << "nobody is on that list";
     EXPECT_FALSE(PodsumujDRA(o(), {2001, 11}, {}));
 
@@ -88,7 +90,7 @@ TEST_F(RozliczenieDRATest, AMonthGivesItsSumsByListAndSource) {
     ASSERT_TRUE(place.Znajdz(u"2001"_s, u"03"_s));
     place.ustaw(PLACE("akt_sp"), place.liczba(PLACE("akt_sp")) & ~(qint64{1} << 11));
     place.UpdateBatch(u"Dane testu");
-    EXPECT_EQ(PodsumujDRA(o(), kMiesiacDRA, u"A"_s)->swiad_fc, Waluta{});
+    EXPECT_EQ(PodsumujDRA(o(), kMiesiacDRA, u"C"_s)->swiad_fc, Waluta{});
 }
 
 TEST_F(RozliczenieDRATest, WhatIsTypedStaysAndTheAmountToPayFollows) {
