@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTabWidget>
@@ -23,6 +25,19 @@ constexpr int kSzerokoscListy = 38 * Wyglad::kSiatka;
 constexpr int kSzerokosc = 112 * Wyglad::kSiatka;
 constexpr int kNajmniejszaWysokosc = 50 * Wyglad::kSiatka;
 
+/// Fields that may be taller than the window, never wider.
+QScrollArea* przewijane(QWidget* pola) {
+    auto* obszar = new QScrollArea;
+    obszar->setWidget(pola);
+    obszar->setWidgetResizable(true);
+    obszar->setFrameShape(QFrame::NoFrame);
+    obszar->setFocusPolicy(Qt::NoFocus);
+    obszar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    obszar->setMinimumWidth(pola->minimumSizeHint().width() +
+                            obszar->verticalScrollBar()->sizeHint().width());
+    return obszar;
+}
+
 } // namespace
 
 frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
@@ -34,12 +49,18 @@ frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, co
       cmdAnuluj_(przycisk(QStringLiteral("cmdAnuluj"), opis.powrot, u"powrot")) {
     setWindowTitle(opis.tytul);
     auto* uklad = new QVBoxLayout(this);
+    const int szerokoscListy = opis.szerokosc > 0 ? opis.szerokosc : kSzerokoscListy;
+    QWidget* pola = prawaStrona(opis);
+    const QSize rozmiarPol = pola->sizeHint();
+    // The fields scroll on a small screen, the buttons never do; tabs scroll page by page.
     uklad->addWidget(
-        dzielnik(lewaStrona(opis), opis.szerokosc > 0 ? opis.szerokosc : kSzerokoscListy, prawaStrona(opis)),
-        1);
-    uklad->addWidget(dol(opis.przyciski));
+        dzielnik(lewaStrona(opis), szerokoscListy, opis.zakladki.isEmpty() ? przewijane(pola) : pola), 1);
+    QWidget* przyciski = dol(opis.przyciski);
+    uklad->addWidget(przyciski);
     budujSkroty();
-    resize(kSzerokosc, std::max(kNajmniejszaWysokosc, sizeHint().height()));
+    resize(std::max(kSzerokosc, szerokoscListy + rozmiarPol.width() + 4 * Wyglad::kSiatka),
+           std::max(kNajmniejszaWysokosc,
+                    rozmiarPol.height() + przyciski->sizeHint().height() + 3 * Wyglad::kSiatka));
 
     connect(lvwLista_, &WidokListy::wybrano, this, &frmListaPol::wybierzWiersz);
     connect(lvwLista_, &WidokListy::wejscie, this, &frmListaPol::doPierwszegoPola);
@@ -97,7 +118,7 @@ QWidget* frmListaPol::zakladki(const OpisListyPol& opis, const QStringList& tytu
         auto* strona = new QWidget;
         auto* uklad = new QVBoxLayout(strona);
         if (!ustawRamki(*uklad, grupy, opis.najszerszePodpisy)) uklad->addStretch(1);
-        karty->addTab(strona, tytul);
+        karty->addTab(przewijane(strona), tytul);
     }
     return karty;
 }
@@ -156,14 +177,6 @@ void frmListaPol::dodajNadPolami(QWidget* widzet) { ramki_->insertWidget(0, widz
 void frmListaPol::dodajNadLista(QWidget* widzet) { lewy_->insertWidget(0, widzet); }
 void frmListaPol::dodajPodLista(QWidget* widzet) { lewy_->addWidget(widzet); }
 
-void frmListaPol::dodajPrzycisk(QPushButton* przycisk) {
-    przycisk->setAutoDefault(false);
-    przycisk->setEnabled(biezacy_ >= 0);
-    auto* rzad = qobject_cast<QHBoxLayout*>(cmdUsun_->parentWidget()->layout());
-    rzad->insertWidget(rzad->indexOf(cmdUsun_) + 1 + static_cast<int>(wlasne_.size()), przycisk);
-    wlasne_.append(przycisk);
-}
-
 // --- list and row
 // ------------------------------------------------------------------------------------------------
 
@@ -201,7 +214,6 @@ void frmListaPol::Wypisz(qint64 id) {
     const bool jest = id >= 0 && przejdz(id);
     biezacy_ = jest ? id : -1;
     cmdUsun_->setEnabled(jest);
-    for (QPushButton* p : std::as_const(wlasne_)) p->setEnabled(jest);
     wiazanie_.blokuj(!jest);
     if (jest)
         wiazanie_.wczytaj();

@@ -88,8 +88,6 @@ protected:
     [[nodiscard]] const Wiazanie& wiazanie() const { return wiazanie_; }
     /// Puts a widget below the frames of the fields.
     void dodaj(QWidget* widzet);
-    /// Puts a button of the screen's own behind that which deletes. It is able while a row is shown.
-    void dodajPrzycisk(QPushButton* przycisk);
     /// Puts a widget above the fields, or above or below the list.
     void dodajNadPolami(QWidget* widzet);
     void dodajNadLista(QWidget* widzet);
@@ -126,7 +124,6 @@ private:
     QVBoxLayout *ramki_ = nullptr, *lewy_ = nullptr;
     QLabel* labZmiana_;
     QPushButton *cmdNowy_, *cmdUsun_, *cmdAnuluj_;
-    QList<QPushButton*> wlasne_;
 };
 
 } // namespace tornel::okna

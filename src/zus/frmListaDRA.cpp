@@ -26,8 +26,9 @@ Pole poleDRA(const char16_t* nazwa, const char16_t* podpis, std::string_view kol
     return {QString::fromUtf16(nazwa), QString::fromUtf16(podpis), ZUS.nr(ZUS.numer(kolumna)), rodzaj};
 }
 
-OpisListyPol opisDRA() {
+OpisListyPol opisDRA(const QList<QPushButton*>& przyciski) {
     OpisListyPol o;
+    o.przyciski = przyciski;
     o.nazwa = QStringLiteral("frmListaDRA");
     o.tytul = QStringLiteral("Lista dokumentów ZUS DRA");
     o.kolumny = {{QStringLiteral("MIESIĄC"), Qt::AlignLeft, Porzadek::Data},
@@ -73,21 +74,24 @@ OpisListyPol opisDRA() {
 } // namespace
 
 frmListaDRA::frmListaDRA(Otoczenie& otoczenie, Wydrukuj wydrukuj, QWidget* rodzic)
+    : frmListaDRA(otoczenie, std::move(wydrukuj), rodzic,
+                  przycisk(QStringLiteral("cmdKontrola"), QStringLiteral("&Kontrola z RCA")),
+                  przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj")) {}
+
+frmListaDRA::frmListaDRA(Otoczenie& otoczenie, Wydrukuj wydrukuj, QWidget* rodzic, QPushButton* kontrola,
+                         QPushButton* druk)
     : frmListaPol(otoczenie.rozmowa,
                   std::make_unique<ZrodloWierszy>(std::initializer_list<Recordset*>{&otoczenie.sesja.rsZUS}),
-                  opisDRA(), rodzic),
+                  opisDRA({kontrola, druk}), rodzic),
       o_(otoczenie), wydrukuj_(std::move(wydrukuj)), rozliczenia_(otoczenie), labWplaty_(new QLabel),
       labNieaktualne_(Wyglad::baner({}, this)),
       lvwKontrola_(new WidokListy({{QStringLiteral("POZYCJA")},
                                    {QStringLiteral("ROZLICZENIE"), Qt::AlignRight},
                                    {QStringLiteral("SUMA RCA"), Qt::AlignRight},
                                    {QStringLiteral("RÓŻNICA"), Qt::AlignRight}},
-                                  {40, 20, 20, 20})) {
+                                  {40, 20, 20, 20})),
+      cmdKontrola_(kontrola), cmdDrukuj_(druk) {
     dodaj(podsumowanie());
-    auto* kontrola = przycisk(QStringLiteral("cmdKontrola"), QStringLiteral("&Kontrola z RCA"));
-    auto* druk = przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj");
-    dodajPrzycisk(kontrola);
-    dodajPrzycisk(druk);
     connect(kontrola, &QPushButton::clicked, this, &frmListaDRA::kontroluj);
     connect(druk, &QPushButton::clicked, this, &frmListaDRA::drukuj);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, druk, &QPushButton::click);
@@ -153,6 +157,7 @@ std::optional<qint64> frmListaDRA::utworz() {
 }
 
 void frmListaDRA::pokazano(qint64 id) {
+    for (QPushButton* p : {cmdKontrola_, cmdDrukuj_}) p->setEnabled(id >= 0);
     lvwKontrola_->hide();
     labWplaty_->clear();
     Wyglad::ustawBaner(*labNieaktualne_, {});

@@ -29,6 +29,8 @@ protected:
     void pokazano(qint64 id) override;
 
 private:
+    frmListaDRA(Otoczenie& otoczenie, Wydrukuj wydrukuj, QWidget* rodzic, QPushButton* kontrola,
+                QPushButton* druk);
     [[nodiscard]] QWidget* podsumowanie();
     void kontroluj();
     void drukuj();
@@ -38,6 +40,7 @@ private:
     RozliczeniaDRA rozliczenia_;
     QLabel *labWplaty_, *labNieaktualne_;
     WidokListy* lvwKontrola_;
+    QPushButton *cmdKontrola_, *cmdDrukuj_;
 };
 
 } // namespace tornel::zus
