@@ -69,6 +69,27 @@ QList<Pozycja> AdresyUS(Sesja& sesja) {
     return wynik;
 }
 
+/// What the list is filtered by.
+QWidget* rzadFiltru() {
+    auto* rzad = new QWidget;
+    auto* uklad = new QHBoxLayout(rzad);
+    uklad->setContentsMargins(0, 0, 0, 0);
+    auto* rok = new QComboBox;
+    rok->setObjectName(QStringLiteral("cboRok"));
+    rok->setAccessibleName(QStringLiteral("Rok zawarcia"));
+    auto* osoba = new QComboBox;
+    osoba->setObjectName(QStringLiteral("cboOsoba"));
+    osoba->setAccessibleName(QStringLiteral("Osoba"));
+    osoba->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* niewyplacone = new QCheckBox(QStringLiteral("Nie&wypłacone"));
+    niewyplacone->setObjectName(QStringLiteral("chkNiewyplacone"));
+    niewyplacone->setToolTip(QStringLiteral("Tylko umowy bez daty wypłaty"));
+    uklad->addWidget(rok);
+    uklad->addWidget(osoba, 1);
+    uklad->addWidget(niewyplacone);
+    return rzad;
+}
+
 OpisListyPol opisUmow(Otoczenie& o, const RodzajUmowy& rodzaj) {
     const EkranUmow& ekran = EkranRodzaju(rodzaj);
     OpisListyPol opis;
@@ -87,6 +108,7 @@ OpisListyPol opisUmow(Otoczenie& o, const RodzajUmowy& rodzaj) {
     }
     opis.pustaLista = ekran.pusta.toString();
     opis.szerokosc = kSzerokoscListyUmow;
+    opis.nadLista = rzadFiltru();
     opis.szukaj = QStringLiteral("Szukaj: numer umowy lub nazwisko");
     opis.kolumnaNumeru = 2;
     opis.grupy = GrupyUmowy(rodzaj, AdresyUS(o.sesja));
@@ -107,10 +129,11 @@ frmUmowy::frmUmowy(Otoczenie& otoczenie, const RodzajUmowy& rodzaj, std::shared_
                    const OpisListyPol& opis, QWidget* rodzic, PortyUmow porty)
     : frmListaPol(otoczenie.rozmowa, std::make_unique<ZrodloUmowy>(umowy, rodzaj), opis, rodzic),
       o_(otoczenie), rodzaj_(rodzaj), ekran_(EkranRodzaju(rodzaj)), umowy_(std::move(umowy)),
-      porty_(std::move(porty)), cboRok_(new QComboBox), cboOsoba_(new QComboBox),
-      chkNiewyplacone_(new QCheckBox(QStringLiteral("Nie&wypłacone"))), cmdKopia_(opis.przyciski[0]),
-      cmdDrukuj_(opis.przyciski[1]), labOsoba_(new QLabel), labSumy_(new QLabel),
-      labPrzypomnienie_(Wyglad::baner(QString(), this)) {
+      porty_(std::move(porty)), cboRok_(findChild<QComboBox*>(QStringLiteral("cboRok"))),
+      cboOsoba_(findChild<QComboBox*>(QStringLiteral("cboOsoba"))),
+      chkNiewyplacone_(findChild<QCheckBox*>(QStringLiteral("chkNiewyplacone"))),
+      cmdKopia_(opis.przyciski[0]), cmdDrukuj_(opis.przyciski[1]), labOsoba_(new QLabel),
+      labSumy_(new QLabel), labPrzypomnienie_(Wyglad::baner(QString(), this)) {
     const Klepsydra klepsydra;
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     labOsoba_->setObjectName(QStringLiteral("labOsoba"));
@@ -136,20 +159,6 @@ frmUmowy::frmUmowy(Otoczenie& otoczenie, const RodzajUmowy& rodzaj, std::shared_
 // ----------------------------------------------------------------------------------------------------
 
 void frmUmowy::budujFiltr() {
-    auto* rzad = new QWidget;
-    auto* uklad = new QHBoxLayout(rzad);
-    uklad->setContentsMargins(0, 0, 0, 0);
-    cboRok_->setObjectName(QStringLiteral("cboRok"));
-    cboRok_->setAccessibleName(QStringLiteral("Rok zawarcia"));
-    cboOsoba_->setObjectName(QStringLiteral("cboOsoba"));
-    cboOsoba_->setAccessibleName(QStringLiteral("Osoba"));
-    cboOsoba_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    chkNiewyplacone_->setObjectName(QStringLiteral("chkNiewyplacone"));
-    chkNiewyplacone_->setToolTip(QStringLiteral("Tylko umowy bez daty wypłaty"));
-    uklad->addWidget(cboRok_);
-    uklad->addWidget(cboOsoba_, 1);
-    uklad->addWidget(chkNiewyplacone_);
-    dodajNadLista(rzad);
     labSumy_->setObjectName(QStringLiteral("labSumy"));
     dodajPodLista(labSumy_);
     connect(cboRok_, &QComboBox::activated, this, &frmUmowy::filtruj);

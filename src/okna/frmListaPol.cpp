@@ -81,6 +81,7 @@ QWidget* frmListaPol::lewaStrona(const OpisListyPol& opis) {
     auto* lewa = new QWidget;
     lewy_ = new QVBoxLayout(lewa);
     lewy_->setContentsMargins(0, 0, 0, 0);
+    if (opis.nadLista) lewy_->addWidget(opis.nadLista);
     lewy_->addWidget(txtSzukaj_);
     lewy_->addWidget(lvwLista_, 1);
     return lewa;
@@ -174,7 +175,6 @@ void frmListaPol::budujSkroty() {
 
 void frmListaPol::dodaj(QWidget* widzet) { ramki_->addWidget(widzet); }
 void frmListaPol::dodajNadPolami(QWidget* widzet) { ramki_->insertWidget(0, widzet); }
-void frmListaPol::dodajNadLista(QWidget* widzet) { lewy_->insertWidget(0, widzet); }
 void frmListaPol::dodajPodLista(QWidget* widzet) { lewy_->addWidget(widzet); }
 
 // --- list and row

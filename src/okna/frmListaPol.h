@@ -36,6 +36,7 @@ struct OpisListyPol {
     int kolumnaNumeru = 0; ///< where the quick find looks for digits
     int kolumnaNazwy = 1;  ///< and where for letters
     QList<GrupaPol> grupy;
+    QWidget* nadLista = nullptr;        ///< stands above the list and its quick find
     QString zakladki = {};              ///< objectName of the tabs
     int najszerszePodpisy = 0;          ///< captions wider than this are broken into lines; 0 for no bound
     QList<QPushButton*> przyciski = {}; ///< of the screen's own, behind that which deletes
@@ -88,9 +89,8 @@ protected:
     [[nodiscard]] const Wiazanie& wiazanie() const { return wiazanie_; }
     /// Puts a widget below the frames of the fields.
     void dodaj(QWidget* widzet);
-    /// Puts a widget above the fields, or above or below the list.
+    /// Puts a widget above the fields, or below the list.
     void dodajNadPolami(QWidget* widzet);
-    void dodajNadLista(QWidget* widzet);
     void dodajPodLista(QWidget* widzet);
     [[nodiscard]] WidokListy& lista() { return *lvwLista_; }
 

@@ -1,63 +1,16 @@
 // Contracts and fees: the calculation from each field, keys, offices, and what is refused.
-#include "contracts/Umowy.h"
+#include "bank/ZleceniaPrzelewow.h"
 #include "common/Blad.h"
-#include "store/Sesja.h"
-#include "wsparcie/BazaTestowa.h"
+#include "contracts/PrzypomnieniePodatku.h"
+#include "contracts/SumyUmow.h"
+#include "wsparcie/UmowyTestowe.h"
 #include <gtest/gtest.h>
 
 namespace tornel::testy {
 
 namespace {
 
-using namespace Qt::StringLiterals;
-using schemat::PRACPR;
-using schemat::US;
-using schemat::UZL;
-
-class UmowyTest : public BazaTestowa {
-protected:
-    UmowyTest() {
-        Sesja& s = sesja();
-        for (const qint64 nr : {1, 2}) dodajPracownika(nr, nr == 1 ? u"Nowak"_s : u"Kot"_s);
-        EXPECT_TRUE(s.rsPRACPR.Znajdz(1));
-        for (const auto flaga : {PRACPR("umowa_zlec"), PRACPR("umowa_o_dz"), PRACPR("honorarium")})
-            s.rsPRACPR.ustaw(flaga, u"T"_s);
-        const std::pair<Kolumna, double> wskazniki[] = {
-            {PRACPR("k_uz_uzl"), 20},   {PRACPR("st_pod_uzl"), 20}, {PRACPR("k_uz_uod"), 50},
-            {PRACPR("st_pod_uod"), 19}, {PRACPR("k_uz_hon"), 20},   {PRACPR("st_pod_hon"), 20},
-            {PRACPR("wuzfeprd"), 9.76}, {PRACPR("wuzfeprc"), 9.76}, {PRACPR("wuzfrprd"), 6.5},
-            {PRACPR("wuzfrprc"), 6.5},  {PRACPR("wuzfcprc"), 2.45}, {PRACPR("wuzfwprd"), 1.62},
-            {PRACPR("wuzfp"), 2.45},    {PRACPR("wuzfgsp"), 0.08},  {PRACPR("wuzubzdr"), 7.75},
-        };
-        for (const auto& [kolumna, wartosc] : wskazniki) s.rsPRACPR.ustaw(kolumna, zl(wartosc));
-        s.rsPRACPR.ustaw(PRACPR("us_id"), 3);
-        s.rsPRACPR.UpdateBatch(u"Dane testu");
-        Recordset us(US);
-        us.Open(s.cnPlace);
-        us.AddNewZero(3);
-        us.ustaw(US("Nazwa"), u"Drugi Urząd Skarbowy w Radomiu"_s);
-        us.UpdateBatch(u"Dane testu");
-    }
-
-    /// Leaves the fields of "Brutto=1000 wskpod=30" one after the other.
-    void opusc(Umowy& umowy, const RodzajUmowy& rodzaj, const QString& pola) {
-        for (const QString& p : pola.split(u' ', Qt::SkipEmptyParts)) {
-            const PoleUmowy* pole = ZnajdzPoleUmowy(rodzaj, p.section(u'=', 0, 0));
-            ASSERT_NE(pole, nullptr) << p.toStdString();
-            (void)umowy.Opusc(*pole, p.section(u'=', 1));
-        }
-    }
-    /// What the file holds of the contract, against "Netto=840 Podatek=160".
-    void oczekuj(const RodzajUmowy& rodzaj, qint64 id, const QString& pola) {
-        Recordset rs(*rodzaj.tabela);
-        rs.Open(sesja().cnPlace);
-        ASSERT_TRUE(rs.Znajdz(id));
-        for (const QString& p : pola.split(u' ', Qt::SkipEmptyParts))
-            EXPECT_EQ(rs.kwota(rodzaj.kolumna(p.section(u'=', 0, 0).toStdString())),
-                      zl(p.section(u'=', 1).toDouble()))
-                << p.toStdString();
-    }
-};
+class UmowyTest : public UmowyTestowe {};
 
 // Each case goes on from the one before it, as a clerk does on one contract.
 TEST_F(UmowyTest, EachFieldStartsItsPartOfTheCalculation) {
@@ -85,14 +38,13 @@ TEST_F(UmowyTest, EachFieldStartsItsPartOfTheCalculation) {
     };
     for (const auto& p : przypadki) {
         SCOPED_TRACE((p.rodzaj + u' ' + p.pola).toStdString());
-        const RodzajUmowy* rodzaj = ZnajdzRodzajUmowy(p.rodzaj);
-        ASSERT_NE(rodzaj, nullptr);
-        Umowy umowy(otoczenie(), *rodzaj);
+        const RodzajUmowy& kind = rodzaj(p.rodzaj);
+        Umowy umowy(otoczenie(), kind);
         if (umowy.Wczytaj().isEmpty()) EXPECT_EQ(umowy.Nowy(1, {2001, 5, 7}), 1);
         ASSERT_TRUE(umowy.Wypisz(1));
-        opusc(umowy, *rodzaj, p.pola);
+        opusc(umowy, kind, p.pola);
         umowy.Wpisz();
-        oczekuj(*rodzaj, 1, p.oczekiwane);
+        oczekuj(kind, 1, p.oczekiwane);
     }
 }
 
@@ -153,6 +105,103 @@ TEST_F(UmowyTest, RefusalsLeaveTheContractAsItWas) {
     umowy.Wpisz();
     oczekuj(uzl, 1, u"Brutto=1000 Netto=682.84 Fp=24.5 wskfp=2.45"_s);
     EXPECT_EQ(sesja().rsUZL.liczba(UZL("us_id")), 3);
+}
+
+// Days of payment around the bounds of March, none, and another person.
+TEST_F(UmowyTest, SumsTakeThePeriodWithBothItsBoundsAndOnlyCommissionContracts) {
+    sesja().rsPRACPR.Znajdz(2);
+    sesja().rsPRACPR.ustaw(PRACPR("umowa_zlec"), u"T"_s);
+    sesja().rsPRACPR.UpdateBatch(u"Dane testu");
+    const struct {
+        QString tabela;
+        qint64 prcId;
+        QString pola;
+    } umowyTestu[] = {
+        {u"UZL"_s, 1, u"Brutto=100 data_wyp=28-02-2001"_s},
+        {u"UZL"_s, 1, u"Brutto=1000 data_wyp=01-03-2001"_s},
+        {u"UZL"_s, 1, u"Brutto=2000 data_wyp=31-03-2001"_s},
+        {u"UZL"_s, 1, u"Brutto=400 data_wyp=01-04-2001"_s},
+        {u"UZL"_s, 1, u"Brutto=800"_s},
+        {u"UZL"_s, 2, u"Brutto=50 data_wyp=15-03-2001"_s},
+        {u"UOD"_s, 1, u"Brutto=700 data_wyp=15-03-2001"_s},
+        {u"HON"_s, 1, u"Brutto=70 data_wyp=15-03-2001"_s},
+    };
+    for (const auto& u : umowyTestu) {
+        Umowy umowy(otoczenie(), rodzaj(u.tabela));
+        ASSERT_TRUE(umowy.Wypisz(umowy.Nowy(u.prcId, {2001, 3, 1})));
+        opusc(umowy, rodzaj(u.tabela), u.pola);
+        umowy.Wpisz();
+    }
+    const QDate od(2001, 3, 1), dokad(2001, 3, 31);
+    const SumyKwot sumy = SumyUZL(sesja(), 1, od, dokad);
+    const SumyKwot oczekiwane{zl(3000), zl(487.74), zl(201.19), zl(292.8), zl(195), zl(73.5), zl(189)};
+    EXPECT_EQ(sumy.brutto, oczekiwane.brutto);
+    EXPECT_EQ(sumy, oczekiwane);
+    EXPECT_EQ(SumyUZL(sesja(), 1, {2001, 5, 1}, {2001, 5, 31}), SumyKwot{});
+    EXPECT_EQ(SumyUZL(sesja(), 99, od, dokad), SumyKwot{});
+    const auto wszystkich = SumujUmowy(sesja(), rodzaj(u"UZL"_s), od, dokad);
+    EXPECT_EQ(wszystkich.size(), 2);
+    EXPECT_EQ(wszystkich.value(2).brutto, zl(50));
+    EXPECT_EQ(SumujUmowy(sesja(), rodzaj(u"HON"_s), od, dokad).value(1).brutto, zl(70));
+}
+
+TEST_F(UmowyTest, ACopyIsANewContractWithTheSameAmounts) {
+    const RodzajUmowy& uzl = rodzaj(u"UZL"_s);
+    Umowy umowy(otoczenie(), uzl);
+    ASSERT_TRUE(umowy.Wypisz(umowy.Nowy(1, {2001, 3, 1})));
+    opusc(umowy, uzl,
+          u"Brutto=1000 uzl_nr=7 przedm=Spis data_od=01-03-2001 data_do=02-03-2001 data_wyp=05-03-2001 "
+          u"przelewem=500 paczka=3 wys_mcs=T"_s);
+    umowy.Wpisz();
+    EXPECT_EQ(umowy.Kopia(1, {2001, 4, 2}), 2);
+    const auto kopia = sesja().rsUZL.szukaj(2);
+    ASSERT_TRUE(kopia);
+    oczekuj(uzl, 2, u"Brutto=1000 Netto=682.84 przelewem=500 wskpod=20"_s);
+    EXPECT_EQ(kopia->tekst(UZL("przedm")), u"Spis"_s);
+    EXPECT_EQ(kopia->data(UZL("data_zaw")), QDate(2001, 4, 2));
+    EXPECT_EQ(kopia->tekst(UZL("uzl_nr")) + kopia->tekst(UZL("wys_mcs")) +
+                  QString::number(kopia->liczba(UZL("paczka"))),
+              u"N0"_s);
+    for (const Kolumna dzien : {UZL("data_od"), UZL("data_do"), UZL("data_wyp")})
+        EXPECT_TRUE(kopia->jestNull(dzien));
+    // Somebody who makes no contracts any more gets no copy either.
+    sesja().rsPRACPR.Znajdz(1);
+    sesja().rsPRACPR.ustaw(PRACPR("umowa_zlec"), u"N"_s);
+    sesja().rsPRACPR.UpdateBatch(u"Dane testu");
+    EXPECT_THROW((void)umowy.Kopia(1, {2001, 4, 2}), Blad);
+    EXPECT_THROW((void)umowy.Kopia(9, {2001, 4, 2}), Blad);
+    EXPECT_EQ(umowy.Wczytaj().size(), 2);
+}
+
+TEST_F(UmowyTest, ATaxTransferThatNoLongerHoldsIsTold) {
+    const RodzajUmowy& uzl = rodzaj(u"UZL"_s);
+    Umowy umowy(otoczenie(), uzl);
+    ASSERT_TRUE(umowy.Wypisz(umowy.Nowy(1, {2001, 3, 1})));
+    opusc(umowy, uzl, u"Brutto=1000 przelewem=500 data_wyp=15-03-2001"_s);
+    umowy.Wpisz();
+    const auto przypomnienie = [&](QDate wyplacona, double podatek, double przelewem, qint64 usId = 3) {
+        return PrzypomnieniePodatku(otoczenie(), uzl, umowy.tabela(),
+                                    {9, usId, wyplacona, zl(podatek), zl(przelewem)});
+    };
+    const QDate marzec(2001, 3, 20);
+    EXPECT_EQ(przypomnienie(marzec, 100, 50), QString()) << "nothing was printed";
+    Wykonane(sesja()).dopisz({{.rodzaj = wykonanie::PrzelewPodatku.kod.toString(),
+                               .miesiac = {2001, 3},
+                               .zrodlo = u"UZL"_s,
+                               .komu = 3,
+                               .kwota = zl(67.06)}},
+                             QDateTime({2001, 4, 10}, {12, 0}));
+    EXPECT_EQ(przypomnienie(marzec, 100, 50),
+              u"Przelew podatku za 03.2001 wydrukowano 10-04-2001 na 67,06 zł, a podatek umów tego urzędu "
+              u"wynosi teraz 167,06 zł."_s);
+    EXPECT_EQ(
+        przypomnienie(marzec, 5, 50, 4),
+        u"Przelew podatku za 03.2001 wydrukowano 10-04-2001 bez tego urzędu, a podatek umów tego urzędu "
+        u"wynosi teraz 5,00 zł."_s);
+    EXPECT_EQ(przypomnienie(marzec, 0, 50), QString()) << "the sum is the one that was printed";
+    EXPECT_EQ(przypomnienie(marzec, 100, 0), QString()) << "cash does not count";
+    EXPECT_EQ(przypomnienie({2001, 4, 1}, 100, 50), QString()) << "another month";
+    EXPECT_EQ(przypomnienie({}, 100, 50), QString());
 }
 
 } // namespace
