@@ -148,6 +148,7 @@ frmUmowy::frmUmowy(Otoczenie& otoczenie, const RodzajUmowy& rodzaj, std::shared_
     budujFiltr();
     budujDruk();
     podlaczPola();
+    ustawKolejnosc();
     ShowMCS(o_.stale.MCSAkt);
     cmdKopia_->setToolTip(QStringLiteral("Nowa umowa z danymi i kwotami zaznaczonej"));
     connect(cmdKopia_, &QPushButton::clicked, this, &frmUmowy::kopiuj);
@@ -222,6 +223,18 @@ void frmUmowy::podlaczPola() {
             });
     }
     connect(&wiazanie(), &Wiazanie::opuszczone, this, &frmUmowy::pokazPrzypomnienie);
+}
+
+void frmUmowy::ustawKolejnosc() {
+    for (const GrupaPol& grupa : GrupyUmowy(rodzaj_, {})) {
+        QList<QWidget*> wskazniki, kwoty;
+        for (const Pole& pole : grupa.pola)
+            if (pole.rodzaj == Rodzaj::Kwota)
+                (pole.podpis.isEmpty() ? kwoty : wskazniki).append(wiazanie().kontrolka(pole.nazwa));
+        if (kwoty.isEmpty()) continue;
+        const QList<QWidget*> kolejne = wskazniki + kwoty;
+        for (qsizetype i = 1; i < kolejne.size(); ++i) setTabOrder(kolejne[i - 1], kolejne[i]);
+    }
 }
 
 // --- calculation

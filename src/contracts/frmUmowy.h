@@ -46,6 +46,9 @@ private:
     void budujFiltr();
     void budujDruk();
     void podlaczPola();
+    /// The keyboard goes through the rates and then through the amounts: leaving a field computes what
+    /// follows from it, typed or not, so whoever goes on by Tab loses no amount that he has typed over.
+    void ustawKolejnosc();
     /// Whether the entry can be offered at all.
     [[nodiscard]] bool dostepny(DrukUmow co) const;
 

@@ -18,7 +18,7 @@ constexpr RamkaEkranu kRamki[] = {
     {Ramka::Umowa, kUmowa, u"UMOWA", 1},
     {Ramka::Naleznosc, kUmowa, u"NALEŻNOŚĆ", 2},
     {Ramka::Skladki, kSkladki, u"SKŁADKI: WSKAŹNIK W PROCENTACH I KWOTA", 1},
-    {Ramka::Rozliczenie, kSkladki, u"KOSZTY I PODATEK: WSKAŹNIK W PROCENTACH I KWOTA", 1},
+    {Ramka::Rozliczenie, kSkladki, u"ROZLICZENIE: WSKAŹNIK W PROCENTACH I KWOTA", 1},
     {Ramka::Opis, kUmowa, u"Informacje opisowe:", 1},
 };
 
@@ -64,8 +64,8 @@ constexpr PoleEkranu kPola[] = {
     {Ramka::Skladki, "Fp", {}, u"FP, kwota"},
     {Ramka::Skladki, "wskfgsp", u"FGŚP", u"FGŚP, procent"},
     {Ramka::Skladki, "Fgsp", {}, u"FGŚP, kwota"},
-    {Ramka::Skladki, "wskubzdr", u"Ub. zdrowotne", u"Ub. zdrowotne, procent"},
-    {Ramka::Skladki, "Ubzdr", {}, u"Ub. zdrowotne, kwota"},
+    {Ramka::Rozliczenie, "wskubzdr", u"Ub. zdrowotne", u"Ub. zdrowotne, procent"},
+    {Ramka::Rozliczenie, "Ubzdr", {}, u"Ub. zdrowotne, kwota"},
     {Ramka::Rozliczenie, "wskkuz", u"Koszt uzyskania", u"Koszt uzyskania, procent"},
     {Ramka::Rozliczenie, "koszt_uz", {}, u"Koszt uzyskania, kwota"},
     {Ramka::Rozliczenie, "wskpod", u"Podatek", u"Podatek, procent"},

@@ -148,6 +148,7 @@ TEST_F(UmowyOkna, AContractIsMadeTypedAndStoredByClosing) {
     EXPECT_EQ(tekst(u"txtprzelewem"_s), u"0,00"_s) << "each calculation loses it, deliberately";
     EXPECT_EQ(k<QLabel>(u"labPrzypomnienie"_s).text(),
               u"Przeliczenie wyzerowało kwotę „Przelewem”: było 500,00 zł."_s);
+    k<QTabWidget>(u"tabUmowy"_s).setCurrentIndex(0);
     k(u"txtuzl_nr"_s).setFocus();
     QTest::keyClicks(&k(u"txtuzl_nr"_s), u"1/01"_s); // still in the field when Escape closes
     QTest::keyClick(okno_.get(), Qt::Key_Escape);
@@ -155,6 +156,29 @@ TEST_F(UmowyOkna, AContractIsMadeTypedAndStoredByClosing) {
     oczekuj(rodzaj(u"UZL"_s), 1, u"Brutto=1000 FcPrc=0 wskpod=19 Ubzdr=64.9 przelewem=0"_s);
     EXPECT_EQ(sesja().rsUZL.szukaj(1)->tekst(UZL("uzl_nr")), u"1/01"_s);
     EXPECT_EQ(sesja().rsUZL.szukaj(1)->tekst(UZL("us_nazwa")), u"3. Drugi Urząd Skarb"_s);
+}
+
+TEST_F(UmowyOkna, TheTabKeyNeverLosesAnAmountThatWasTypedOver) {
+    umowa(u"UZL"_s, u"Brutto=1000"_s);
+    ekran(u"UZL"_s);
+    k<QTabWidget>(u"tabUmowy"_s).setCurrentIndex(1);
+    const std::pair<QString, QString> wpisane[] = {{u"txtFeprc"_s, u"1"_s},    {u"txtFcPrc"_s, u"2"_s},
+                                                   {u"txtFgsp"_s, u"3"_s},     {u"txtUbzdr"_s, u"4"_s},
+                                                   {u"txtkoszt_uz"_s, u"5"_s}, {u"txtPodatek"_s, u"6"_s}};
+    k(u"txtwskfeprd"_s).setFocus(Qt::TabFocusReason);
+    QStringList odwiedzone;
+    for (int i = 0; i < 22; ++i) {
+        auto* pole = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_TRUE(pole);
+        odwiedzone += pole->objectName();
+        for (const auto& [nazwa, tekst] : wpisane)
+            if (nazwa == pole->objectName()) QTest::keyClicks(pole, tekst);
+        QTest::keyClick(pole, Qt::Key_Tab);
+    }
+    EXPECT_EQ(odwiedzone.last(), u"txtPodatek"_s);
+    for (const auto& [nazwa, wpisany] : wpisane)
+        EXPECT_EQ(tekst(nazwa), wpisany + u",00"_s) << nazwa.toStdString();
+    EXPECT_EQ(tekst(u"txtNetto"_s), u"922,00"_s); // 1000 - 1 - 65 - 2 - 6 - 4
 }
 
 TEST_F(UmowyOkna, WhatAFieldDoesNotTakeIsSaidBesideIt) {
