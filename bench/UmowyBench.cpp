@@ -56,6 +56,7 @@ void UmowyEkran(benchmark::State& stan) {
     zapelnijUmowy(program, ile);
     Otoczenie& o = program.otoczenie();
     const RodzajUmowy& uzl = RodzajeUmow().front();
+    int zlotych = 1000;
     double surowo = 0, dane = 0, ekran = 0, wpis = 0, podatek = 0;
     for (auto _ : stan) {
         surowo = CzytajSurowo(program.sesja(), {"UZL"});
@@ -67,8 +68,10 @@ void UmowyEkran(benchmark::State& stan) {
         });
         Umowy umowy(o, uzl);
         (void)umowy.Wypisz(ile / 2);
+        // Another amount each time, so that the row is really written.
+        const QString kwota = QString::number(++zlotych);
         wpis = sekundy([&] {
-            (void)umowy.Opusc(*ZnajdzPoleUmowy(uzl, QStringLiteral("Brutto")), QStringLiteral("810"));
+            (void)umowy.Opusc(*ZnajdzPoleUmowy(uzl, QStringLiteral("Brutto")), kwota);
             umowy.Wpisz();
         });
         podatek = sekundy([&] {

@@ -4,7 +4,6 @@
 #include "common/Rozmowa.h"
 #include "contracts/Umowy.h"
 #include "store/Sesja.h"
-#include <limits>
 #include <QJsonObject>
 
 namespace tornel::cli {
@@ -18,7 +17,7 @@ const RodzajUmowy& rodzaj(const Wywolanie& w) {
 }
 
 qint64 numerUmowy(const QString& tekst) {
-    return liczbaZTekstu(tekst, 1, std::numeric_limits<qint16>::max(), QStringLiteral("numer umowy"));
+    return liczbaZTekstu(tekst, 1, zakresTypu(Typ::Short).second, QStringLiteral("numer umowy"));
 }
 
 /// The contract named by the second argument, taken up.

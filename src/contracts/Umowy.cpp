@@ -42,13 +42,10 @@ bool FiltrUmow::pasuje(const LiniaUmowy& linia) const {
            (!niewyplacone || !linia.wyplacona.isValid());
 }
 
-SumaUmow SumujLinie(const QList<LiniaUmowy>& linie) {
-    SumaUmow suma{linie.size(), {}, {}};
-    for (const LiniaUmowy& l : linie) {
-        suma.brutto += l.brutto;
-        suma.netto += l.netto;
-    }
-    return suma;
+void SumaUmow::dodaj(const LiniaUmowy& linia) {
+    ++ile;
+    brutto += linia.brutto;
+    netto += linia.netto;
 }
 
 Umowy::Umowy(Otoczenie& otoczenie, const RodzajUmowy& rodzaj)

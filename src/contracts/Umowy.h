@@ -35,12 +35,13 @@ struct FiltrUmow {
     [[nodiscard]] bool pasuje(const LiniaUmowy& linia) const;
 };
 
-/// Of the lines given, zł.
+/// Of lines, zł.
 struct SumaUmow {
     qsizetype ile = 0;
-    Waluta brutto, netto;
+    Waluta brutto = {}, netto = {};
+
+    void dodaj(const LiniaUmowy& linia);
 };
-[[nodiscard]] SumaUmow SumujLinie(const QList<LiniaUmowy>& linie);
 
 class Umowy {
 public:

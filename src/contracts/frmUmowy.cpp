@@ -104,7 +104,7 @@ OpisListyPol opisUmow(Otoczenie& o, const RodzajUmowy& rodzaj) {
     opis.udzialy = {16, 25, 13, 15, 15, 16};
     if (rodzaj.kolumna("wys_mcs").tabela && o.stale.MCSAkt) {
         opis.kolumny.append({QStringLiteral("MCs")});
-        opis.udzialy = {16, 24, 12, 14, 14, 15, 5};
+        opis.udzialy = {16, 23, 12, 13, 13, 16, 7};
     }
     opis.pustaLista = ekran.pusta.toString();
     opis.szerokosc = kSzerokoscListyUmow;
@@ -283,10 +283,12 @@ Wiazanie::Sprawdzony frmUmowy::opuszczono(const PoleUmowy& pole, const QString& 
 // ------------------------------------------------------------------------------------------------
 
 QList<qint64> frmUmowy::numery() {
-    wypelnijFiltr();
-    QList<qint64> wynik;
-    linie_.clear();
     const QList<LiniaUmowy> wszystkie = umowy_->Wczytaj();
+    wypelnijFiltr(wszystkie);
+    QList<qint64> wynik;
+    wynik.reserve(wszystkie.size());
+    linie_.clear();
+    linie_.reserve(wszystkie.size());
     for (const LiniaUmowy& l : wszystkie) {
         if (!filtr_.pasuje(l)) continue;
         wynik.append(l.id);
@@ -312,6 +314,7 @@ bool frmUmowy::przejdz(qint64 id) { return umowy_->Wypisz(id); }
 bool frmUmowy::zapisz(qint64 id) {
     umowy_->Wpisz();
     if (const auto linia = umowy_->linia(id)) linie_[id] = *linia;
+    pokazSumy();
     return true;
 }
 
@@ -362,7 +365,6 @@ void frmUmowy::pokazano(qint64 id) {
     cmdKopia_->setEnabled(jest);
     zgubionyPrzelew_.clear();
     pokazPrzypomnienie();
-    pokazSumy();
 }
 
 void frmUmowy::pokazPrzypomnienie() {

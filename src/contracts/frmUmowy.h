@@ -58,7 +58,8 @@ private:
                                                   const QString& bylo);
     [[nodiscard]] RachunekUmowy zPol() const;
     void filtruj();
-    void wypelnijFiltr();
+    /// The years and persons to choose from.
+    void wypelnijFiltr(const QList<LiniaUmowy>& umowy);
     /// Takes the filter off when it would hide the contract.
     void odslon(qint64 id);
     [[nodiscard]] std::optional<QDate> dataUmowy();

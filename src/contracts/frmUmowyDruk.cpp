@@ -37,10 +37,10 @@ const bank::RodzajWyplat& rodzajPrzelewow(const RodzajUmowy& rodzaj) {
 // --- what is shown
 // -----------------------------------------------------------------------------------------------
 
-void frmUmowy::wypelnijFiltr() {
+void frmUmowy::wypelnijFiltr(const QList<LiniaUmowy>& umowy) {
     QMap<int, qint64> lata;
     QMap<qint64, QString> osoby;
-    for (const LiniaUmowy& l : umowy_->Wczytaj()) {
+    for (const LiniaUmowy& l : umowy) {
         if (l.zawarta.isValid()) lata.insert(-l.zawarta.year(), l.zawarta.year());
         if (!osoby.contains(l.prcId)) osoby.insert(l.prcId, l.nazwisko + QLatin1Char(' ') + l.imie);
     }
@@ -86,11 +86,10 @@ void frmUmowy::odslon(qint64 id) {
 }
 
 void frmUmowy::pokazSumy() {
-    QList<LiniaUmowy> widoczne;
     const ListaModel& model = lista().lista();
-    widoczne.reserve(model.rowCount());
-    for (int i = 0; i < model.rowCount(); ++i) widoczne.append(linie_.value(model.id(i)));
-    const SumaUmow suma = SumujLinie(widoczne);
+    SumaUmow suma;
+    for (int i = 0; i < model.rowCount(); ++i)
+        if (const auto linia = linie_.constFind(model.id(i)); linia != linie_.constEnd()) suma.dodaj(*linia);
     labSumy_->setText(QStringLiteral("Na liście: %1, brutto %2 zł, netto %3 zł")
                           .arg(suma.ile)
                           .arg(FormatKwoty(suma.brutto), FormatKwoty(suma.netto)));

@@ -49,7 +49,7 @@ TEST_F(PrzelewyKonsoli, OrdersAndTheBanksFile) {
     EXPECT_EQ(uruchom("przelew pracownicy 2001-02 --konto 99 --tytul x").status, 1);
     EXPECT_EQ(uruchom("przelew podatek 2001-02 --konto 1").status, 0);
     EXPECT_EQ(
-        uruchom("przelew podatek UZL --konto 1 --od 01-01-2001 --do 31-12-2001").bledy.section(u'\n', 0, 0),
+        uruchom("przelew podatek UZL --konto 1 --od 01-01-2002 --do 31-12-2002").bledy.section(u'\n', 0, 0),
         u"Brak umów - zleceń spełniających podane kryteria. Sprawdź czy podany okres jest prawidłowy oraz "
         u"czy "
         u"ustalono kwoty do przelewów."_s);
