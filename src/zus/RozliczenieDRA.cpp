@@ -70,7 +70,13 @@ struct SwiadczeniaMiesiaca {
 private:
     void dodaj(Waluta SumyDRA::*pole, const Stale::Numery<5>& numery, quint32 aktywne) {
         for (const int n : numery)
-            if (n >= 1 && n <= kSkladnikow && maBit(aktywne, n)) kolumny.emplace_back(pole, schemat::SP(n));
+            if (n >= 1 && n <= kSkladnikow && maBit(aktywne, n)) dodajRaz({pole, schemat::SP(n)});
+    }
+    /// A number that the constant names twice is one benefit.
+    void dodajRaz(const std::pair<Waluta SumyDRA::*, Kolumna>& nowa) {
+        for (const auto& [pole, kolumna] : kolumny)
+            if (pole == nowa.first && kolumna.nr == nowa.second.nr) return;
+        kolumny.push_back(nowa);
     }
 };
 
@@ -183,13 +189,23 @@ std::optional<KluczDRA> RozliczeniaDRA::Nowe(RokMies miesiac, const QString& lis
     return nowy;
 }
 
+bool RozliczeniaDRA::zapisanaPoliczona() const {
+    Recordset plik(ZUS);
+    plik.Open(o_.sesja.cnPlace, {},
+              {{ZUS("ROKMIES"), Kryterium::Operator::Rowne, rs().tekst(ZUS("ROKMIES"))},
+               {ZUS("ID_DEKL"), Kryterium::Operator::Rowne, rs().liczba(ZUS("ID_DEKL"))}});
+    return plik.naWierszu() &&
+           plik.kwota(ZUS("do_zaplaty")) == Wplaty(sumyWiersza(plik.biezacyWiersz())).razem();
+}
+
 void RozliczeniaDRA::Wpisz() {
     const QList<Kolumna> zmienione = rs().zmienioneKolumny();
     const auto jest = [&](Kolumna k) {
         return std::ranges::any_of(zmienione, [k](const Kolumna& z) { return z.nr == k.nr; });
     };
     const bool kwoty = std::ranges::any_of(kKwotyDRA, [&](const auto& k) { return jest(k.second); });
-    if (kwoty && !jest(ZUS("do_zaplaty"))) rs().ustaw(ZUS("do_zaplaty"), Wplaty(sumy()).razem());
+    if (kwoty && !jest(ZUS("do_zaplaty")) && zapisanaPoliczona())
+        rs().ustaw(ZUS("do_zaplaty"), Wplaty(sumy()).razem());
     rs().UpdateBatch(QStringLiteral("Zmiana rozliczenia ZUS DRA %1").arg(klucz().napis()));
 }
 

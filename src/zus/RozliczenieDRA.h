@@ -4,6 +4,7 @@
 #include "common/RokMies.h"
 #include "rules/Otoczenie.h"
 #include "store/Recordset.h"
+#include <algorithm>
 #include <array>
 #include <compare>
 #include <optional>
@@ -38,12 +39,15 @@ struct SumyDRA {
 };
 
 /// What goes to the insurer, zł, each to an account of its own. Benefits paid reduce the first; below zero it
-/// is what the insurer owes.
+/// is what the insurer owes, which lessens no other account.
 struct WplatyDRA {
     Waluta spoleczne; ///< account 51
     Waluta zdrowotne; ///< account 52
     Waluta fundusze;  ///< account 53, Labour Fund and Guaranteed Benefits Fund
-    [[nodiscard]] Waluta razem() const { return spoleczne + zdrowotne + fundusze; }
+    /// What is to be paid.
+    [[nodiscard]] Waluta razem() const {
+        return std::max(spoleczne, Waluta{}) + std::max(zdrowotne, Waluta{}) + std::max(fundusze, Waluta{});
+    }
 };
 [[nodiscard]] WplatyDRA Wplaty(const SumyDRA& sumy);
 
@@ -71,8 +75,8 @@ public:
     /// Makes a settlement under the smallest free number of the month and moves to it; a missing or empty
     /// month is asked about. Nothing when the clerk refuses. Writes `ZUS`. Throws `BladBazy`.
     std::optional<KluczDRA> Nowe(RokMies miesiac, const QString& listy, QDate dzis);
-    /// Stores what was changed in memory. The amount to pay follows the other amounts, unless it was changed
-    /// itself. Throws `BladBazy`, `Konflikt`.
+    /// Stores what was changed in memory. The amount to pay follows the other amounts until the clerk has
+    /// typed one of his own. Throws `BladBazy`, `Konflikt`.
     void Wpisz();
     /// Asks and deletes. False on No. Throws `Blad` if there is none, `BladBazy`.
     bool Usun(const KluczDRA& klucz);
@@ -88,6 +92,8 @@ public:
 
 private:
     [[nodiscard]] Recordset& rs() const;
+    /// Whether the amount to pay, as the file holds it, is the one that the other amounts give.
+    [[nodiscard]] bool zapisanaPoliczona() const;
     Otoczenie& o_;
 };
 

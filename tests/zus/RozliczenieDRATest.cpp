@@ -67,11 +67,21 @@ TEST_F(RozliczenieDRATest, AMonthGivesItsSumsByListAndSource) {
     EXPECT_EQ(wplaty.spoleczne, zl(2 * 3901.32 + 2 * 2598.21 + 979.32 + 647.55));
     EXPECT_EQ(wplaty.razem(), wplaty.spoleczne + zl(2528.13) + zl(979.32 + 31.98));
 
+    // Benefits above the contributions are given back, and lessen no other account.
+    SumyDRA nadwyzka;
+    nadwyzka.Feprd = zl(10);
+    nadwyzka.swiad_fc = zl(30);
+    nadwyzka.Ubzdr = zl(5);
+    nadwyzka.Fp = zl(2);
+    const WplatyDRA zwrot = Wplaty(nadwyzka);
+    EXPECT_EQ(zwrot.spoleczne, zl(-20));
+    EXPECT_EQ(zwrot.razem(), zl(7));
+
     // One person on another list, with benefits of two sources.
     przenies(4, u"C"_s, 12, 120.5);
-    o().stale.FC_zas[1] = 12;
-    o().stale.BP_zas[0] = 12; // a component may be told twice
-    o().stale.FW_zas[0] = 31; // no such component
+    o().stale.FC_zas[1] = o().stale.FC_zas[2] = 12; // twice under one source is one benefit
+    o().stale.BP_zas[0] = 12;                       // a component may be told twice
+    o().stale.FW_zas[0] = 31;                       // no such component
     const auto a = PodsumujDRA(o(), kMiesiacDRA, u"C"_s), reszta = PodsumujDRA(o(), kMiesiacDRA, u"AB"_s);
     ASSERT_TRUE(a && reszta);
     EXPECT_EQ(a->il_ub, 1);
@@ -113,6 +123,7 @@ TEST_F(RozliczenieDRATest, WhatIsTypedStaysAndTheAmountToPayFollows) {
     rs.ustaw(ZUS("do_zaplaty"), zl(5)); // the clerk knows better
     dra.Wpisz();
     rs.ustaw(ZUS("inf_opis"), u"korekta"_s);
+    rs.ustaw(ZUS("Fgsp"), zl(1)); // his amount stays when another one changes later
     dra.Wpisz();
     EXPECT_NE(*dra.dzisiejsze(), dra.sumy()) << "the month says something else";
 
