@@ -57,7 +57,7 @@ inline constexpr QStringView kZZA[] = {u"pomijane", u"zgłoszenie do ubezpieczen
 inline constexpr QStringView kZIUA[] = {u"pomijane", u"zgłoszenie zmiany danych identyfikacyjnych",
                                         u"zgłoszenie korekty danych identyfikacyjnych"};
 /// The reports take 1 and 2 alike.
-inline constexpr QStringView kRZA[] = {u"bez RZA i RSA", u"RZA i RSA (1)", u"RZA i RSA (2)"};
+inline constexpr QStringView kRZA[] = {u"bez RZA i RSA", u"RZA i RSA", u"RZA i RSA: to samo co wyżej"};
 inline constexpr QStringView kZWUA[] = {
     u"pomijane",
     u"wyrejestrowanie z ubezpieczeń",
@@ -264,10 +264,18 @@ inline constexpr PoleTabeli kRodzina[] = {
     {u"Wspólne gospodarstwo domowe", PRACZUS("wsp_gosp"), Flaga},
 };
 
+/// What a marking sends, where its words do not tell it all.
+inline constexpr QStringView kOpisZUA =
+    u"ZUS ZUA: pierwsze trzy znaki rozstrzygają też o rodzaju zgłoszenia w ZUS ZZA";
+inline constexpr QStringView kOpisZZA =
+    u"ZUS ZZA: każdy znak wysyła ZUS ZZA, a rodzaj zgłoszenia bierze się w nim ze "
+    u"znaku przy ZUS ZUA";
+inline constexpr QStringView kOpisZIUA = u"ZUS ZIUA: wysyła poprzednie i obecne dane identyfikacyjne";
+
 inline constexpr PoleTabeli kDokumentyZus[] = {
-    {u"ZUS ZUA:", PRACZUS("oi_zua"), Wybor, {}, kZUA},
-    {u"ZUS ZZA:", PRACZUS("oi_zza"), Wybor, {}, kZZA},
-    {u"ZUS ZIUA:", PRACZUS("oi_ziua"), Wybor, {}, kZIUA},
+    {u"ZUS ZUA:", PRACZUS("oi_zua"), Wybor, kOpisZUA, kZUA},
+    {u"ZUS ZZA:", PRACZUS("oi_zza"), Wybor, kOpisZZA, kZZA},
+    {u"ZUS ZIUA:", PRACZUS("oi_ziua"), Wybor, kOpisZIUA, kZIUA},
     {u"ZUS RCA, RNA lub RZA:", PRACZUS("rza"), Wybor,
      u"Wiersz w raportach RZA i RSA; 1 i 2 działają tak samo", kRZA},
 };
