@@ -40,5 +40,6 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaZestawien();
 [[nodiscard]] QList<Polecenie> poleceniaUmow();
 [[nodiscard]] QList<Polecenie> poleceniaZus();
+[[nodiscard]] QList<Polecenie> poleceniaArchiwum();
 
 } // namespace tornel::cli

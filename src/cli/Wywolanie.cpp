@@ -17,13 +17,13 @@ Wywolanie::Wywolanie(Argumenty podane, QString folder, Rozmowa& strona)
     : argumenty(std::move(podane)), folderProgramu(std::move(folder)), rozmowa(strona) {}
 
 Otoczenie& Wywolanie::otoczenie() {
-    if (!program_) {
-        const QString baza = QStringLiteral("baza");
-        program_ = std::make_unique<Program>(argumenty.ma(baza) ? argumenty.wartosc(baza)
-                                                                : ZnajdzBaze(folderProgramu, rozmowa),
-                                             folderProgramu, rozmowa);
-    }
+    if (!program_) program_ = std::make_unique<Program>(sciezkaBazy(), folderProgramu, rozmowa);
     return program_->otoczenie();
+}
+
+QString Wywolanie::sciezkaBazy() {
+    const QString baza = QStringLiteral("baza");
+    return argumenty.ma(baza) ? argumenty.wartosc(baza) : ZnajdzBaze(folderProgramu, rozmowa);
 }
 
 void Wywolanie::pisz(const QString& linia) { wyjscie_ += linia.toUtf8() + '\n'; }

@@ -55,6 +55,10 @@ public:
     /// The session with its constants and catalogue, opened at the first call: the database named by
     /// `--baza`, else the one that the window program would open. Throws `BladStartu`.
     [[nodiscard]] Otoczenie& otoczenie();
+    /// The path of that database, whether or not it can be opened.
+    [[nodiscard]] QString sciezkaBazy();
+    /// Ends the session, if one is open, so that the file can be copied or replaced.
+    void zamknijBaze() { program_.reset(); }
 
     /// Adds a line to the output.
     void pisz(const QString& linia);

@@ -2,7 +2,9 @@
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
 #include "rules/Konfiguracja.h"
+#include "start/Archiwum.h"
 #include "start/Uzytkownicy.h"
+#include "store/StanPliku.h"
 #include "store/Struktura.h"
 #include <QDir>
 #include <QFile>
@@ -45,10 +47,86 @@ BladStartu::BladStartu(int krok, const QString& przyczyna)
     : Blad(QStringLiteral("Procedura 'PStart': błąd w lini: ") + QString::number(krok) +
            QStringLiteral("\n\n") + przyczyna) {}
 
-Program::Program(const QString& sciezka, const QString& folderProgramu, Rozmowa& rozmowa) {
+namespace {
+
+/// Stands beside the database while a program works on it; one that is there at a start tells of a program
+/// that was killed.
+QString znakPracy(const QString& baza) { return baza + QStringLiteral("-praca"); }
+
+/// What a start is about to clear up.
+struct Pozostalosci {
+    bool praca = false;        ///< the program did not end
+    bool czynnosc = false;     ///< an action stands in the file half done
+    bool przywracanie = false; ///< an archive was being restored
+
+    [[nodiscard]] QString opis() const {
+        if (przywracanie)
+            return QStringLiteral(
+                "Przerwane przywracanie archiwum zostało dokończone. Poprzednia baza jest w "
+                "kopii obok.");
+        if (czynnosc)
+            return QStringLiteral(
+                "Poprzednia praca została przerwana w trakcie zapisu. Niedokończona czynność "
+                "została cofnięta, wcześniejsze są zapisane.");
+        if (praca)
+            return QStringLiteral(
+                "Poprzednia praca została przerwana. Wszystkie zapisane czynności są w bazie, "
+                "nic nie zginęło.");
+        return {};
+    }
+};
+
+void wymagajBudowy(Polaczenie& polaczenie) {
+    if (const QStringList braki = BrakiBudowy(polaczenie.uchwyt()); !braki.isEmpty())
+        throw BladBazy(QStringLiteral("Baza danych „%1” jest niekompletna.").arg(polaczenie.sciezka()));
+}
+
+} // namespace
+
+QString ZaleceniePrzyStarcie(const QString& sciezka) {
+    const QString zArchiwum =
+        QStringLiteral("Przywróć ostatnie archiwum: polecenia „tornel-cli archiwum lista” i "
+                       "„tornel-cli archiwum przywroc”.");
+    const ZbadanyPlik plik = ZbadajPlik(sciezka);
+    switch (plik.stan) {
+    case StanPliku::Brak:
+        return QStringLiteral(
+                   "Sprawdź, czy plik leży tam, gdzie wskazuje Baza.ini, a bez niej obok programu. ") +
+               zArchiwum;
+    case StanPliku::Zajety:
+        return QStringLiteral("Zamknij program, który pracuje na tym pliku, i uruchom ten jeszcze raz.");
+    case StanPliku::BezZapisu:
+        return QStringLiteral(
+            "Nadaj sobie prawo zapisu do pliku i do jego katalogu i uruchom program jeszcze raz.");
+    case StanPliku::NieBaza:
+        return QStringLiteral("Sprawdź, jaki plik wskazuje Baza.ini. ") + zArchiwum;
+    case StanPliku::Nowszy:
+        return QStringLiteral("Zainstaluj nowszy program albo wskaż inną bazę w pliku Baza.ini.");
+    case StanPliku::Uszkodzony:
+        return QStringLiteral("Nie pracuj na tym pliku. ") + zArchiwum +
+               QStringLiteral("\nUszkodzone lub niepełne tabele:\n") + plik.tabele.join(u'\n');
+    case StanPliku::Dobry:
+        break;
+    }
+    return QStringLiteral("Plik bazy jest cały. Uruchom program jeszcze raz.");
+}
+
+Program::Program(const QString& sciezka, const QString& folderProgramu, Rozmowa& rozmowa,
+                 const std::function<void(Polaczenie&)>& przedTabelami)
+    : sciezka_(sciezka) {
     int krok = 1;
     try {
-        sesja_ = std::make_unique<Sesja>(sciezka);
+        const Pozostalosci pozostalosci{
+            QFileInfo::exists(znakPracy(sciezka)),
+            QFileInfo(sciezka + QStringLiteral("-journal")).size() > 0,
+            DokonczPrzywracanie(sciezka),
+        };
+        sesja_ = std::make_unique<Sesja>(sciezka, [&](Polaczenie& polaczenie) {
+            if (przedTabelami) przedTabelami(polaczenie);
+            wymagajBudowy(polaczenie);
+        });
+        znalezione_ = pozostalosci.opis();
+        QFile(znakPracy(sciezka)).open(QIODevice::WriteOnly);
         ++krok;
         skladniki_.WczytajSkladnikiPlac(*sesja_);
         ++krok;
@@ -56,7 +134,10 @@ Program::Program(const QString& sciezka, const QString& folderProgramu, Rozmowa&
         ++krok;
         InitUzytkownicy(*sesja_);
     } catch (const Blad& blad) {
-        throw BladStartu(krok, blad.komunikat());
+        const bool otwarta = sesja_ != nullptr;
+        sesja_.reset();
+        if (otwarta) QFile::remove(znakPracy(sciezka));
+        throw BladStartu(krok, blad.komunikat() + QStringLiteral("\n\n") + ZaleceniePrzyStarcie(sciezka));
     }
     if (const auto& zmiana = sesja_->zmianaWersji())
         rozmowa.komunikat(
@@ -65,6 +146,12 @@ Program::Program(const QString& sciezka, const QString& folderProgramu, Rozmowa&
                 .arg(zmiana->kopia),
             Styl::Informacja);
     otoczenie_ = std::make_unique<Otoczenie>(Otoczenie{*sesja_, stale_, skladniki_, rozmowa});
+}
+
+Program::~Program() {
+    otoczenie_.reset();
+    sesja_.reset();
+    QFile::remove(znakPracy(sciezka_));
 }
 
 namespace {

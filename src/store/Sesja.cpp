@@ -1,11 +1,17 @@
 #include "store/Sesja.h"
 #include "common/Blad.h"
 #include "store/Komorki.h"
+#include <exception>
 
 namespace tornel::store {
 
-Sesja::Sesja(const QString& sciezka)
+Sesja::Sesja(const QString& sciezka, const std::function<void(Polaczenie&)>& przedTabelami)
     : cnPlace(sciezka, Polaczenie::Sposob::Istniejaca), zmianaWersji_(DoprowadzDoWersji(cnPlace)) {
+    if (przedTabelami) przedTabelami(cnPlace);
+    otworzStale();
+}
+
+void Sesja::otworzStale() {
     kadry.Open(cnPlace);
     rsSZ_PL.Open(cnPlace);
     rsSZ_PL.Sort({schemat::SZ_PL("NR")});
@@ -85,6 +91,28 @@ void Sesja::OdswiezUchwyty() {
             rs->Close();
     }
     if (!wierszListy.otwarta()) ZamknijMiesiac();
+}
+
+void Sesja::PrzyZamknietychUchwytach(const std::function<void()>& czynnosc) {
+    const RokMies miesiac = miesiac_;
+    std::vector<Recordset*> otwarte;
+    ZamknijMiesiac();
+    for (Recordset* rs : uchwyty())
+        if (rs->otwarty()) {
+            otwarte.push_back(rs);
+            rs->Close();
+        }
+    std::exception_ptr wyjatek;
+    try {
+        czynnosc();
+    } catch (...) {
+        wyjatek = std::current_exception();
+    }
+    for (Recordset* rs : otwarte) rs->Open(cnPlace);
+    otworzStale();
+    if (rsPLACE.otwarty()) OtworzNaglowki();
+    if (int wynik = 0; miesiac.rok > 0) OtworzMiesiac(miesiac.rok, miesiac.mies, wynik);
+    if (wyjatek) std::rethrow_exception(wyjatek);
 }
 
 OtwartyMiesiac::OtwartyMiesiac(Sesja& sesja, RokMies miesiac) : sesja_(sesja), poprzedni_(sesja.miesiac()) {

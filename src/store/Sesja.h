@@ -4,6 +4,7 @@
 #include "store/Grupa.h"
 #include "store/Schemat.h"
 #include "store/WersjaPliku.h"
+#include <functional>
 #include <memory>
 #include <optional>
 #include <QString>
@@ -20,8 +21,9 @@ struct Uzytkownik {
 class Sesja {
 public:
     /// Opens the file, brings an older one up to date, and opens the six handles that stay open, sorted.
-    /// Throws `BladBazy`, also for a file of a newer program.
-    explicit Sesja(const QString& sciezka);
+    /// Throws `BladBazy`, also for a file of a newer program. `przedTabelami` is what happens to the file of
+    /// today's version before any table is opened.
+    explicit Sesja(const QString& sciezka, const std::function<void(Polaczenie&)>& przedTabelami = {});
     /// What was done with an older file; nothing for one of today's version.
     [[nodiscard]] const std::optional<ZmianaWersji>& zmianaWersji() const { return zmianaWersji_; }
 
@@ -61,6 +63,10 @@ public:
     /// Reads every open handle again, after a rolled-back action.
     void OdswiezUchwyty();
 
+    /// Closes every handle and runs `czynnosc`, which changes the tables; then those that were open are open
+    /// again, also when it throws. Pending changes must have been written. Throws `BladBazy`.
+    void PrzyZamknietychUchwytach(const std::function<void()>& czynnosc);
+
     Polaczenie cnPlace;
     Recordset rsPRACDP{schemat::PRACDP}, rsPRACSK{schemat::PRACSK}, rsPRACINF{schemat::PRACINF};
     Recordset rsPRACPR{schemat::PRACPR}, rsPRACZUS{schemat::PRACZUS}, rsSZ_PL{schemat::SZ_PL};
@@ -84,6 +90,7 @@ public:
 
 private:
     [[nodiscard]] std::vector<Recordset*> uchwyty();
+    void otworzStale();
     std::optional<ZmianaWersji> zmianaWersji_;
     RokMies miesiac_;
 };

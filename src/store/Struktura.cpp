@@ -42,9 +42,14 @@ void UtworzTabele(Polaczenie& polaczenie, const TabelaDef& tabela, const QString
     for (const KolumnaDef& k : tabela.kolumny)
         kolumny += (kolumny.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa) + " " + typSql(k) +
                    (k.wymagana ? " NOT NULL" : "");
-    const std::string cudzyslow = nazwaSql(nazwa.toStdString()).toStdString();
-    polaczenie.wykonaj("CREATE TABLE " + cudzyslow + " (" + kolumny.toStdString() + ")");
+    polaczenie.wykonaj("CREATE TABLE " + nazwaSql(nazwa.toStdString()).toStdString() + " (" +
+                       kolumny.toStdString() + ")");
+    UtworzIndeksy(polaczenie, tabela, nazwa);
+}
+
+void UtworzIndeksy(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa) {
     if (tabela.klucz.empty()) return;
+    const std::string cudzyslow = nazwaSql(nazwa.toStdString()).toStdString();
     // Contracts and declarations have keys of their own and are searched by employee as well.
     if (tabela.numer("PRC_ID") >= 0 && !teSameNazwy(tabela.klucz[0], "PRC_ID"))
         polaczenie.wykonaj("CREATE INDEX " + nazwaSql("P_" + nazwa.toStdString()).toStdString() + " ON " +

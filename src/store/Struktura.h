@@ -11,6 +11,8 @@ void UtworzBaze(const QString& sciezka);
 
 /// Makes one table with its index in the file (DDL). Throws `BladBazy`.
 void UtworzTabele(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa);
+/// Makes the indexes of a table that has none yet. Throws `BladBazy`.
+void UtworzIndeksy(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa);
 /// Drops one table. Throws `BladBazy`.
 void UsunTabele(Polaczenie& polaczenie, const QString& nazwa);
 

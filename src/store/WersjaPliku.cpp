@@ -1,10 +1,8 @@
 #include "store/WersjaPliku.h"
 #include "common/Blad.h"
+#include "store/KopiaPliku.h"
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <sqlite3.h>
 
 namespace tornel::store {
 
@@ -33,54 +31,11 @@ constexpr KrokWersji kKroki[] = {
      }},
 };
 
-/// A name that no file has yet, beside the database: Tornel-wersja-0-20010731-1530.mdb.
-QString nazwaKopii(const QFileInfo& plik, int wersja) {
-    const QString trzon = QStringLiteral("%1-wersja-%2-%3")
-                              .arg(plik.completeBaseName())
-                              .arg(wersja)
-                              .arg(plik.lastModified().toString(QStringLiteral("yyyyMMdd-HHmmss")));
-    const QString koncowka = plik.suffix().isEmpty() ? QString() : QLatin1Char('.') + plik.suffix();
-    for (int i = 1;; ++i) {
-        QString nazwa =
-            plik.dir().filePath(trzon + (i == 1 ? QString() : QStringLiteral("-%1").arg(i)) + koncowka);
-        if (!QFileInfo::exists(nazwa)) return nazwa;
-    }
-}
-
-[[noreturn]] void zglosBrakKopii(const QString& zrodlo, const QString& cel, const QString& powod) {
-    throw BladBazy(QStringLiteral("Nie można zrobić kopii „%1” bazy danych „%2” przed zmianą jej wersji: %3.")
-                       .arg(cel, zrodlo, powod));
-}
-
-/// Page by page through the engine: closing the file after an ordinary copy would drop the engine's lock.
-void kopiujStrony(sqlite3* zrodlo, const QString& cel, const QString& sciezka) {
-    sqlite3* baza = nullptr;
-    int wynik = sqlite3_open(cel.toUtf8().constData(), &baza);
-    if (wynik == SQLITE_OK) {
-        if (sqlite3_backup* kopia = sqlite3_backup_init(baza, "main", zrodlo, "main")) {
-            sqlite3_backup_step(kopia, -1);
-            sqlite3_backup_finish(kopia);
-        }
-        wynik = sqlite3_errcode(baza);
-    }
-    const QString powod = QString::fromUtf8(sqlite3_errmsg(baza));
-    sqlite3_close(baza);
-    if (wynik != SQLITE_OK) zglosBrakKopii(sciezka, cel, powod);
-}
-
-QString kopiuj(Polaczenie& polaczenie, int wersja) {
-    QString cel = nazwaKopii(QFileInfo(polaczenie.sciezka()), wersja);
-    // Under its own name only when it is whole.
-    const QString niegotowa = cel + QStringLiteral(".czesc");
-    UsunPlikBazy(niegotowa);
-    try {
-        kopiujStrony(polaczenie.uchwyt(), niegotowa, polaczenie.sciezka());
-        QFile plik(niegotowa);
-        if (!plik.rename(cel)) zglosBrakKopii(polaczenie.sciezka(), cel, plik.errorString());
-    } catch (...) {
-        UsunPlikBazy(niegotowa);
-        throw;
-    }
+/// Named with the file's version and the time of its last change.
+QString kopiaPrzedZmianaWersji(Polaczenie& polaczenie, int wersja) {
+    QString cel = NazwaKopii(polaczenie.sciezka(), QStringLiteral("wersja-%1").arg(wersja),
+                             QFileInfo(polaczenie.sciezka()).lastModified());
+    KopiujOtwarta(polaczenie, cel);
     return cel;
 }
 
@@ -107,7 +62,7 @@ std::optional<ZmianaWersji> DoprowadzDoWersji(Polaczenie& polaczenie, std::span<
                 .arg(polaczenie.sciezka())
                 .arg(wersja)
                 .arg(docelowa));
-    const QString kopia = kopiuj(polaczenie, wersja);
+    const QString kopia = kopiaPrzedZmianaWersji(polaczenie, wersja);
     Transakcja transakcja(polaczenie,
                           QStringLiteral("Zmiana wersji bazy danych z %1 na %2").arg(wersja).arg(docelowa));
     for (const KrokWersji& krok : kroki.subspan(static_cast<std::size_t>(wersja))) {
