@@ -41,5 +41,6 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaUmow();
 [[nodiscard]] QList<Polecenie> poleceniaZus();
 [[nodiscard]] QList<Polecenie> poleceniaArchiwum();
+[[nodiscard]] QList<Polecenie> poleceniaStruktury();
 
 } // namespace tornel::cli
