@@ -22,6 +22,8 @@ constexpr QStringView kPomoc = u"Pomoc";
 
 // The list of users shows every password in clear, so it is the administrator's alone, as is his sub-menu.
 constexpr PozycjaMenu kMenu[] = {
+    {kPlik, {}, u"Otwórz bazę", Wejscie::OtworzBaze, Kazdy},
+    {kPlik, {}, u"Ostatnie bazy", Wejscie::OstatnieBazy, Kazdy},
     {kPlik, {}, u"Koniec", Wejscie::Koniec, Kazdy, Przycisk, u"koniec"},
     {kPracownicy, {}, u"Wszyscy pracownicy", Wejscie::PracownicyWszyscy, Kadry, ZLista, u"pracownicy"},
     {kPracownicy, {}, u"Tylko pracujący", Wejscie::PracownicyPracujacy, Kadry},
@@ -55,6 +57,7 @@ constexpr PozycjaMenu kMenu[] = {
     {kKonfiguracja, {}, u"Stałe programu", Wejscie::StaleProgramu, Place, Przycisk, u"stale"},
     {kKonfiguracja, {}, u"Zmiana hasła", Wejscie::ZmianaHasla, Kazdy, Nie, u"haslo"},
     {kKonfiguracja, {}, u"Utwórz archiwum danych", Wejscie::UtworzArchiwum, Kazdy, Nie, u"archiwum"},
+    {kKonfiguracja, {}, u"Przywróć z archiwum", Wejscie::PrzywrocArchiwum, Administrator},
     {kKonfiguracja, kMenuAdministrator, u"Aktualizuj bazę danych", Wejscie::AktualizujBaze, Administrator},
     {kKonfiguracja, kMenuAdministrator, u"Pobierz strukturę bazy", Wejscie::PobierzStrukture, Administrator},
     {kKonfiguracja,

@@ -9,6 +9,8 @@ namespace tornel::app {
 
 /// Everything that the main window can open, one value for each entry of the menu.
 enum class Wejscie {
+    OtworzBaze,
+    OstatnieBazy,
     Koniec,
     PracownicyWszyscy,
     PracownicyPracujacy,
@@ -42,6 +44,7 @@ enum class Wejscie {
     StaleProgramu,
     ZmianaHasla,
     UtworzArchiwum,
+    PrzywrocArchiwum,
     AktualizujBaze,
     PobierzStrukture,
     ListaUzytkownikow,

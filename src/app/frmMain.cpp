@@ -26,7 +26,8 @@ namespace {
 
 constexpr int kStalaUsunietegoHasla = 998;
 constexpr int kKolumnSkrotow = 4;
-constexpr int kSzerokoscBazy = 60 * Wyglad::kSiatka;
+constexpr int kSzerokoscBazy = 50 * Wyglad::kSiatka;
+constexpr int kSzerokoscZnalezionych = 90 * Wyglad::kSiatka;
 
 /// What a clerk opens most, in the order of the start page.
 constexpr std::array kSkroty{Wejscie::PracownicyWszyscy, Wejscie::ListaPlac,      Wejscie::UmowyZlecenia,
@@ -198,6 +199,9 @@ void frmMain::budujStan() {
         napis->setContentsMargins(Wyglad::kSiatka, 0, 2 * Wyglad::kSiatka, 0);
         statusBar()->addWidget(napis);
     }
+    labZnalezione_ = etykieta(QStringLiteral("labZnalezione"), 0, true);
+    labZnalezione_->hide();
+    statusBar()->addWidget(labZnalezione_);
     labMiesiac_->setContentsMargins(0, 0, Wyglad::kSiatka, 0);
     statusBar()->addPermanentWidget(labMiesiac_);
 }
@@ -264,9 +268,22 @@ void frmMain::otworz(Wejscie wejscie) {
     odswiezStan();
 }
 
-void frmMain::zamknijBezPytania() {
+void frmMain::pokazZnalezione(const QString& tekst) {
+    labZnalezione_->setText(fontMetrics().elidedText(tekst, Qt::ElideRight, kSzerokoscZnalezionych));
+    labZnalezione_->setToolTip(tekst);
+    labZnalezione_->setVisible(!tekst.isEmpty());
+}
+
+void frmMain::zamknijBezPytania(std::function<void()> poZamknieciu, Dalej dalej) {
+    if (poZamknieciu) poZamknieciu_.prace.push_back(std::move(poZamknieciu));
+    if (dalej == Dalej::OdNowa) poZamknieciu_.odNowa = true;
     bezPytania_ = true;
     close();
+}
+
+void frmMain::zamknijIZacznijOdNowa(std::function<void()> poZamknieciu) {
+    poZamknieciu_ = {{std::move(poZamknieciu)}, true, true};
+    if (!close()) poZamknieciu_ = {};
 }
 
 bool frmMain::pozegnaj() {

@@ -38,8 +38,21 @@ public:
     /// Shows user, database and open month, and what to do next while there are no employees.
     void odswiezStan();
 
+    /// What comes once the window and the session are closed.
+    struct PoZamknieciu {
+        std::vector<std::function<void()>> prace; ///< on the closed file, in their order
+        bool odNowa = false;                      ///< the program starts anew, with the login
+        bool innaBaza = false;                    ///< on the database that `Baza.ini` names
+    };
+    enum class Dalej { Koniec, OdNowa };
     /// Ends the program without the exit question, as the archive does.
-    void zamknijBezPytania();
+    void zamknijBezPytania(std::function<void()> poZamknieciu = {}, Dalej dalej = Dalej::Koniec);
+    /// Ends the session after the exit question and starts anew on the database of `Baza.ini`. A No leaves
+    /// everything as it was.
+    void zamknijIZacznijOdNowa(std::function<void()> poZamknieciu);
+    [[nodiscard]] const PoZamknieciu& poZamknieciu() const { return poZamknieciu_; }
+    /// What the start found of a program that did not end by itself, in the status bar.
+    void pokazZnalezione(const QString& tekst);
     [[nodiscard]] QAction* akcja(Wejscie wejscie) const { return akcje_.at(wejscie); }
 
 protected:
@@ -74,6 +87,8 @@ private:
     QLabel* labUzytkownik_ = nullptr;
     QLabel* labBaza_ = nullptr;
     QLabel* labMiesiac_ = nullptr;
+    QLabel* labZnalezione_ = nullptr;
+    PoZamknieciu poZamknieciu_;
     bool bezPytania_ = false;
 };
 

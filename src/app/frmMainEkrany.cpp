@@ -2,6 +2,7 @@
 #include "app/frmHaslo.h"
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
+#include "app/frmMainArchiwum.h"
 #include "app/frmMainUmowy.h"
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmMainWydrukiListy.h"
@@ -60,6 +61,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     ZarejestrujZbiorowki(okno, otoczenie);
     ZarejestrujZus(okno, otoczenie);
     ZarejestrujUmowy(okno, otoczenie);
+    ZarejestrujArchiwum(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);
     zarejestruj<frmLogLista>(okno, otoczenie, Wejscie::ListaUzytkownikow);
     okno.rejestruj(Wejscie::StaleProgramu, [&] {

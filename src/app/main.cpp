@@ -1,16 +1,18 @@
 // Main: from the command line to the main window.
 #include "app/frmLogowanie.h"
 #include "app/frmMain.h"
+#include "app/frmMainArchiwum.h"
 #include "app/frmMainEkrany.h"
 #include "app/frmSplash.h"
 #include "okna/Aplikacja.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/Wyglad.h"
+#include "start/Foldery.h"
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
-#include <QDir>
 #include <QLibraryInfo>
+#include <QScopeGuard>
 #include <QTranslator>
 
 namespace tornel::app {
@@ -41,9 +43,15 @@ void wczytajTlumaczenieQt(Aplikacja& aplikacja) {
 }
 
 /// Opens the session, or says why it cannot be opened.
-std::unique_ptr<Program> PStart(const QString& baza, Rozmowa& rozmowa) {
+std::unique_ptr<Program> PStart(const QString& baza, const QString& folder, const Przelaczniki& przelaczniki,
+                                Rozmowa& rozmowa) {
     try {
-        return std::make_unique<Program>(baza, QCoreApplication::applicationDirPath(), rozmowa);
+        // The structure is brought up to date before any table is opened, since that changes the tables.
+        return std::make_unique<Program>(baza, folder, rozmowa, [&](Polaczenie& polaczenie) {
+            if (przelaczniki.aktua &&
+                rozmowa.pytanie(QStringLiteral("Czy zaktualizować bezę danych programu ?")))
+                AktualizujBaze(polaczenie, aktualizacjaWOknach(nullptr), rozmowa);
+        });
     } catch (const Blad& blad) {
         rozmowa.komunikat(blad.komunikat(), Styl::Krytyczny);
         return nullptr;
@@ -61,36 +69,62 @@ bool zaloguj(Sesja& sesja, Rozmowa& rozmowa) {
     return false;
 }
 
-} // namespace
+/// From the search for the database to the closed session. Without a window there is nothing to be done after
+/// it: the program ends with `status`.
+struct Praca {
+    frmMain::PoZamknieciu po;
+    int status = 0;
+};
 
-static int Uruchom(int argc, char** argv) {
-    Aplikacja aplikacja(argc, argv);
-    wczytajTlumaczenieQt(aplikacja);
-    Wyglad::zastosuj(aplikacja);
-    const WierszPolecen polecenie = czytajArgumenty(Aplikacja::arguments());
-
+Praca pracuj(Aplikacja& aplikacja, Rozmowa& rozmowa, Pomoc& pomoc, const WierszPolecen& polecenie) {
     frmSplash splash;
     splash.show();
     Aplikacja::processEvents();
     Aplikacja::setOverrideCursor(Qt::WaitCursor);
-    RozmowaOkien rozmowa;
-    Pomoc pomoc(QDir(Aplikacja::applicationDirPath()).filePath(QStringLiteral("Help.hlp")), rozmowa);
-    const QString baza =
-        polecenie.baza.isEmpty() ? ZnajdzBaze(Aplikacja::applicationDirPath(), rozmowa) : polecenie.baza;
-    const std::unique_ptr<Program> program = PStart(baza, rozmowa);
+    const QString folder = FolderDanych(Aplikacja::applicationDirPath());
+    const QString baza = polecenie.baza.isEmpty() ? ZnajdzBaze(folder, rozmowa) : polecenie.baza;
+    const std::unique_ptr<Program> program = PStart(baza, folder, polecenie.przelaczniki, rozmowa);
     Aplikacja::restoreOverrideCursor();
-    if (!program) return 1;
-    aplikacja.ustawNaprawe([&](const QString& komunikat) { rozmowa.komunikat(komunikat, Styl::Krytyczny); });
+    if (!program) return {{}, 1};
     aplikacja.ustawOdczyt([&] { program->sesja().OdswiezUchwyty(); });
-    if (!zaloguj(program->sesja(), rozmowa)) return 0;
+    const auto koniec = qScopeGuard([&] { aplikacja.ustawOdczyt({}); });
+    if (!zaloguj(program->sesja(), rozmowa)) return {};
 
     frmMain okno(program->otoczenie());
     ZarejestrujEkrany(okno, program->otoczenie());
     okno.rejestruj(Wejscie::Pomoc, [&] { pomoc.pokazSpis(okno); });
     splash.finish(&okno);
     okno.show();
+    okno.pokazZnalezione(program->znalezione());
     okno.wczytaj();
-    return Aplikacja::exec();
+    const int status = Aplikacja::exec();
+    return {okno.poZamknieciu(), status};
+}
+
+} // namespace
+
+static int Uruchom(int argc, char** argv) {
+    Aplikacja aplikacja(argc, argv);
+    wczytajTlumaczenieQt(aplikacja);
+    Wyglad::zastosuj(aplikacja);
+    WierszPolecen polecenie = czytajArgumenty(Aplikacja::arguments());
+    RozmowaOkien rozmowa;
+    aplikacja.ustawNaprawe([&](const QString& komunikat) { rozmowa.komunikat(komunikat, Styl::Krytyczny); });
+    Pomoc pomoc(PlikProgramu(Aplikacja::applicationDirPath(), QStringLiteral("Help.hlp")), rozmowa);
+    for (;;) {
+        const Praca praca = pracuj(aplikacja, rozmowa, pomoc, polecenie);
+        for (const auto& czynnosc : praca.po.prace) {
+            try {
+                czynnosc();
+            } catch (const Blad& blad) {
+                rozmowa.komunikat(blad.komunikat(), Styl::Krytyczny);
+            }
+        }
+        if (!praca.po.odNowa) return praca.status;
+        // Another database stands in Baza.ini; a restore has left the same one in its place.
+        polecenie.przelaczniki = {};
+        if (praca.po.innaBaza) polecenie.baza.clear();
+    }
 }
 
 } // namespace tornel::app

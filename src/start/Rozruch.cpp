@@ -3,6 +3,7 @@
 #include "common/Rozmowa.h"
 #include "rules/Konfiguracja.h"
 #include "start/Archiwum.h"
+#include "start/BazaIni.h"
 #include "start/Uzytkownicy.h"
 #include "store/StanPliku.h"
 #include "store/Struktura.h"
@@ -33,10 +34,8 @@ Przelaczniki CzytajPrzelaczniki(const QString& wierszPolecen) {
 
 QString ZnajdzBaze(const QString& folderProgramu, Rozmowa& rozmowa) {
     const QDir folder(folderProgramu);
-    QFile ini(folder.filePath(QStringLiteral("Baza.ini")));
-    if (ini.open(QIODevice::ReadOnly)) {
-        QString sciezka = QString::fromUtf8(ini.readLine()).trimmed();
-        if (!sciezka.isEmpty() && QFileInfo(sciezka).isFile()) return sciezka;
+    if (const auto ini = CzytajBazeIni(folderProgramu)) {
+        if (!ini->baza.isEmpty() && QFileInfo(ini->baza).isFile()) return ini->baza;
         rozmowa.komunikat(QStringLiteral("Nie można znaleźć bazy podadnej w pliku Baza.ini"),
                           Styl::Krytyczny);
     }
