@@ -71,7 +71,8 @@ TEST_F(PowlokaTest, MenuStoiWCalosciABezEkranuWejscieJestZamkniete) {
         wejscia += wejsciaMenu(*akcja->menu(), akcja->text());
     const QStringList oczekiwane =
         QStringLiteral(
-            "Plik>Koniec|Pracownicy>Wszyscy pracownicy|Pracownicy>Tylko pracujący|Pracownicy>Tylko zwolnieni|"
+            "Plik>Otwórz bazę|Plik>Ostatnie bazy|Plik>Koniec|Pracownicy>Wszyscy pracownicy|Pracownicy>Tylko "
+            "pracujący|Pracownicy>Tylko zwolnieni|"
             "Pracownicy>Zatrudnieni na umowę zlecenie|Pracownicy>Zatrudnieni na umowę o dzieło|"
             "Pracownicy>Otrzymujący honoraria|Pracownicy>Lista umów o pracę|Płace>Lista "
             "płac|Płace>Nadgodziny|"
@@ -81,7 +82,7 @@ TEST_F(PowlokaTest, MenuStoiWCalosciABezEkranuWejscieJestZamkniete) {
             "Adresy>Adresy działalności|Adresy>Konta bankowe|Analizy>Lista dokumentów ZUS DRA|"
             "Analizy>Wydruki ZUS|Analizy>Zbiorówka za miesiąc|Analizy>Zbiorówka za rok|Analizy>PIT-4|"
             "Analizy>PIT-8B|Analizy>PIT-11|Analizy>PIT-40|Konfiguracja>Stałe programu|"
-            "Konfiguracja>Zmiana hasła|Konfiguracja>Utwórz archiwum danych|"
+            "Konfiguracja>Zmiana hasła|Konfiguracja>Utwórz archiwum danych|Konfiguracja>Przywróć z archiwum|"
             "Konfiguracja>Administrator>Aktualizuj bazę danych|"
             "Konfiguracja>Administrator>Pobierz strukturę bazy|Konfiguracja>Lista użytkowników|Pomoc>Pomoc|"
             "Pomoc>O programie")

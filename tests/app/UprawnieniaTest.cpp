@@ -14,7 +14,8 @@ namespace {
 
 using enum Wejscie;
 
-const std::set<Wejscie> kDlaKazdego{Koniec, ZmianaHasla, UtworzArchiwum, Pomoc, OProgramie};
+const std::set<Wejscie> kDlaKazdego{OtworzBaze,     OstatnieBazy, Koniec,    ZmianaHasla,
+                                    UtworzArchiwum, Pomoc,        OProgramie};
 const std::set<Wejscie> kKadry{
     PracownicyWszyscy,      PracownicyPracujacy, PracownicyZwolnieni, PracownicyUmowaZlecenie,
     PracownicyUmowaODzielo, PracownicyHonoraria, UmowyOPrace};
@@ -34,7 +35,7 @@ const std::set<Wejscie> kPlace{ListaPlac,
                                PIT11,
                                PIT40,
                                StaleProgramu};
-const std::set<Wejscie> kAdministrator{AktualizujBaze, PobierzStrukture, ListaUzytkownikow};
+const std::set<Wejscie> kAdministrator{PrzywrocArchiwum, AktualizujBaze, PobierzStrukture, ListaUzytkownikow};
 
 std::set<Wejscie> otwarte(int typ, const Stale& stale) {
     std::set<Wejscie> wynik;
