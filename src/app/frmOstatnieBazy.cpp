@@ -4,6 +4,7 @@
 #include "okna/Wyglad.h"
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -37,7 +38,11 @@ frmOstatnieBazy::frmOstatnieBazy(const QStringList& bazy, QWidget* rodzic)
     connect(cmdAnuluj, &QPushButton::clicked, this, &QDialog::reject);
     cmdOtworz->setEnabled(!bazy_.isEmpty());
     cmdOtworz->setDefault(true);
+    auto* labOpis =
+        new QLabel(QStringLiteral("Program zapyta o zakończenie pracy i uruchomi się na wybranej bazie."));
+    labOpis->setObjectName(QStringLiteral("labOpis"));
     auto* uklad = new QVBoxLayout(this);
+    uklad->addWidget(labOpis);
     uklad->addWidget(lvwBazy_, 1);
     uklad->addWidget(rzadPrzyciskow({cmdOtworz, cmdAnuluj, przyciskPomocy()}));
     resize(90 * Wyglad::kSiatka, 44 * Wyglad::kSiatka);

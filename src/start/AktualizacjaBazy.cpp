@@ -112,7 +112,7 @@ private:
 
     void utworz(const QString& tabela, const QList<PoleStruktury>& pola) {
         polecenie(
-            QStringLiteral("CREATE TABLE ") + tabela + u';', [&] { zmiana_.UtworzTabele(tabela); },
+            ZmianaStruktury::TekstUtworzenia(tabela), [&] { zmiana_.UtworzTabele(tabela); },
             QStringLiteral("Nastąpił błąd podczas tworzenia nowej tabeli ") + tabela);
         for (const PoleStruktury& p : pola) dodaj(tabela, p, QStringLiteral(" do nowej tabeli "));
     }
@@ -120,7 +120,7 @@ private:
     void dodaj(const QString& tabela, const PoleStruktury& pole, const QString& doTabeli) {
         const QString typ = TypSQL(pole.typ, pole.rozmiar);
         polecenie(
-            QStringLiteral("ALTER TABLE ") + tabela + QStringLiteral(" ADD ") + pole.pole + u' ' + typ + u';',
+            ZmianaStruktury::TekstDodania(tabela, pole.pole, typ),
             [&] { zmiana_.DodajPole(tabela, pole.pole, typ); },
             QStringLiteral("Nastąpił błąd podczas dodawania pola ") + pole.pole + doTabeli + tabela);
     }
@@ -135,8 +135,7 @@ private:
             } else if (jest->typ != p.typ || jest->rozmiar != p.rozmiar) {
                 const QString typ = TypSQL(p.typ, p.rozmiar);
                 polecenie(
-                    QStringLiteral("ALTER TABLE ") + tabela + QStringLiteral(" ALTER COLUMN ") + p.pole +
-                        u' ' + typ + u';',
+                    ZmianaStruktury::TekstZmiany(tabela, p.pole, typ),
                     [&] { zmiana_.ZmienPole(tabela, p.pole, typ); },
                     QStringLiteral("Nastąpił błąd podczas zmiany parametrów pola ") + p.pole +
                         QStringLiteral(" w tabeli ") + tabela);

@@ -144,6 +144,19 @@ void zalozIndeksySchematu(Polaczenie& polaczenie, const QString& tabela) {
 
 } // namespace
 
+QString ZmianaStruktury::TekstUtworzenia(const QString& tabela) {
+    return QStringLiteral("CREATE TABLE ") + tabela + u';';
+}
+
+QString ZmianaStruktury::TekstDodania(const QString& tabela, const QString& pole, const QString& typSql) {
+    return QStringLiteral("ALTER TABLE ") + tabela + QStringLiteral(" ADD ") + pole + u' ' + typSql + u';';
+}
+
+QString ZmianaStruktury::TekstZmiany(const QString& tabela, const QString& pole, const QString& typSql) {
+    return QStringLiteral("ALTER TABLE ") + tabela + QStringLiteral(" ALTER COLUMN ") + pole + u' ' + typSql +
+           u';';
+}
+
 void ZmianaStruktury::UtworzTabele(const QString& tabela) {
     if (polaczenie_.jestTabela(tabela)) throw Blad(QStringLiteral("Tabela %1 już istnieje.").arg(tabela));
     bezPol_.insert(tabela);

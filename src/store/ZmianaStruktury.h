@@ -11,6 +11,14 @@ class ZmianaStruktury {
 public:
     explicit ZmianaStruktury(Polaczenie& polaczenie) : polaczenie_(polaczenie) {}
 
+    // The statements as a report shows them; what they mean is done by the operations below.
+
+    [[nodiscard]] static QString TekstUtworzenia(const QString& tabela);
+    [[nodiscard]] static QString TekstDodania(const QString& tabela, const QString& pole,
+                                              const QString& typSql);
+    [[nodiscard]] static QString TekstZmiany(const QString& tabela, const QString& pole,
+                                             const QString& typSql);
+
     /// CREATE TABLE without columns: the table is made with its first column.
     void UtworzTabele(const QString& tabela);
     /// A new column, null in every row. With its last key column a table of the schema gets its indexes.
