@@ -1,9 +1,12 @@
 #include "cli/Polecenia.h"
+#include "cli/Wydruk.h"
 #include "common/Blad.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
 #include "contracts/Umowy.h"
+#include "reports/umowy/WydrukiUmow.h"
 #include "store/Sesja.h"
+#include <QDate>
 #include <QJsonObject>
 
 namespace tornel::cli {
@@ -77,10 +80,46 @@ int lista(Wywolanie& w) {
     return status::Wykonane;
 }
 
+int wydrukUmowy(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    const RodzajUmowy& umowa = rodzaj(w);
+    Umowy umowy(w.otoczenie(), umowa);
+    wybierz(w, umowy);
+    const qint64 numer = liczbaZTekstu(w.argumenty.pozycje[1], 1, 32767, QStringLiteral("numer"));
+    WypiszWydruk(w, *reports::UlozUmowe(w.otoczenie(), umowa, numer));
+    return status::Wykonane;
+}
+
+int wydrukRachunku(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    const RodzajUmowy& umowa = rodzaj(w);
+    Umowy umowy(w.otoczenie(), umowa);
+    wybierz(w, umowy);
+    const qint64 numer = liczbaZTekstu(w.argumenty.pozycje[1], 1, 32767, QStringLiteral("numer"));
+    WypiszWydruk(w, *reports::UlozRachunek(w.otoczenie(), umowa, numer, QDate::currentDate()));
+    return status::Wykonane;
+}
+
+int wydrukZestawienia(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    const RodzajUmowy& umowa = rodzaj(w);
+    QList<qint64> klucze;
+    for (const LiniaUmowy& l : Umowy(w.otoczenie(), umowa).Wczytaj()) klucze.append(l.id);
+    WypiszWydruk(w, *reports::UlozZestawienieUmow(w.otoczenie(), umowa, QStringLiteral("Lista umów"), klucze,
+                                                  QDate::currentDate()));
+    return status::Wykonane;
+}
+
 } // namespace
 
 QList<Polecenie> poleceniaUmow() {
     return {
+        {u"wydruk umowa", u"(UZL | UOD) NUMER (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"umowa do podpisania", 2, 2, opcjeWydruku({}), wydrukUmowy},
+        {u"wydruk rachunek", u"(UZL | UOD | HON) NUMER (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"rachunek do umowy", 2, 2, opcjeWydruku({}), wydrukRachunku},
+        {u"wydruk lista-umow", u"(UZL | UOD | HON) (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"wszystkie umowy z sumami", 1, 1, opcjeWydruku({}), wydrukZestawienia},
         {u"umowa nowa",
          u"(UZL | UOD | HON) --pracownik N --data D",
          u"zakłada umowę ze wskaźnikami z kartoteki, podaje jej numer",
