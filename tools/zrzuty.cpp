@@ -1,13 +1,17 @@
 // Renders every screen on the example firm into PNG files of a folder: in its own size, and the large ones at
 // 1280x800 into a folder of that name below it.
 #include "app/frmAbout.h"
+#include "app/frmArchiwa.h"
 #include "app/frmHaslo.h"
+#include "app/frmInform.h"
 #include "app/frmLogLista.h"
 #include "app/frmLogNowy.h"
 #include "app/frmLogowanie.h"
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
 #include "app/frmMainWydrukiKadr.h"
+#include "app/frmOstatnieBazy.h"
+#include "app/frmRaport.h"
 #include "app/frmSplash.h"
 #include "bank/frmKonta.h"
 #include "bank/frmMCS.h"
@@ -54,6 +58,7 @@
 #include "start/Przyklad.h"
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
+#include "store/KopiaPliku.h"
 #include "zus/frmKedu.h"
 #include "zus/frmListaDRA.h"
 #include "zus/frmUwagiKedu.h"
@@ -324,6 +329,24 @@ void zus(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.ekran(kolekcja, QStringLiteral("kolekcja"));
 }
 
+/// The file as a whole: archives, other databases, the structure.
+void bezpieczenstwo(const Zrzuty& zrzuty, Otoczenie& o, const QString& plik) {
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkdir(QStringLiteral("ARCH2001_07_31"));
+    KopiujOtwarta(o.sesja.cnPlace, folder.filePath(QStringLiteral("ARCH2001_07_31/Tornel.mdb")));
+    frmArchiwa archiwa(o.rozmowa, folder.path(), plik);
+    zrzuty.ekran(archiwa, QStringLiteral("archiwa"));
+    frmOstatnieBazy bazy({plik, QStringLiteral("/home/place/Filia.mdb")});
+    zrzuty.dialog(bazy, QStringLiteral("ostatnie-bazy"));
+    frmInform inform;
+    zrzuty.dialog(inform, QStringLiteral("aktualizator"));
+    frmRaport raport(
+        QStringLiteral("/home/place/Aktua.log"),
+        QStringLiteral("RAPORT Z AKTUALIZACJI BAZY DANYCH\n\nEXECUTE> ALTER TABLE US ADD NIP TEXT(13);\n"
+                       "\nKONIEC PLIKU"));
+    zrzuty.dialog(raport, QStringLiteral("raport"));
+}
+
 /// The handbook as F1 opens it over a screen.
 void pomoc(const Zrzuty& zrzuty, Pomoc& podrecznik, QWidget& okno) {
     podrecznik.pokazSpis(okno);
@@ -375,6 +398,7 @@ int main(int argc, char** argv) {
     umowy(zrzuty, o);
     nieobecnosci(zrzuty, o);
     wydruki(zrzuty, o);
+    bezpieczenstwo(zrzuty, o, plik);
     zus(zrzuty, o);
     pomoc(zrzuty, podrecznik, glowne);
     return 0;

@@ -101,7 +101,8 @@ QList<WierszCsv> CzytajCsv(const QByteArray& utf8) {
 }
 
 QString PoleCsv(const QString& tekst) {
-    static const QString wymagajace = QStringLiteral(";\"\n\r");
+    // A byte order mark in front of the first field would be taken for the file's own.
+    static const QString wymagajace = QStringLiteral(";\"\n\r\uFEFF");
     const auto wymaga = [](QChar znak) { return wymagajace.contains(znak); };
     if (std::none_of(tekst.begin(), tekst.end(), wymaga) &&
         (tekst.isEmpty() || (!tekst.front().isSpace() && !tekst.back().isSpace())))
