@@ -339,7 +339,7 @@ void bezpieczenstwo(const Zrzuty& zrzuty, Otoczenie& o, const QString& plik) {
     frmOstatnieBazy bazy({plik, QStringLiteral("/home/place/Filia.mdb")});
     zrzuty.dialog(bazy, QStringLiteral("ostatnie-bazy"));
     frmInform inform;
-    zrzuty.dialog(inform, QStringLiteral("aktualizator"));
+    zrzuty.dialog(inform, QStringLiteral("aktualizer"));
     frmRaport raport(
         QStringLiteral("/home/place/Aktua.log"),
         QStringLiteral("RAPORT Z AKTUALIZACJI BAZY DANYCH\n\nEXECUTE> ALTER TABLE US ADD NIP TEXT(13);\n"

@@ -9,7 +9,7 @@ namespace tornel::app {
 frmInform::frmInform(QWidget* rodzic)
     : QDialog(rodzic, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
     setObjectName(QStringLiteral("frmInform"));
-    setWindowTitle(QStringLiteral("Aktualizator"));
+    setWindowTitle(QStringLiteral("Aktualizer"));
     auto* labInform = new QLabel(QStringLiteral("Trwa aktualizowanie bazy danych. Proszę czekać."));
     labInform->setObjectName(QStringLiteral("labInform"));
     labInform->setAlignment(Qt::AlignCenter);

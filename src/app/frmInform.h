@@ -1,4 +1,4 @@
-// "Aktualizator": stands on the screen while the structure of the database is brought up to date.
+// "Aktualizer": stands on the screen while the structure of the database is brought up to date.
 #pragma once
 #include "common/Przestrzenie.h"
 #include <QDialog>

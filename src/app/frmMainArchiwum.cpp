@@ -49,14 +49,14 @@ void przywroc(frmMain& okno, const Otoczenie& o) {
     if (!archiwum) return;
     okno.zamknijBezPytania(
         [baza, plik = archiwum->plik, &rozmowa = o.rozmowa] {
-            const QString kopia = [&] {
+            {
                 const Klepsydra klepsydra;
-                return PrzywrocArchiwum(baza, plik, QDateTime::currentDateTime());
-            }();
+                PrzywrocArchiwum(baza, plik, QDateTime::currentDateTime());
+            }
             rozmowa.komunikat(
-                QStringLiteral("Archiwum zostało przywrócone. Poprzednia baza danych jest w pliku "
-                               "„%1”. Program uruchomi się teraz na przywróconej bazie.")
-                    .arg(kopia),
+                QStringLiteral(
+                    "Archiwum zostało przywrócone. Poprzednia baza danych jest odłożona obok, pod nazwą "
+                    "z dopiskiem „przed-przywroceniem”. Program uruchomi się teraz na przywróconej bazie."),
                 Styl::Informacja);
         },
         frmMain::Dalej::OdNowa);

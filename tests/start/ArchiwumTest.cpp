@@ -5,6 +5,7 @@
 #include "personnel/Pracownicy.h"
 #include "start/BazaIni.h"
 #include "store/Polaczenie.h"
+#include "store/Struktura.h"
 #include "wsparcie/BazaTestowa.h"
 #include "wsparcie/Proces.h"
 #include "wsparcie/Przestrzen.h"
@@ -167,6 +168,11 @@ TEST_F(ArchiwumTest, AMissingTableOrColumnIsNamedAtTheStart) {
     const QString start = powod([&] { otworz(); });
     EXPECT_TRUE(start.contains(u"HON: brak tabeli"_s) && start.contains(u"US: brak kolumn Nazwa"_s))
         << start.toStdString();
+    // What mends the tables at a start comes before they are looked at.
+    EXPECT_NO_THROW(Program(sciezka(), folder_.path(), rozmowa_, [](Polaczenie& baza) {
+        UtworzTabele(baza, schemat::HON, u"HON"_s);
+        baza.wykonaj("ALTER TABLE US ADD COLUMN Nazwa TEXT(20)");
+    }));
 }
 
 TEST_F(ArchiwumTest, ARestoredDatabaseIsTheArchiveAndTheOldOneStandsAside) {
