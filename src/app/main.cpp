@@ -11,9 +11,14 @@
 #include "start/Foldery.h"
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
+#include <algorithm>
+#include <cstdio>
+#include <QFile>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QScopeGuard>
 #include <QTranslator>
+#include <string_view>
 
 namespace tornel::app {
 namespace {
@@ -31,6 +36,14 @@ WierszPolecen czytajArgumenty(QStringList argumenty) {
     if (const auto i = argumenty.indexOf(QStringLiteral("--baza")); i >= 0) {
         wynik.baza = argumenty.value(i + 1);
         argumenty.remove(i, std::min<qsizetype>(2, argumenty.size() - i));
+    } else {
+        // The desktop opens a file by naming it; a path begins with a stroke as switches do.
+        const auto plik =
+            std::ranges::find_if(argumenty, [](const QString& a) { return QFileInfo(a).isFile(); });
+        if (plik != argumenty.end()) {
+            wynik.baza = *plik;
+            argumenty.erase(plik);
+        }
     }
     wynik.przelaczniki = CzytajPrzelaczniki(argumenty.join(QLatin1Char(' ')));
     return wynik;
@@ -83,6 +96,10 @@ Praca pracuj(Aplikacja& aplikacja, Rozmowa& rozmowa, Pomoc& pomoc, const WierszP
     Aplikacja::setOverrideCursor(Qt::WaitCursor);
     const QString folder = FolderDanych(Aplikacja::applicationDirPath());
     const QString baza = polecenie.baza.isEmpty() ? ZnajdzBaze(folder, rozmowa) : polecenie.baza;
+    // Whoever opens an installed program for the first time has no database, and no folder to look for one
+    // in.
+    if (folder != Aplikacja::applicationDirPath() && polecenie.baza.isEmpty() && !QFile::exists(baza))
+        UtworzBazeZSzablonu(baza, folder, rozmowa);
     const std::unique_ptr<Program> program = PStart(baza, folder, polecenie.przelaczniki, rozmowa);
     Aplikacja::restoreOverrideCursor();
     if (!program) return {{}, 1};
@@ -112,7 +129,14 @@ static int Uruchom(int argc, char** argv) {
     aplikacja.ustawNaprawe([&](const QString& komunikat) { rozmowa.komunikat(komunikat, Styl::Krytyczny); });
     Pomoc pomoc(PlikProgramu(Aplikacja::applicationDirPath(), QStringLiteral("Help.hlp")), rozmowa);
     for (;;) {
-        const Praca praca = pracuj(aplikacja, rozmowa, pomoc, polecenie);
+        Praca praca;
+        try {
+            praca = pracuj(aplikacja, rozmowa, pomoc, polecenie);
+        } catch (const Blad& blad) {
+            Aplikacja::restoreOverrideCursor();
+            rozmowa.komunikat(blad.komunikat(), Styl::Krytyczny);
+            return 1;
+        }
         for (const auto& czynnosc : praca.po.prace) {
             try {
                 czynnosc();
@@ -129,4 +153,17 @@ static int Uruchom(int argc, char** argv) {
 
 } // namespace tornel::app
 
-int main(int argc, char** argv) { return tornel::app::Uruchom(argc, argv); }
+int main(int argc, char** argv) {
+    // Answered without a screen.
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument(argv[i]);
+        if (argument == "--version") return std::puts("tornel " TORNEL_WERSJA) < 0;
+        if (argument == "--help")
+            return std::puts("Użycie: tornel [--baza PLIK | PLIK] [/AKTUA]\n\n"
+                             "  --baza PLIK  baza danych; bez niej Baza.ini i Tornel.mdb obok programu, a "
+                             "zainstalowanego\n               w folderze danych użytkownika\n"
+                             "  /AKTUA       aktualizuje strukturę bazy z plików Tabele.rec i Pola.rec\n"
+                             "  --version    wersja programu") < 0;
+    }
+    return tornel::app::Uruchom(argc, argv);
+}

@@ -10,6 +10,7 @@
 #include "store/OpisStruktury.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaZgoda.h"
+#include "zus/OdczytKedu.h"
 #include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
@@ -191,6 +192,29 @@ TEST_F(CzytnikiTest, Rec) {
                  EXPECT_EQ(TabeleZPliku(TabeleDoPliku(struktura)).size(), struktura.tabele.size());
                  EXPECT_EQ(PolaZPliku(PolaDoPliku(struktura)).size(), struktura.pola.size());
              }});
+}
+
+TEST_F(CzytnikiTest, Collection) {
+    sprawdz(
+        {"collection",
+         {"<KEDU>\r\n<ZUSZBA.DP>\r\n<ZUSZBA>\r\n<DOZCBA>\r\n        \r\n      "
+          "\r\n</DOZCBA>\r\n<IORB>\r\n1\r\n"
+          "10990001-445566-27006-01            \r\n</IORB>\r\n<OPL1>\r\n10042001\r\n</OPL1>\r\n</ZUSZBA>\r\n"
+          "</ZUSZBA.DP>\r\n</KEDU>\r\n",
+          "<KEDU>\n<ZUSZUA>\n<TYUB>\n011000\n0101200131122001\n</TYUB>\n<DOWP>\n001001\n01012001\nX\n "
+          "\nX\nX\n"
+          "</DOWP>\n</ZUSZUA>\n</KEDU>\n"},
+         "<>/ZUSRCADPLX01 \r\n\xB9",
+         [](const QByteArray& tresc) {
+             const OdczytKedu kolekcja(tresc);
+             for (const DokumentOdczytany& d : kolekcja.dokumenty()) {
+                 (void)kolekcja.osoba(d);
+                 for (const BlokOdczytany& b : d.bloki) {
+                     EXPECT_LE(b.poczatek, b.koniec);
+                     for (const PoleOdczytane& p : kolekcja.pola(b)) EXPECT_LE(p.wartosc.size(), 400);
+                 }
+             }
+         }});
 }
 
 } // namespace
