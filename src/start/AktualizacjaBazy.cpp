@@ -76,8 +76,8 @@ private:
             if (!QFileInfo(sciezka(nazwa)).isFile())
                 throw KoniecAktualizacji{QStringLiteral("Brak pliku ") + nazwa +
                                          QStringLiteral(" ze strukturą bazy danych!") + kNieMozna};
-        const StrukturaBazy wynik{czytajPlik<TabelaStruktury>(kTabeleRec, TabeleZPliku),
-                                  czytajPlik<PoleStruktury>(kPolaRec, PolaZPliku)};
+        StrukturaBazy wynik{czytajPlik<TabelaStruktury>(kTabeleRec, TabeleZPliku),
+                            czytajPlik<PoleStruktury>(kPolaRec, PolaZPliku)};
         for (const auto& [nazwa, pusty] :
              {std::pair(kTabeleRec, wynik.tabele.isEmpty()), std::pair(kPolaRec, wynik.pola.isEmpty())})
             if (pusty) throw KoniecAktualizacji{QStringLiteral("Brak danych w pliku ") + nazwa + kNieMozna};

@@ -9,7 +9,7 @@ namespace tornel::start {
 namespace {
 
 constexpr qsizetype kNajwiecejDawnych = 9;
-constexpr qint64 kNajwiekszyPlik = 64 * 1024;
+constexpr qint64 kNajwiekszyPlik = 64LL * 1024;
 
 QString plikIni(const QString& folder) { return QDir(folder).filePath(QStringLiteral("Baza.ini")); }
 

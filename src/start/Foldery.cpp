@@ -30,9 +30,9 @@ QString FolderDanych(const QString& folderProgramu) {
 }
 
 QString PlikProgramu(const QString& folderProgramu, const QString& nazwa) {
-    const QString obok = QDir(folderProgramu).filePath(nazwa);
+    QString obok = QDir(folderProgramu).filePath(nazwa);
     if (QFileInfo::exists(obok)) return obok;
-    const QString zInstalacji = folderInstalacji(folderProgramu).filePath(nazwa);
+    QString zInstalacji = folderInstalacji(folderProgramu).filePath(nazwa);
     return QFileInfo::exists(zInstalacji) ? zInstalacji : obok;
 }
 

@@ -237,7 +237,7 @@ QString OdczytKedu::osoba(const DokumentOdczytany& dokument) const {
     const DokumentKedu* znany = znajdzDokument(dokument.kod);
     if (!znany || (znany->petla != Petla::Pracownik && znany->petla != Petla::Rodzina)) return {};
     for (const BlokOdczytany& blok : dokument.bloki)
-        if (const QString kto = osoba(blok); !kto.isEmpty()) return kto;
+        if (QString kto = osoba(blok); !kto.isEmpty()) return kto;
     return {};
 }
 

@@ -71,7 +71,7 @@ QString KeduData(QDate data) {
 }
 
 QString KeduOkres(QDate od, QDate dokad) {
-    if (!od.isValid() || !dokad.isValid()) return QString(2 * kSzerDaty, kOdstep);
+    if (!od.isValid() || !dokad.isValid()) return QString(qsizetype{2} * kSzerDaty, kOdstep);
     return KeduData(od) + KeduData(dokad);
 }
 

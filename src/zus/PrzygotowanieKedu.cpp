@@ -6,7 +6,7 @@
 namespace tornel::zus {
 
 std::optional<QString> PrzygotowanieKedu::wybierzPlik() {
-    const auto plik = p_.plik(o_.stale.PathKDU);
+    auto plik = p_.plik(o_.stale.PathKDU);
     if (!plik || plik->isEmpty()) return std::nullopt;
     if (QFileInfo::exists(*plik) && !o_.rozmowa.pytanie(kPytanieOPlik.toString())) return std::nullopt;
     return plik;
