@@ -60,7 +60,7 @@ MenuListy::MenuListy(WidokListy& lista) : QMenu(&lista) {
         polecenie->setShortcut(klawisze);
         polecenie->setEnabled(saWiersze);
     };
-    dodaj(QStringLiteral("Kopiuj"), QKeySequence::Copy, [&lista] { lista.kopiuj(); });
+    dodaj(QStringLiteral("Kopiuj wiersze"), QKeySequence::Copy, [&lista] { lista.kopiuj(); });
     if (lista.selectionMode() != QAbstractItemView::SingleSelection)
         dodaj(QStringLiteral("Zaznacz wszystko"), QKeySequence::SelectAll, [&lista] { lista.selectAll(); });
     dodaj(QStringLiteral("Zapisz listę jako CSV..."), {}, [&lista] { zapiszCsv(lista); });

@@ -273,9 +273,9 @@ TEST(MenuListyOknaTest, MaPoleceniaPrzyciskowSwojegoOkna) {
     MenuListy menu(*okno.lista);
     QStringList napisy;
     for (const QAction* a : menu.actions()) napisy.append(a->isSeparator() ? u"-"_s : a->text());
-    EXPECT_EQ(napisy,
-              (QStringList{u"&Usuń"_s, u"&Nowy"_s, u"&Drukuj"_s, u"-"_s, u"Kopiuj"_s, u"Zaznacz wszystko"_s,
-                           u"Zapisz listę jako CSV..."_s, u"Drukuj listę..."_s, u"Kolumny"_s}));
+    EXPECT_EQ(napisy, (QStringList{u"&Usuń"_s, u"&Nowy"_s, u"&Drukuj"_s, u"-"_s, u"Kopiuj wiersze"_s,
+                                   u"Zaznacz wszystko"_s, u"Zapisz listę jako CSV..."_s, u"Drukuj listę..."_s,
+                                   u"Kolumny"_s}));
     pozycja(menu, u"&Nowy"_s)->trigger();
     EXPECT_EQ(nacisniec, 0) << "as able as its button";
     pozycja(menu, u"&Usuń"_s)->trigger();
