@@ -11,8 +11,10 @@
 #include "start/Foldery.h"
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
+#include "store/ZapisDziennika.h"
 #include <algorithm>
 #include <cstdio>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QLibraryInfo>
@@ -103,6 +105,7 @@ Praca pracuj(Aplikacja& aplikacja, Rozmowa& rozmowa, Pomoc& pomoc, const WierszP
     const std::unique_ptr<Program> program = PStart(baza, folder, polecenie.przelaczniki, rozmowa);
     Aplikacja::restoreOverrideCursor();
     if (!program) return {{}, 1};
+    program->sesja().cnPlace.dziennik()->UstawZegar([] { return QDateTime::currentDateTime(); });
     aplikacja.ustawOdczyt([&] { program->sesja().OdswiezUchwyty(); });
     const auto koniec = qScopeGuard([&] { aplikacja.ustawOdczyt({}); });
     if (!zaloguj(program->sesja(), rozmowa)) return {};

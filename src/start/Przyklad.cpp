@@ -165,6 +165,7 @@ void utworzFirme(const QString& sciezka, int pracownikow, int miesiecy, const QS
     UtworzBazeZSzablonu(sciezka, folderProgramu, rozmowa);
     Program program(sciezka, folderProgramu, rozmowa);
     Otoczenie& o = program.otoczenie();
+    o.sesja.cnPlace.WylaczDziennik(); // the journal is the clerk's
     {
         Transakcja transakcja(o.sesja.cnPlace, u"Firma przykładowa");
         ustawFirme(o);

@@ -7,6 +7,7 @@
 #include "start/Uzytkownicy.h"
 #include "store/StanPliku.h"
 #include "store/Struktura.h"
+#include "store/ZapisDziennika.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -132,6 +133,9 @@ Program::Program(const QString& sciezka, const QString& folderProgramu, Rozmowa&
         WczytajKonfiguracje(*sesja_, stale_, folderProgramu);
         ++krok;
         InitUzytkownicy(*sesja_);
+        // What the start itself fills in is nobody's action.
+        sesja_->cnPlace.WlaczDziennik();
+        sesja_->cnPlace.dziennik()->UstawUzytkownika([s = sesja_.get()] { return s->uzytkownik.nazwa; });
     } catch (const Blad& blad) {
         const bool otwarta = sesja_ != nullptr;
         sesja_.reset();

@@ -1,5 +1,6 @@
 #include "store/Polaczenie.h"
 #include "common/Blad.h"
+#include "store/ZapisDziennika.h"
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
@@ -55,6 +56,11 @@ Instrukcja& Instrukcja::wiaz(int nr, std::string_view utf8) {
 Instrukcja& Instrukcja::wiaz(int nr, const QString& tekst) {
     const QByteArray utf8 = tekst.toUtf8();
     return wiaz(nr, std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+}
+
+Instrukcja& Instrukcja::wiazBajty(int nr, const QByteArray& bajty) {
+    return zwiazana(sqlite3_bind_blob64(stmt_, nr + 1, bajty.constData(),
+                                        static_cast<sqlite3_uint64>(bajty.size()), SQLITE_TRANSIENT));
 }
 
 Instrukcja& Instrukcja::wiazNull(int nr) { return zwiazana(sqlite3_bind_null(stmt_, nr + 1)); }
@@ -169,7 +175,14 @@ Polaczenie::Polaczenie(const QString& sciezka, Sposob sposob) : sciezka_(sciezka
     }
 }
 
-Polaczenie::~Polaczenie() { sqlite3_close_v2(baza_); }
+Polaczenie::~Polaczenie() {
+    dziennik_.reset(); // its statements go before the file
+    sqlite3_close_v2(baza_);
+}
+
+void Polaczenie::WlaczDziennik() {
+    if (!dziennik_) dziennik_ = std::make_unique<ZapisDziennika>(*this);
+}
 
 void Polaczenie::wykonaj(std::string_view sql) {
     if (sqlite3_exec(baza_, std::string(sql).c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
@@ -190,6 +203,8 @@ void Polaczenie::zglosBlad(const QString& krok) const {
     throw BladBazy(QStringLiteral("%1 (plik „%2”): %3.").arg(co, sciezka_, przyczyna(baza_)));
 }
 
+void Polaczenie::WylaczDziennik() { dziennik_.reset(); }
+
 Transakcja::Transakcja(Polaczenie& polaczenie, QStringView czynnosc)
     : polaczenie_(polaczenie), zewnetrzna_(!polaczenie.wTransakcji()) {
     if (!zewnetrzna_) return;
@@ -203,11 +218,17 @@ Transakcja::~Transakcja() {
     // An engine failure such as a full disk may have rolled back already.
     if (zewnetrzna_ && !zatwierdzona_ && polaczenie_.wTransakcji())
         sqlite3_exec(polaczenie_.uchwyt(), "ROLLBACK", nullptr, nullptr, nullptr);
-    if (zewnetrzna_) polaczenie_.czynnosc_.clear();
+    if (!zewnetrzna_) return;
+    polaczenie_.czynnosc_.clear();
+    if (polaczenie_.dziennik_ && !zatwierdzona_) polaczenie_.dziennik_->porzuc();
 }
 
 void Transakcja::zatwierdz() {
-    if (zewnetrzna_) polaczenie_.wykonaj("COMMIT");
+    if (zewnetrzna_) {
+        if (polaczenie_.dziennik_) polaczenie_.dziennik_->dopiszCzynnosc(polaczenie_.czynnosc_);
+        polaczenie_.wykonaj("COMMIT");
+        if (polaczenie_.dziennik_) polaczenie_.dziennik_->zatwierdzono();
+    }
     zatwierdzona_ = true;
 }
 

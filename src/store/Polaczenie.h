@@ -12,6 +12,7 @@ struct sqlite3_stmt;
 namespace tornel::store {
 
 class Polaczenie;
+class ZapisDziennika;
 
 /// A prepared statement. Positions of parameters and columns count from 0. Every failure throws `BladBazy`.
 class Instrukcja {
@@ -27,6 +28,7 @@ public:
     Instrukcja& wiaz(int nr, double liczba);
     Instrukcja& wiaz(int nr, std::string_view utf8); ///< copied
     Instrukcja& wiaz(int nr, const QString& tekst);
+    Instrukcja& wiazBajty(int nr, const QByteArray& bajty); ///< copied
     Instrukcja& wiazNull(int nr);
 
     /// Steps to the next row; false past the last one.
@@ -67,6 +69,12 @@ public:
     [[nodiscard]] const QString& sciezka() const { return sciezka_; }
     [[nodiscard]] qint64 ostatniWiersz() const; ///< rowid of the last insert
     [[nodiscard]] bool wTransakcji() const;
+    /// Keeps a journal from now on: every action writes what it changed as a part of itself.
+    void WlaczDziennik();
+    /// None is kept any more: what follows is no clerk's work.
+    void WylaczDziennik();
+    /// Null while none is kept.
+    [[nodiscard]] ZapisDziennika* dziennik() const { return dziennik_.get(); }
     /// The name of the action that is open, empty outside one.
     [[nodiscard]] const QString& czynnosc() const { return czynnosc_; }
     [[nodiscard]] sqlite3* uchwyt() const { return baza_; }
@@ -79,6 +87,7 @@ private:
     QString sciezka_;
     QString czynnosc_;
     sqlite3* baza_ = nullptr;
+    std::unique_ptr<ZapisDziennika> dziennik_;
 };
 
 /// One clerk's action. Rolls back unless `zatwierdz` ran. Inside an open transaction it joins that one: then

@@ -21,6 +21,7 @@ using Zakladka = int;
 /// From where `Find` searches.
 enum class Skad { Poczatek, Biezacy };
 
+class PisarzPakietu;
 class Recordset;
 
 /// A row of a handle, read without moving the handle. Valid until the handle is changed, opened or read
@@ -257,6 +258,8 @@ private:
     void wiazWiersz(Instrukcja& instrukcja, int wiersz) const;
     void sprawdzKonflikt(int wiersz);
     void zapiszWiersz(int wiersz);
+    void pakujKomorke(PisarzPakietu& pakiet, int kolumna, Komorka wartosc) const;
+    void zapiszWDzienniku(int wiersz) const;
     void zapiszOczekujace(const Transakcja& akcja);
     void uznajZapisane();
     int nowyWiersz();

@@ -1,6 +1,7 @@
 #include "common/Blad.h"
 #include "store/Komorki.h"
 #include "store/Recordset.h"
+#include "store/ZapisDziennika.h"
 #include <algorithm>
 #include <bit>
 #include <QScopeGuard>
@@ -94,11 +95,73 @@ void Recordset::zapiszWiersz(int wiersz) {
     zmien_->wiaz(szerokosc(), rowid_[w]).wykonaj();
 }
 
+void Recordset::pakujKomorke(PisarzPakietu& pakiet, int kolumna, Komorka wartosc) const {
+    const KolumnaDef& k = tabela_->kolumny[static_cast<std::size_t>(kolumna)];
+    if (k.tajna) {
+        pakiet.tajna();
+    } else if (wartosc == kNull) {
+        pakiet.null();
+    } else if (jestTekstem(k.typ)) {
+        const QByteArray utf8 = puli(wartosc).toUtf8();
+        pakiet.tekst({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+    } else if (k.typ == Typ::Date) {
+        pakiet.dzien(wartosc);
+    } else if (jestRzeczywista(k.typ)) {
+        pakiet.rzeczywista(std::bit_cast<double>(wartosc));
+    } else {
+        pakiet.liczba(wartosc);
+    }
+}
+
+void Recordset::zapiszWDzienniku(int wiersz) const {
+    ZapisDziennika* dziennik = polaczenie_->dziennik();
+    if (!dziennik || tabela_->slad == Slad::Zaden) return;
+    const auto w = static_cast<std::size_t>(wiersz);
+    const Stan stan = stany_[w];
+    const std::vector<Komorka>* przedtem = stan == Stan::Nowy ? nullptr : &oryginaly_.at(wiersz);
+    const auto stara = [&](int i) { return (*przedtem)[static_cast<std::size_t>(i)]; };
+    std::vector<int> zmienione;
+    if (stan == Stan::Zmieniony) {
+        for (int i = 0; i < szerokosc(); ++i)
+            if (stara(i) != komorka(wiersz, i)) zmienione.push_back(i);
+        if (zmienione.empty()) return;
+    }
+    PisarzPakietu& p = dziennik->pakiet(nazwa_, *tabela_);
+    const auto pakuj = [&](int i, Komorka c) { pakujKomorke(p, i, c); };
+    if (stan == Stan::Nowy) {
+        p.zmiana(RodzajZmiany::Nowy, rowid_[w]);
+        for (int i = 0; i < szerokosc(); ++i) pakuj(i, komorka(wiersz, i));
+    } else if (stan == Stan::Usuniety) {
+        p.zmiana(RodzajZmiany::Usuniety, rowid_[w]);
+        for (int i = 0; i < szerokosc(); ++i) pakuj(i, stara(i));
+    } else {
+        p.zmiana(RodzajZmiany::Zmieniony, rowid_[w]);
+        p.ile(zmienione.size());
+        for (const int i : zmienione) {
+            p.ile(static_cast<std::uint64_t>(i));
+            pakuj(i, stara(i));
+            pakuj(i, komorka(wiersz, i));
+        }
+        p.ile(p.kolumnyKlucza().size());
+        for (const int i : p.kolumnyKlucza()) {
+            p.ile(static_cast<std::uint64_t>(i));
+            pakuj(i, komorka(wiersz, i));
+        }
+    }
+    const Komorka osoba = p.kolumnaOsoby() < 0     ? kNull
+                          : stan == Stan::Usuniety ? stara(p.kolumnaOsoby())
+                                                   : komorka(wiersz, p.kolumnaOsoby());
+    dziennik->policz(p, osoba == kNull ? 0 : osoba);
+}
+
 void Recordset::zapiszOczekujace(const Transakcja& akcja) {
     if (!akcja.dotyczy(*polaczenie_))
         throw Blad(QStringLiteral("Tabela %1 należy do innego połączenia niż czynność „%2”.")
                        .arg(nazwa_, polaczenie_->czynnosc()));
-    for (const int wiersz : oczekujace_) zapiszWiersz(wiersz);
+    for (const int wiersz : oczekujace_) {
+        zapiszWiersz(wiersz);
+        zapiszWDzienniku(wiersz);
+    }
 }
 
 void Recordset::uznajZapisane() {

@@ -373,7 +373,8 @@ inline constexpr TabelaDef ZUS{"ZUS", kolumny::ZUS, klucze::DeklaracjaZUS};
 inline constexpr TabelaDef US{"US", kolumny::US, klucze::UrzadSkarbowy};
 inline constexpr TabelaDef M_PRACY{"M_PRACY", kolumny::M_PRACY, klucze::MiejscePracy};
 inline constexpr TabelaDef KONTA{"KONTA", kolumny::KONTA, klucze::KontoBankowe};
-inline constexpr TabelaDef PRZELEW{"PRZELEW", kolumny::PRZELEW, {}};
+// One transfer order after the other on its way to paper.
+inline constexpr TabelaDef PRZELEW{"PRZELEW", kolumny::PRZELEW, {}, Klucz::Jednoznaczny, {}, Slad::Zaden};
 
 } // namespace schemat
 

@@ -20,7 +20,7 @@ inline constexpr KolumnaDef KON[] = {
 /// Users of the program. The password is clear text: deliberate.
 inline constexpr KolumnaDef UZYTKOWNICY[] = {
     {"Nazwa", Text, 30, true},
-    {"haslo", Text, 30},
+    {"haslo", Text, 30, false, true},
     {"Typ", Short}, // 0 administrator, otherwise bits: 1 "Kadry", 2 "Płace"
 };
 
@@ -41,17 +41,43 @@ inline constexpr KolumnaDef WYKONANE[] = {
     {"OPIS", Memo},
 };
 
+/// The journal: one row for each action and event.
+inline constexpr KolumnaDef DZIENNIK[] = {
+    {"STAN", Byte, 0, true}, // whether it can be undone, or made again
+    {"ID", Integer, 0, true}, {"DZIEN", Date},    {"CZAS", Text, 8},
+    {"KTO", Text, 30},        {"CZYNNOSC", Memo}, // in words
+    {"TABELE", Memo},                             // names, a comma and a blank between them
+    {"WIERSZY", Integer},                         // written
+    {"OSOBY", Memo},                              // ",7,12,"; "*" for many
+    {"DOTYCZY", Integer},                         // of an undoing and a redoing, the action's ID
+};
+
+/// What the actions changed, packed: bytes, not text.
+inline constexpr KolumnaDef DZIENNIK_ZMIANY[] = {
+    {"WPIS", Integer, 0, true},
+    {"NR", Integer, 0, true},
+    {"DANE", Memo},
+};
+
 } // namespace kolumny
 
 namespace klucze {
 inline constexpr std::string_view Num[] = {"Num"};
 inline constexpr std::string_view Uzytkownik[] = {"Nazwa"};
 inline constexpr std::string_view Wykonanie[] = {"ROKMIES", "NR"};
+inline constexpr std::string_view Wpis[] = {"STAN", "ID"};
+inline constexpr std::string_view ZmianyWpisu[] = {"WPIS", "NR"};
 } // namespace klucze
 
 inline constexpr TabelaDef KON{"KON", kolumny::KON, klucze::Num};
-inline constexpr TabelaDef UZYTKOWNICY{"UZYTKOWNICY", kolumny::UZYTKOWNICY, klucze::Uzytkownik};
-inline constexpr TabelaDef WYKONANE{"WYKONANE", kolumny::WYKONANE, klucze::Wykonanie};
+inline constexpr TabelaDef UZYTKOWNICY{
+    "UZYTKOWNICY", kolumny::UZYTKOWNICY, klucze::Uzytkownik, Klucz::Jednoznaczny, {}, Slad::Pokazywany};
+inline constexpr TabelaDef WYKONANE{"WYKONANE", kolumny::WYKONANE, klucze::Wykonanie, Klucz::Jednoznaczny,
+                                    {},         Slad::Pokazywany};
+inline constexpr TabelaDef DZIENNIK{"DZIENNIK", kolumny::DZIENNIK, klucze::Wpis, Klucz::Jednoznaczny,
+                                    {},         Slad::Zaden};
+inline constexpr TabelaDef DZIENNIK_ZMIANY{
+    "DZIENNIK_ZMIANY", kolumny::DZIENNIK_ZMIANY, klucze::ZmianyWpisu, Klucz::Jednoznaczny, {}, Slad::Zaden};
 
 } // namespace schemat
 

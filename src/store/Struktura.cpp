@@ -2,6 +2,7 @@
 #include "store/Komorki.h"
 #include "store/Schemat.h"
 #include "store/WersjaPliku.h"
+#include "store/ZapisDziennika.h"
 
 namespace tornel::store {
 
@@ -37,32 +38,43 @@ QByteArray typSql(const KolumnaDef& k) {
 
 } // namespace
 
-void UtworzTabele(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa) {
+std::string PolecenieTabeli(const TabelaDef& tabela, const QString& nazwa) {
     QByteArray kolumny;
     for (const KolumnaDef& k : tabela.kolumny)
         kolumny += (kolumny.isEmpty() ? "" : ", ") + nazwaSql(k.nazwa) + " " + typSql(k) +
                    (k.wymagana ? " NOT NULL" : "");
-    polaczenie.wykonaj("CREATE TABLE " + nazwaSql(nazwa.toStdString()).toStdString() + " (" +
-                       kolumny.toStdString() + ")");
-    UtworzIndeksy(polaczenie, tabela, nazwa);
+    return "CREATE TABLE " + nazwaSql(nazwa.toStdString()).toStdString() + " (" + kolumny.toStdString() + ")";
 }
 
-void UtworzIndeksy(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa) {
-    if (tabela.klucz.empty()) return;
+std::vector<std::string> PoleceniaIndeksow(const TabelaDef& tabela, const QString& nazwa) {
+    std::vector<std::string> wynik;
+    if (tabela.klucz.empty()) return wynik;
     const std::string cudzyslow = nazwaSql(nazwa.toStdString()).toStdString();
     // Contracts and declarations have keys of their own and are searched by employee as well.
     if (tabela.numer("PRC_ID") >= 0 && !teSameNazwy(tabela.klucz[0], "PRC_ID"))
-        polaczenie.wykonaj("CREATE INDEX " + nazwaSql("P_" + nazwa.toStdString()).toStdString() + " ON " +
-                           cudzyslow + " (\"PRC_ID\")");
+        wynik.push_back("CREATE INDEX " + nazwaSql("P_" + nazwa.toStdString()).toStdString() + " ON " +
+                        cudzyslow + " (\"PRC_ID\")");
     QByteArray klucz;
     for (const std::string_view k : tabela.kluczPliku()) klucz += (klucz.isEmpty() ? "" : ", ") + nazwaSql(k);
     const char* unikalny = tabela.rodzajKlucza == Klucz::Jednoznaczny ? "UNIQUE " : "";
-    polaczenie.wykonaj(std::string("CREATE ") + unikalny + "INDEX " +
-                       nazwaSql("I_" + nazwa.toStdString()).toStdString() + " ON " + cudzyslow + " (" +
-                       klucz.toStdString() + ")");
+    wynik.push_back(std::string("CREATE ") + unikalny + "INDEX " +
+                    nazwaSql("I_" + nazwa.toStdString()).toStdString() + " ON " + cudzyslow + " (" +
+                    klucz.toStdString() + ")");
+    return wynik;
+}
+
+void UtworzTabele(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa) {
+    polaczenie.wykonaj(PolecenieTabeli(tabela, nazwa));
+    UtworzIndeksy(polaczenie, tabela, nazwa);
+    if (ZapisDziennika* dziennik = polaczenie.dziennik()) dziennik->utworzonaTabela(nazwa, tabela);
+}
+
+void UtworzIndeksy(Polaczenie& polaczenie, const TabelaDef& tabela, const QString& nazwa) {
+    for (const std::string& polecenie : PoleceniaIndeksow(tabela, nazwa)) polaczenie.wykonaj(polecenie);
 }
 
 void UsunTabele(Polaczenie& polaczenie, const QString& nazwa) {
+    if (ZapisDziennika* dziennik = polaczenie.dziennik()) dziennik->usuwanaTabela(nazwa);
     polaczenie.wykonaj("DROP TABLE " + nazwaSql(nazwa.toStdString()).toStdString());
 }
 

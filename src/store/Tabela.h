@@ -56,6 +56,7 @@ struct KolumnaDef {
     Typ typ = Typ::Short;
     int rozmiar = 0;       ///< characters of `Text` and `Char`, otherwise 0
     bool wymagana = false; ///< NOT NULL
+    bool tajna = false;    ///< its values never enter the journal
 };
 
 /// ASCII names are compared without regard to case, as the program has always written them both ways.
@@ -79,6 +80,10 @@ struct Kolumna {
 /// Whether the key names one row each or is only searched by.
 enum class Klucz { Jednoznaczny, Wieloznaczny };
 
+/// What the journal does with changes of a table: keeps them so that they can be undone; shows them only,
+/// since what happened stays so (a printed paper, a password); or knows nothing of them.
+enum class Slad { Cofany, Pokazywany, Zaden };
+
 /// One table. Month tables are templates: their name is a prefix before yyyymm.
 struct TabelaDef {
     std::string_view nazwa;
@@ -88,6 +93,7 @@ struct TabelaDef {
     /// The index in the file where it has more columns than `klucz`, which then finds a row among those that
     /// were opened together.
     std::span<const std::string_view> pelnyKlucz = {};
+    Slad slad = Slad::Cofany;
 
     [[nodiscard]] constexpr std::span<const std::string_view> kluczPliku() const {
         return pelnyKlucz.empty() ? klucz : pelnyKlucz;

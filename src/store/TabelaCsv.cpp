@@ -233,7 +233,9 @@ void dodajPartnerow(Polaczenie& polaczenie, const TabelaPliku& tabela, const Pli
 TabelaPliku ZnajdzTabele(Polaczenie& polaczenie, const QString& nazwa) {
     const std::string szukana = nazwa.toStdString();
     for (const TabelaDef* def : schemat::Tabele)
-        if (teSameNazwy(def->nazwa, szukana)) return {def, napis(def->nazwa), 0, 0};
+        // The journal is read through its own screen and command, and nobody writes it by hand.
+        if (def != &schemat::DZIENNIK && def != &schemat::DZIENNIK_ZMIANY && teSameNazwy(def->nazwa, szukana))
+            return {def, napis(def->nazwa), 0, 0};
 
     static const QRegularExpression miesieczna(QStringLiteral("^([A-Z]+)([0-9]{4})(0[1-9]|1[0-2])$"));
     const QRegularExpressionMatch czesci = miesieczna.match(nazwa.toUpper());

@@ -1,5 +1,6 @@
 #include "store/WersjaPliku.h"
 #include "common/Blad.h"
+#include "store/Dziennik.h"
 #include "store/KopiaPliku.h"
 #include <QDateTime>
 #include <QFileInfo>
@@ -28,6 +29,16 @@ constexpr KrokWersji kKroki[] = {
                    "\"DOKUMENT\" INTEGER, \"KWOTA\" CURRENCY, \"DZIEN\" DATE, \"CZAS\" TEXT(8), "
                    "\"KTO\" TEXT(30), \"PLIK\" MEMO TEXT, \"OPIS\" MEMO TEXT)");
          p.wykonaj("CREATE UNIQUE INDEX \"I_WYKONANE\" ON \"WYKONANE\" (\"ROKMIES\", \"NR\")");
+     }},
+    {u"dziennik zmian",
+     [](Polaczenie& p) {
+         p.wykonaj("CREATE TABLE \"DZIENNIK\" (\"STAN\" BYTE NOT NULL, \"ID\" INTEGER NOT NULL, "
+                   "\"DZIEN\" DATE, \"CZAS\" TEXT(8), \"KTO\" TEXT(30), \"CZYNNOSC\" MEMO TEXT, "
+                   "\"TABELE\" MEMO TEXT, \"WIERSZY\" INTEGER, \"OSOBY\" MEMO TEXT, \"DOTYCZY\" INTEGER)");
+         p.wykonaj("CREATE UNIQUE INDEX \"I_DZIENNIK\" ON \"DZIENNIK\" (\"STAN\", \"ID\")");
+         p.wykonaj("CREATE TABLE \"DZIENNIK_ZMIANY\" (\"WPIS\" INTEGER NOT NULL, \"NR\" INTEGER NOT NULL, "
+                   "\"DANE\" MEMO TEXT)");
+         p.wykonaj("CREATE UNIQUE INDEX \"I_DZIENNIK_ZMIANY\" ON \"DZIENNIK_ZMIANY\" (\"WPIS\", \"NR\")");
      }},
 };
 
@@ -74,6 +85,8 @@ std::optional<ZmianaWersji> DoprowadzDoWersji(Polaczenie& polaczenie, std::span<
         }
     }
     UstawWersje(polaczenie, docelowa);
+    // Rows are no longer where the entries of the older file say.
+    ZakonczLancuch(polaczenie, polaczenie.czynnosc());
     transakcja.zatwierdz();
     return ZmianaWersji{wersja, docelowa, kopia};
 }
