@@ -25,7 +25,7 @@ const QList<Polecenie>& polecenia() {
         poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
         poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaUmow() +
         poleceniaZus() + poleceniaPodatkow() + poleceniaZestawien() + poleceniaWydrukow() +
-        poleceniaArchiwum() + poleceniaStruktury();
+        poleceniaArchiwum() + poleceniaStruktury() + poleceniaDziennika();
     return wszystkie;
 }
 

@@ -42,5 +42,6 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaZus();
 [[nodiscard]] QList<Polecenie> poleceniaArchiwum();
 [[nodiscard]] QList<Polecenie> poleceniaStruktury();
+[[nodiscard]] QList<Polecenie> poleceniaDziennika();
 
 } // namespace tornel::cli

@@ -2,6 +2,7 @@
 #include "common/Daty.h"
 #include "common/Liczby.h"
 #include "personnel/Pracownicy.h"
+#include "store/ZapisDziennika.h"
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -17,7 +18,12 @@ Wywolanie::Wywolanie(Argumenty podane, QString folder, Rozmowa& strona)
     : argumenty(std::move(podane)), folderProgramu(std::move(folder)), rozmowa(strona) {}
 
 Otoczenie& Wywolanie::otoczenie() {
-    if (!program_) program_ = std::make_unique<Program>(sciezkaBazy(), folderProgramu, rozmowa);
+    if (!program_) {
+        program_ = std::make_unique<Program>(sciezkaBazy(), folderProgramu, rozmowa);
+        ZapisDziennika* dziennik = program_->sesja().cnPlace.dziennik();
+        dziennik->UstawZegar([] { return QDateTime::currentDateTime(); });
+        dziennik->UstawUzytkownika([] { return QStringLiteral("konsola"); });
+    }
     return program_->otoczenie();
 }
 
