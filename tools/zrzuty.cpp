@@ -1,7 +1,11 @@
 // Renders every screen on the example firm into PNG files of a folder: in its own size, and the large ones at
 // 1280x800 into a folder of that name below it.
 #include "app/frmAbout.h"
+<<<<<<< HEAD
 #include "app/frmArchiwa.h"
+=======
+#include "app/frmDziennik.h"
+>>>>>>> a6e0f6a (app, okna: undo by key and menu, and the screen of the journal)
 #include "app/frmHaslo.h"
 #include "app/frmInform.h"
 #include "app/frmLogLista.h"
@@ -27,6 +31,7 @@
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/UwagaPola.h"
+#include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
 #include "payroll/lista/frmPlaceLista.h"
 #include "payroll/miesiace/frmPlace.h"
@@ -53,6 +58,7 @@
 #include "personnel/Urlopy.h"
 #include "reports/place/WydrukiListyPlac.h"
 #include "reports/przelewy/WydrukPrzelewow.h"
+#include "rules/CofanieCzynnosci.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
 #include "start/Przyklad.h"
@@ -329,6 +335,7 @@ void zus(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.ekran(kolekcja, QStringLiteral("kolekcja"));
 }
 
+<<<<<<< HEAD
 /// The file as a whole: archives, other databases, the structure.
 void bezpieczenstwo(const Zrzuty& zrzuty, Otoczenie& o, const QString& plik) {
     const QTemporaryDir folder;
@@ -345,6 +352,26 @@ void bezpieczenstwo(const Zrzuty& zrzuty, Otoczenie& o, const QString& plik) {
         QStringLiteral("RAPORT Z AKTUALIZACJI BAZY DANYCH\n\nEXECUTE> ALTER TABLE US ADD NIP TEXT(13);\n"
                        "\nKONIEC PLIKU"));
     zrzuty.dialog(raport, QStringLiteral("raport"));
+=======
+/// A short morning's work as the journal shows it.
+void dziennik(const Zrzuty& zrzuty, Otoczenie& o) {
+    QDateTime teraz({2001, 4, 2}, {8, 12, 40});
+    o.sesja.cnPlace.dziennik()->UstawZegar([&teraz] { return teraz = teraz.addSecs(427); });
+    o.sesja.cnPlace.dziennik()->dopiszZdarzenie(QStringLiteral("Logowanie"));
+    (void)o.sesja.UstawPracownika(3);
+    o.sesja.rsPRACPR.ustaw(schemat::PRACPR("placa_zas"), Waluta::zlotych(1980));
+    o.sesja.rsPRACPR.ustaw(schemat::PRACPR("stanow"), QStringLiteral("starszy referent"));
+    o.sesja.rsPRACPR.UpdateBatch(u"Zmiana danych pracownika nr 3");
+    o.sesja.rsKONTA.Open(o.sesja.cnPlace);
+    o.sesja.rsKONTA.MoveFirst();
+    o.sesja.rsKONTA.ustaw(schemat::KONTA("Nazwa"), QStringLiteral("Bank Ziemi Radomskiej II Oddział"));
+    o.sesja.rsKONTA.UpdateBatch(u"Konta bankowe: zmiana pozycji nr 1");
+    (void)CofnijLubPonow(o, {}, Kierunek::Cofnij);
+    frmDziennik ekran(o);
+    if (auto* lista = ekran.findChild<WidokListy*>(QStringLiteral("lvwWpisy")))
+        lista->wybierz(lista->lista().id(2));
+    zrzuty.ekran(ekran, QStringLiteral("dziennik"));
+>>>>>>> a6e0f6a (app, okna: undo by key and menu, and the screen of the journal)
 }
 
 /// The handbook as F1 opens it over a screen.
@@ -400,6 +427,7 @@ int main(int argc, char** argv) {
     wydruki(zrzuty, o);
     bezpieczenstwo(zrzuty, o, plik);
     zus(zrzuty, o);
+    dziennik(zrzuty, o);
     pomoc(zrzuty, podrecznik, glowne);
     return 0;
 }

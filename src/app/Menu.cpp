@@ -22,6 +22,8 @@ constexpr QStringView kPomoc = u"Pomoc";
 
 // The list of users shows every password in clear, so it is the administrator's alone, as is his sub-menu.
 constexpr PozycjaMenu kMenu[] = {
+    {kPlik, {}, u"Cofnij", Wejscie::Cofnij, Kazdy},
+    {kPlik, {}, u"Ponów", Wejscie::Ponow, Kazdy},
     {kPlik, {}, u"Otwórz bazę", Wejscie::OtworzBaze, Kazdy},
     {kPlik, {}, u"Ostatnie bazy", Wejscie::OstatnieBazy, Kazdy},
     {kPlik, {}, u"Koniec", Wejscie::Koniec, Kazdy, Przycisk, u"koniec"},
@@ -58,6 +60,7 @@ constexpr PozycjaMenu kMenu[] = {
     {kKonfiguracja, {}, u"Zmiana hasła", Wejscie::ZmianaHasla, Kazdy, Nie, u"haslo"},
     {kKonfiguracja, {}, u"Utwórz archiwum danych", Wejscie::UtworzArchiwum, Kazdy, Nie, u"archiwum"},
     {kKonfiguracja, {}, u"Przywróć z archiwum", Wejscie::PrzywrocArchiwum, Administrator},
+    {kKonfiguracja, {}, u"Dziennik zmian", Wejscie::DziennikZmian, Kazdy},
     {kKonfiguracja, kMenuAdministrator, u"Aktualizuj bazę danych", Wejscie::AktualizujBaze, Administrator},
     {kKonfiguracja, kMenuAdministrator, u"Pobierz strukturę bazy", Wejscie::PobierzStrukture, Administrator},
     {kKonfiguracja,

@@ -9,6 +9,8 @@ namespace tornel::app {
 
 /// Everything that the main window can open, one value for each entry of the menu.
 enum class Wejscie {
+    Cofnij,
+    Ponow,
     OtworzBaze,
     OstatnieBazy,
     Koniec,
@@ -45,6 +47,7 @@ enum class Wejscie {
     ZmianaHasla,
     UtworzArchiwum,
     PrzywrocArchiwum,
+    DziennikZmian,
     AktualizujBaze,
     PobierzStrukture,
     ListaUzytkownikow,

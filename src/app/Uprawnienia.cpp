@@ -1,5 +1,6 @@
 #include "app/Uprawnienia.h"
 #include "rules/Stale.h"
+#include "store/Dziennik.h"
 #include "store/Sesja.h"
 #include <algorithm>
 #include <array>
@@ -54,6 +55,27 @@ bool dozwolone(Wejscie wejscie, const Uzytkownik& uzytkownik, const Stale& stale
 bool dozwoloneMenu(QStringView menu, const Uzytkownik& uzytkownik) {
     return std::ranges::any_of(
         menuGlowne(), [&](const PozycjaMenu& p) { return p.menu == menu && maPrawo(p.prawo, uzytkownik); });
+}
+
+bool tabelaDozwolona(const QString& nazwa, const Uzytkownik& uzytkownik) {
+    const TabelaDef* tabela = schemat::szablonTabeli(nazwa.toStdString());
+    Prawo prawo = Prawo::Place;
+    if (!tabela || tabela == &schemat::UZYTKOWNICY)
+        prawo = Prawo::Administrator;
+    else if (std::ranges::find(schemat::TabelePracownika, tabela) != schemat::TabelePracownika.end() ||
+             tabela == &schemat::RODZINA || tabela == &schemat::UMOP)
+        prawo = Prawo::Kadry;
+    return maPrawo(prawo, uzytkownik);
+}
+
+bool wpisDozwolony(const WpisDziennika& wpis, const Uzytkownik& uzytkownik) {
+    if (uzytkownik.typ == 0 || wpis.kto == uzytkownik.nazwa) return true;
+    return std::ranges::any_of(wpis.tabele, [&](const QString& t) { return tabelaDozwolona(t, uzytkownik); });
+}
+
+bool cofniecieDozwolone(const WpisDziennika& wpis, const Uzytkownik& uzytkownik) {
+    if (uzytkownik.typ == 0 || wpis.kto == uzytkownik.nazwa) return true;
+    return std::ranges::all_of(wpis.tabele, [&](const QString& t) { return tabelaDozwolona(t, uzytkownik); });
 }
 
 } // namespace tornel::app

@@ -8,6 +8,7 @@ struct Stale;
 
 namespace tornel::store {
 struct Uzytkownik;
+struct WpisDziennika;
 } // namespace tornel::store
 
 namespace tornel::app {
@@ -30,5 +31,12 @@ namespace tornel::app {
 /// Whether the menu with the caption `menu` is open: the user has the right to one of its entries at least,
 /// whether or not the constants have it switched on.
 [[nodiscard]] bool dozwoloneMenu(QStringView menu, const Uzytkownik& uzytkownik);
+
+/// Whether the user may see what changed in the table of this name: that of a screen which he may open.
+[[nodiscard]] bool tabelaDozwolona(const QString& nazwa, const Uzytkownik& uzytkownik);
+/// Whether he may see the entry: it is his own, or he may see one of its tables.
+[[nodiscard]] bool wpisDozwolony(const WpisDziennika& wpis, const Uzytkownik& uzytkownik);
+/// Whether he may undo it: it is his own, or he may see all of its tables.
+[[nodiscard]] bool cofniecieDozwolone(const WpisDziennika& wpis, const Uzytkownik& uzytkownik);
 
 } // namespace tornel::app

@@ -66,6 +66,8 @@ frmMain::frmMain(Otoczenie& otoczenie) : o_(otoczenie) {
     rejestruj(Wejscie::Koniec, [this] { close(); });
     rejestruj(Wejscie::OProgramie, [this] { frmAbout(this).exec(); });
     akcja(Wejscie::Koniec)->setShortcut(Qt::CTRL | Qt::Key_Q); // not every desktop has a key for it
+    akcja(Wejscie::Cofnij)->setShortcut(QKeySequence::Undo);
+    akcja(Wejscie::Ponow)->setShortcut(Qt::CTRL | Qt::Key_Y);
     akcja(Wejscie::Pomoc)->setShortcut(QKeySequence::HelpContents);
     UstawDostepnoscMenu();
 }
@@ -210,6 +212,10 @@ void frmMain::rejestruj(Wejscie wejscie, std::function<void()> otwarcie) {
     ekrany_[wejscie] = std::move(otwarcie);
 }
 
+void frmMain::ustawNapis(Wejscie wejscie, std::function<QString()> napis) {
+    napisy_[wejscie] = std::move(napis);
+}
+
 void frmMain::wczytaj() {
     UstawUprawnienia();
     RefreshTitle();
@@ -225,6 +231,12 @@ void frmMain::UstawDostepnoscMenu() {
     const Uzytkownik& uzytkownik = o_.sesja.uzytkownik;
     for (const auto& [wejscie, akcja] : akcje_)
         akcja->setEnabled(ekrany_.contains(wejscie) && dozwolone(wejscie, uzytkownik, o_.stale));
+    for (const auto& [wejscie, napis] : napisy_) {
+        const QString tekst = napis();
+        QAction* akcja = akcje_.at(wejscie);
+        akcja->setText(tekst.isEmpty() ? pozycjaMenu(wejscie).napis.toString() : tekst);
+        akcja->setEnabled(akcja->isEnabled() && !tekst.isEmpty());
+    }
     for (const auto& [nazwa, menu] : menu_) {
         const auto pozycje = menu->actions();
         const bool otwarte =

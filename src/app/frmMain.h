@@ -25,6 +25,9 @@ public:
     /// Names what opens an entry; the function returns when its screen is closed. An entry without one is
     /// closed to everybody. `Koniec` and `OProgramie` are the window's own.
     void rejestruj(Wejscie wejscie, std::function<void()> otwarcie);
+    /// What an entry says each time that the menu is set anew; with an empty text it keeps its caption and is
+    /// closed.
+    void ustawNapis(Wejscie wejscie, std::function<QString()> napis);
     /// What happens once all entries are registered: rights, title, and the warning about a removed password
     /// (constant 998). Reads `KON`.
     void wczytaj();
@@ -77,6 +80,7 @@ private:
 
     Otoczenie& o_;
     std::map<Wejscie, std::function<void()>> ekrany_;
+    std::map<Wejscie, std::function<QString()>> napisy_;
     std::map<Wejscie, QAction*> akcje_;
     std::map<QString, QMenu*> menu_;
     std::vector<PrzyciskPaska> pasek_;

@@ -3,6 +3,7 @@
 #include "app/frmLogLista.h"
 #include "app/frmMain.h"
 #include "app/frmMainArchiwum.h"
+#include "app/frmMainDziennik.h"
 #include "app/frmMainUmowy.h"
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmMainWydrukiListy.h"
@@ -62,6 +63,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     ZarejestrujZus(okno, otoczenie);
     ZarejestrujUmowy(okno, otoczenie);
     ZarejestrujArchiwum(okno, otoczenie);
+    ZarejestrujDziennik(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);
     zarejestruj<frmLogLista>(okno, otoczenie, Wejscie::ListaUzytkownikow);
     okno.rejestruj(Wejscie::StaleProgramu, [&] {

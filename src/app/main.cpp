@@ -76,7 +76,15 @@ std::unique_ptr<Program> PStart(const QString& baza, const QString& folder, cons
 bool zaloguj(Sesja& sesja, Rozmowa& rozmowa) {
     frmLogowanie logowanie;
     if (logowanie.exec() != QDialog::Accepted) return false;
-    if (SprawdzLogin(sesja, logowanie.nazwa(), logowanie.haslo())) return true;
+    const bool wpuszczony = SprawdzLogin(sesja, logowanie.nazwa(), logowanie.haslo());
+    try {
+        sesja.cnPlace.dziennik()->dopiszZdarzenie(wpuszczony ? QStringLiteral("Logowanie")
+                                                             : QStringLiteral("Odmowa logowania"));
+    } catch (const Blad& blad) {
+        // A full disk keeps nobody out: room is made from inside.
+        rozmowa.komunikat(blad.komunikat(), Styl::Wykrzyknik);
+    }
+    if (wpuszczony) return true;
     rozmowa.komunikat(
         QStringLiteral("Podana nazwa użytkownika lub hasło są nieprawidłowe. Program nie zostanie "
                        "uruchomiony."),

@@ -1,8 +1,10 @@
 #include "okna/Aplikacja.h"
 #include "common/Blad.h"
+#include "okna/Okno.h"
 #include <new>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QToolTip>
 
 namespace tornel::okna {
 
@@ -40,6 +42,22 @@ bool Aplikacja::notify(QObject* odbiorca, QEvent* zdarzenie) {
 void Aplikacja::odczytajPonownie() {
     if (odczyt_) odczyt_();
     emit danePrzeczytane();
+}
+
+void Aplikacja::cofnij(Kierunek kierunek) {
+    if (!cofniecie_) return;
+    constexpr int milisekund = 6000;
+    constexpr QPoint odRogu{16, -56};
+    for (QWidget* okno : topLevelWidgets())
+        if (auto* ekran = qobject_cast<Okno*>(okno);
+            ekran && ekran->isVisible() && !ekran->przygotujCofniecie())
+            return;
+    const QString tekst = cofniecie_(kierunek);
+    if (tekst.isEmpty()) return;
+    emit czynnoscCofnieta();
+    if (QWidget* okno = activeWindow())
+        QToolTip::showText(okno->mapToGlobal(okno->rect().bottomLeft() + odRogu), tekst, okno, {},
+                           milisekund);
 }
 
 void Aplikacja::napraw(const QString& komunikat) {

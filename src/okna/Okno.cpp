@@ -16,13 +16,22 @@ namespace {
 /// What the desktop puts around a window.
 constexpr QSize kRamkaOkna{8, 40};
 
+/// Ctrl+Z and Ctrl+Y that no field has taken for itself.
+std::optional<Kierunek> kierunekKlawisza(const QKeyEvent& zdarzenie) {
+    if (zdarzenie.matches(QKeySequence::Undo)) return Kierunek::Cofnij;
+    const bool ctrlY = zdarzenie.key() == Qt::Key_Y && zdarzenie.modifiers() == Qt::ControlModifier;
+    return ctrlY || zdarzenie.matches(QKeySequence::Redo) ? std::optional(Kierunek::Ponow) : std::nullopt;
+}
+
 } // namespace
 
 Okno::Okno(const QString& nazwa, QWidget* rodzic, PoEnterze poEnterze)
     : QDialog(rodzic), poEnterze_(poEnterze) {
     setObjectName(nazwa);
-    if (const auto* program = qobject_cast<Aplikacja*>(qApp))
+    if (const auto* program = qobject_cast<Aplikacja*>(qApp)) {
         connect(program, &Aplikacja::danePrzeczytane, this, [this] { pokazPonownie(); });
+        connect(program, &Aplikacja::czynnoscCofnieta, this, [this] { wczytajPonownie(); });
+    }
 }
 
 QSplitter* Okno::dzielnik(QWidget* lewa, int szerokosc, QWidget* prawa) {
@@ -59,6 +68,9 @@ void Okno::closeEvent(QCloseEvent* zdarzenie) {
 }
 
 void Okno::keyPressEvent(QKeyEvent* zdarzenie) {
+    auto* program = qobject_cast<Aplikacja*>(qApp);
+    if (const auto kierunek = kierunekKlawisza(*zdarzenie); kierunek && program && cofaCzynnosci())
+        return program->cofnij(*kierunek);
     const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
     if (!enter || poEnterze_ == PoEnterze::PrzyciskDomyslny) return QDialog::keyPressEvent(zdarzenie);
     if (auto* naPrzycisku = qobject_cast<QPushButton*>(focusWidget()))

@@ -18,6 +18,9 @@ class Okno : public QDialog {
 public:
     void done(int wynik) override;
 
+    /// Before an action is undone: what is not stored is stored or dropped. False keeps everything as it is.
+    [[nodiscard]] virtual bool przygotujCofniecie() { return true; }
+
 protected:
     /// `nazwa`: objectName of the screen, by which it is remembered and has its page of the handbook.
     explicit Okno(const QString& nazwa, QWidget* rodzic = nullptr,
@@ -27,6 +30,12 @@ protected:
     [[nodiscard]] virtual bool moznaZamknac() { return true; }
     /// The handles were read anew: the screen shows its current row again.
     virtual void pokazPonownie() {}
+    /// Whether Ctrl+Z and Ctrl+Y undo actions here, outside a field; not where a window is a part of an
+    /// action.
+    [[nodiscard]] virtual bool cofaCzynnosci() const { return false; }
+    /// An action was undone or made again and the handles were read anew: rows may be new or gone, so lists
+    /// are filled again, too.
+    virtual void wczytajPonownie() { pokazPonownie(); }
     /// Where Enter leads from a field.
     virtual void nastepnePole() { focusNextChild(); }
 
@@ -51,7 +60,11 @@ enum class Zamykanie { Zapis, Pytanie };
 /// may close without storing, and else everything typed stays.
 class OknoEdycji : public Okno {
     Q_OBJECT
+public:
+    [[nodiscard]] bool przygotujCofniecie() override { return rozstrzygnijZmiany(); }
+
 protected:
+    [[nodiscard]] bool cofaCzynnosci() const override { return true; }
     OknoEdycji(const QString& nazwa, Rozmowa& rozmowa, Zamykanie zamykanie, QWidget* rodzic = nullptr,
                PoEnterze poEnterze = PoEnterze::NastepnePole);
 

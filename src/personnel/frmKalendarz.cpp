@@ -198,6 +198,13 @@ void frmKalendarz::pokazPonownie() {
     if (!dni_->jestZmiana()) WypiszDni(std::optional(biezacy_));
 }
 
+void frmKalendarz::wczytajPonownie() {
+    if (biezacy_)
+        odswiez(MiesiacKalendarza(*biezacy_));
+    else
+        WczytajMiesiace();
+}
+
 // --- the clerk's actions
 
 void frmKalendarz::nowyMiesiac(qint64 prcId) {

@@ -61,6 +61,7 @@ protected:
     [[nodiscard]] bool zapiszZmiany() override;
     void porzucZmiany() override { porzuc(); }
     void pokazPonownie() override;
+    void wczytajPonownie() override;
 
 private:
     [[nodiscard]] QWidget* ramkaDni();

@@ -204,6 +204,11 @@ void frmPrac::pokazPonownie() {
     pokazStan();
 }
 
+void frmPrac::wczytajPonownie() {
+    pokazPonownie();
+    WczytajListePrac(filtr_, kartoteka_.pracownik().value_or(-1));
+}
+
 void frmPrac::pokazStan() {
     const bool jest = kartoteka_.pracownik().has_value();
     const bool wpisane = zakladki_->jestZmiana();

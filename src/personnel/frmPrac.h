@@ -34,6 +34,7 @@ protected:
     [[nodiscard]] bool zapiszZmiany() override;
     void porzucZmiany() override;
     void pokazPonownie() override;
+    void wczytajPonownie() override;
     void nastepnePole() override;
 
 private:

@@ -63,6 +63,7 @@ struct SlowoKolumny {
 /// One meaning in all tables that have the column.
 constexpr SlowoKolumny kKolumny[] = {
     {"PRC_ID", u"numer pracownika"},
+    {"PrcId", u"numer pracownika"},
     {"LISTA", u"lista"},
     {"ROK", u"rok"},
     {"MIES", u"miesiąc"},
@@ -146,6 +147,18 @@ constexpr SlowoKolumny kKolumny[] = {
     {"ROKMIES", u"miesiąc"},
 };
 
+/// "DZIEN_7" as the day 7 of a calendar.
+std::optional<QString> slowoDnia(std::string_view nazwa) {
+    for (const auto& [przedrostek, slowo] :
+         {std::pair<std::string_view, QStringView>{"DZIEN_", u"dzień "}, {"OPIS_", u"opis dnia "}})
+        if (nazwa.size() > przedrostek.size() &&
+            teSameNazwy(nazwa.substr(0, przedrostek.size()), przedrostek))
+            return slowo.toString() +
+                   QString::fromLatin1(nazwa.data() + przedrostek.size(),
+                                       static_cast<qsizetype>(nazwa.size() - przedrostek.size()));
+    return std::nullopt;
+}
+
 /// "SP_7" as component 7 of the catalogue, with the words before it.
 std::optional<QString> slowoSkladnika(std::string_view nazwa, const SkladnikiPlac& skladniki) {
     struct Szereg {
@@ -175,6 +188,7 @@ std::optional<QString> slowoSkladnika(std::string_view nazwa, const SkladnikiPla
 QString slowoKolumny(const PakietZmian& pakiet, int nr, const SkladnikiPlac& skladniki) {
     const std::string nazwa = pakiet.kolumny[nr].toStdString();
     if (const auto skladnik = slowoSkladnika(nazwa, skladniki)) return *skladnik;
+    if (const auto dzien = slowoDnia(nazwa)) return *dzien;
     const auto slowo =
         std::ranges::find_if(kKolumny, [&](const SlowoKolumny& s) { return teSameNazwy(s.kolumna, nazwa); });
     return slowo == std::end(kKolumny) ? pakiet.kolumny[nr] : slowo->slowo.toString();
@@ -206,7 +220,7 @@ QString napisWiersza(const PakietZmian& pakiet, const ZmianaWiersza& z, const Sk
     QStringList czesci;
     const auto nazywa = [&](const ZmianaKolumny& k) {
         const std::string nazwa = pakiet.kolumny[k.nr].toStdString();
-        return teSameNazwy(nazwa, "PRC_ID") ||
+        return (pakiet.szablon && k.nr == kolumnaPracownika(*pakiet.szablon)) ||
                (pakiet.szablon && std::ranges::any_of(pakiet.szablon->klucz, [&](std::string_view n) {
                     return teSameNazwy(n, nazwa);
                 }));

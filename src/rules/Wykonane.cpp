@@ -88,7 +88,10 @@ void Wykonane::dopisz(const QList<Wykonanie>& wykonania, const QDateTime& kiedy)
         rs.ustaw(WYKONANE("PLIK"), x.plik);
         rs.ustaw(WYKONANE("OPIS"), x.opis);
     }
-    rs.UpdateBatch(u"Zapis wydruków i plików");
+    const Wykonanie* jedno = wykonania.size() == 1 ? &wykonania.first() : nullptr;
+    rs.UpdateBatch(!jedno || jedno->opis.isEmpty() ? QStringLiteral("Zapis wydruków i plików")
+                   : jedno->plik.isEmpty()         ? QStringLiteral("Wydruk: ") + jedno->opis
+                                                   : QStringLiteral("Plik: ") + jedno->opis);
 }
 
 void Wykonane::usun(const SzukaneWykonania& ktore) {

@@ -44,6 +44,8 @@ protected:
     }
     [[nodiscard]] bool zapiszZmiany() override;
     void porzucZmiany() override {} // nothing has left the screen's own copy
+    /// That copy would bring back what was undone.
+    [[nodiscard]] bool cofaCzynnosci() const override { return false; }
 
 private:
     void buduj();

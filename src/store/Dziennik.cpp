@@ -32,7 +32,7 @@ bool dotyczyOsoby(Polaczenie& polaczenie, const WpisDziennika& wpis, qint64 osob
     if (wpis.osoby != QLatin1String("*")) return wpis.osoby.contains(u',' + QString::number(osoba) + u',');
     PakietyWpisu pakiety(polaczenie, wpis.id, KolejnoscPakietow::Naprzod);
     while (const auto pakiet = pakiety.nastepny()) {
-        const int kolumna = pakiet->szablon ? pakiet->szablon->numer("PRC_ID") : -1;
+        const int kolumna = pakiet->szablon ? kolumnaPracownika(*pakiet->szablon) : -1;
         if (kolumna < 0) continue;
         const auto jego = [&](const ZmianaKolumny& k) {
             return k.nr == kolumna && (k.stara == WartoscPliku(osoba) || k.nowa == WartoscPliku(osoba));
@@ -69,7 +69,9 @@ QList<WpisDziennika> WpisyDziennika(Polaczenie& polaczenie, const SzukaneWpisy& 
         WpisDziennika w = wpisZWiersza(i);
         const bool jestTabela =
             szukane.tabela.isEmpty() || std::ranges::any_of(w.tabele, [&](const QString& t) {
-                return t.startsWith(szukane.tabela, Qt::CaseInsensitive);
+                const TabelaDef* szablon = schemat::szablonTabeli(t.toStdString());
+                return t.compare(szukane.tabela, Qt::CaseInsensitive) == 0 ||
+                       (szablon && teSameNazwy(szablon->nazwa, szukane.tabela.toStdString()));
             });
         if (!jestTabela || (szukane.osoba > 0 && !dotyczyOsoby(polaczenie, w, szukane.osoba)) ||
             (!szukane.tekst.isEmpty() && !zawieraTekst(bajty, w, szukane.tekst)))

@@ -25,7 +25,7 @@ struct SzukaneWpisy {
     QDate od = {}, do_ = {}; ///< both days included
     QString kto = {};
     qint64 osoba = 0;
-    QString tabela = {}; ///< or the beginning of its name: "PLA"
+    QString tabela = {}; ///< of month tables also the prefix alone: "PLA"
     QString tekst = {};  ///< in the words of the action, or among the texts that it changed
 };
 

@@ -163,6 +163,11 @@ void czytajZmiane(Czytelnik& c, const PakietZmian& pakiet, ZmianaWiersza& z) {
 
 } // namespace
 
+int kolumnaPracownika(const TabelaDef& tabela) {
+    const int zPodkresleniem = tabela.numer("PRC_ID");
+    return zPodkresleniem >= 0 ? zPodkresleniem : tabela.numer("PrcId"); // the calendars write it so
+}
+
 bool rownaWPliku(const WartoscPliku& a, const WartoscPliku& b) {
     const auto* n = std::get_if<qint64>(&a);
     const auto* r = std::get_if<double>(&b);
@@ -197,7 +202,7 @@ PisarzPakietu::PisarzPakietu(QString tabela, const TabelaDef* szablon, const QSt
     if (szablon_) {
         ile(szablon_->kolumny.size());
         ile(odcisk(*szablon_));
-        osoba_ = szablon_->numer("PRC_ID");
+        osoba_ = kolumnaPracownika(*szablon_);
         for (const std::string_view k : szablon_->klucz) klucz_.push_back(szablon_->numer(k));
         if (osoba_ >= 0 && std::ranges::find(klucz_, osoba_) == klucz_.end()) klucz_.push_back(osoba_);
     }

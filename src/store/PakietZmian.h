@@ -22,6 +22,9 @@ struct WartoscTajna {
 /// of a date).
 using WartoscPliku = std::variant<std::monostate, qint64, double, QByteArray, WartoscTajna>;
 
+/// The column that holds an employee's number, -1 without one.
+[[nodiscard]] int kolumnaPracownika(const TabelaDef& tabela);
+
 /// Whether the file would hold the two as the same; a double that is whole may stand there as a number.
 [[nodiscard]] bool rownaWPliku(const WartoscPliku& a, const WartoscPliku& b);
 

@@ -71,7 +71,8 @@ TEST_F(PowlokaTest, MenuStoiWCalosciABezEkranuWejscieJestZamkniete) {
         wejscia += wejsciaMenu(*akcja->menu(), akcja->text());
     const QStringList oczekiwane =
         QStringLiteral(
-            "Plik>Otwórz bazę|Plik>Ostatnie bazy|Plik>Koniec|Pracownicy>Wszyscy pracownicy|Pracownicy>Tylko "
+            "Plik>Cofnij|Plik>Ponów|Plik>Otwórz bazę|Plik>Ostatnie bazy|Plik>Koniec|Pracownicy>Wszyscy "
+            "pracownicy|Pracownicy>Tylko "
             "pracujący|Pracownicy>Tylko zwolnieni|"
             "Pracownicy>Zatrudnieni na umowę zlecenie|Pracownicy>Zatrudnieni na umowę o dzieło|"
             "Pracownicy>Otrzymujący honoraria|Pracownicy>Lista umów o pracę|Płace>Lista "
@@ -83,6 +84,7 @@ TEST_F(PowlokaTest, MenuStoiWCalosciABezEkranuWejscieJestZamkniete) {
             "Analizy>Wydruki ZUS|Analizy>Zbiorówka za miesiąc|Analizy>Zbiorówka za rok|Analizy>PIT-4|"
             "Analizy>PIT-8B|Analizy>PIT-11|Analizy>PIT-40|Konfiguracja>Stałe programu|"
             "Konfiguracja>Zmiana hasła|Konfiguracja>Utwórz archiwum danych|Konfiguracja>Przywróć z archiwum|"
+            "Konfiguracja>Dziennik zmian|"
             "Konfiguracja>Administrator>Aktualizuj bazę danych|"
             "Konfiguracja>Administrator>Pobierz strukturę bazy|Konfiguracja>Lista użytkowników|Pomoc>Pomoc|"
             "Pomoc>O programie")

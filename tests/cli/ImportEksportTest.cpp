@@ -65,7 +65,8 @@ TEST_F(ImportEksportTest, EveryTableComesBackAsItWas) {
     for (const TabelaDef* t : schemat::TabeleMiesiaca)
         tabele.append({t, Sesja::nazwaMiesiaca(t->nazwa, 2001, 2)});
     for (const TabelaDef* t : schemat::Tabele)
-        tabele.append({t, QString::fromLatin1(t->nazwa.data(), static_cast<qsizetype>(t->nazwa.size()))});
+        if (t != &schemat::DZIENNIK && t != &schemat::DZIENNIK_ZMIANY) // nobody's to import
+            tabele.append({t, QString::fromLatin1(t->nazwa.data(), static_cast<qsizetype>(t->nazwa.size()))});
     const auto nadgodziny = {std::pair{&schemat::NADGN, QStringLiteral("NADGN200105")},
                              std::pair{&schemat::NADGDzien, QStringLiteral("NADG200105")}};
     for (const auto& [t, nazwa] : nadgodziny) tabele.append({t, nazwa});

@@ -10,7 +10,8 @@ namespace tornel::testy {
 
 inline bool bezEkranu(Wejscie wejscie) {
     using enum Wejscie;
-    const auto wejscia = {Koniec, OtworzBaze, UtworzArchiwum, AktualizujBaze, PobierzStrukture};
+    const auto wejscia = {Cofnij,         Ponow,          Koniec,          OtworzBaze,
+                          UtworzArchiwum, AktualizujBaze, PobierzStrukture};
     return std::ranges::find(wejscia, wejscie) != wejscia.end();
 }
 

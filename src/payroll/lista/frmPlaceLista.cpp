@@ -211,6 +211,19 @@ void frmPlaceLista::pokazPonownie() {
     }
 }
 
+bool frmPlaceLista::przygotujCofniecie() {
+    zakladki_->zakoncz();
+    return !zakladki_->wlasnieNieZrozumiano();
+}
+
+void frmPlaceLista::wczytajPonownie() {
+    if (!o_.sesja.rsPLA.otwarty()) return pokazPonownie();
+    const auto klucz = biezacy();
+    zakladki_->porzucSumy();
+    linie_ = lista_.Wczytaj_listep();
+    pokazListe(klucz);
+}
+
 void frmPlaceLista::pokazNaglowek() {
     const Recordset& a = o_.sesja.rsPLA;
     const bool jest = lista_.wiersz() && a.naWierszu();

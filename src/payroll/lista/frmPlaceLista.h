@@ -32,12 +32,15 @@ public:
     frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QString& symbol, QWidget* rodzic = nullptr,
                   PortWydrukow wydruki = {});
     ~frmPlaceLista() override;
+    [[nodiscard]] bool przygotujCofniecie() override;
 
 protected:
     /// Stores what is pending and the month sums, then closes the month. It stays open when the field in work
     /// cannot be stored, or has just had to say that it did not understand what was typed.
     [[nodiscard]] bool moznaZamknac() override;
     void pokazPonownie() override;
+    [[nodiscard]] bool cofaCzynnosci() const override { return true; }
+    void wczytajPonownie() override;
     void nastepnePole() override;
     void keyPressEvent(QKeyEvent* zdarzenie) override;
 

@@ -28,6 +28,7 @@ protected:
     [[nodiscard]] bool zapiszZmiany() override;
     void porzucZmiany() override { wiazanie_.wczytaj(); }
     void pokazPonownie() override;
+    void wczytajPonownie() override { Wczytaj_liste(biezacy_); }
 
 private:
     void budujPrzyciski();

@@ -29,6 +29,7 @@ protected:
     /// Stores the cell in work first; the screen stays open when that fails.
     [[nodiscard]] bool moznaZamknac() override;
     void pokazPonownie() override;
+    [[nodiscard]] bool cofaCzynnosci() const override { return true; }
 
 private:
     void budujPrzyciski();
