@@ -49,9 +49,16 @@ P* nazwane(P* pole, const QString& nazwa, const QString& dostepna) {
     return pole;
 }
 
-QStringList tekstyWpisu(const WpisDziennika& w) {
+/// Words of tables; thousands of entries name the same few.
+using Nazwy = QHash<QString, QString>;
+
+QStringList tekstyWpisu(const WpisDziennika& w, Nazwy& nazwy) {
     QStringList rzeczy;
-    for (const QString& tabela : w.tabele) rzeczy += NapisTabeli(tabela);
+    for (const QString& tabela : w.tabele) {
+        QString& nazwa = nazwy[tabela];
+        if (nazwa.isEmpty()) nazwa = NapisTabeli(tabela);
+        rzeczy += nazwa;
+    }
     return {w.dzien.isValid() ? FormatDaty(w.dzien) : QString(),
             w.czas,
             w.kto,
@@ -91,8 +98,8 @@ frmDziennik::frmDziennik(Otoczenie& otoczenie, QWidget* rodzic, WybierzPlik wybi
     uklad->addWidget(listy(), 1);
     uklad->addWidget(przyciski());
     resize(140 * Wyglad::kSiatka, 88 * Wyglad::kSiatka);
+    pokaz({});
     wypelnijWybory();
-    szukaj();
     lvwWpisy_->setFocus();
 }
 
@@ -181,12 +188,13 @@ QWidget* frmDziennik::przyciski() {
 void frmDziennik::wypelnijWybory() {
     cboKto_->addItem(QStringLiteral("wszyscy"), QString());
     cboTabela_->addItem(QStringLiteral("wszystkie"), QString());
-    QSet<QString> osoby;
+    QSet<QString> osoby, wszystkie;
     QMap<QString, QString> tabele;
-    for (const WpisDziennika& w : WpisyDziennika(o_.sesja.cnPlace)) {
-        if (!wpisDozwolony(w, o_.sesja.uzytkownik)) continue;
+    for (const WpisDziennika& w : std::as_const(wpisy_)) {
         if (!w.kto.isEmpty()) osoby.insert(w.kto);
         for (const QString& tabela : w.tabele) {
+            if (wszystkie.contains(tabela)) continue;
+            wszystkie.insert(tabela);
             const TabelaDef* szablon = schemat::szablonTabeli(tabela.toStdString());
             if (!szablon || !tabelaDozwolona(tabela, o_.sesja.uzytkownik)) continue;
             const QString nazwa =
@@ -224,14 +232,17 @@ std::optional<SzukaneWpisy> frmDziennik::filtr() {
 }
 
 void frmDziennik::szukaj() {
-    const auto szukane = filtr();
-    if (!szukane) return;
+    if (const auto szukane = filtr()) pokaz(*szukane);
+}
+
+void frmDziennik::pokaz(const SzukaneWpisy& szukane) {
     const Klepsydra klepsydra;
-    wpisy_ = WpisyDziennika(o_.sesja.cnPlace, *szukane);
+    wpisy_ = WpisyDziennika(o_.sesja.cnPlace, szukane);
     wpisy_.removeIf([this](const WpisDziennika& w) { return !wpisDozwolony(w, o_.sesja.uzytkownik); });
     QList<WierszListy> wiersze;
     wiersze.reserve(wpisy_.size());
-    for (const WpisDziennika& w : std::as_const(wpisy_)) wiersze.append({w.id, tekstyWpisu(w)});
+    Nazwy nazwy;
+    for (const WpisDziennika& w : std::as_const(wpisy_)) wiersze.append({w.id, tekstyWpisu(w, nazwy)});
     const bool pusto = wiersze.isEmpty();
     labIle_->setText(QStringLiteral("Wpisów: %1").arg(wiersze.size()));
     lvwWpisy_->ustaw(std::move(wiersze), lvwWpisy_->wybrany());
@@ -277,8 +288,9 @@ void frmDziennik::zapiszCsv() {
         for (qsizetype i = 0; i < pola.size(); ++i) csv += (i > 0 ? ";" : "") + PoleCsv(pola[i]).toUtf8();
         csv += '\n';
     };
+    Nazwy nazwy;
     for (const WpisDziennika& w : std::as_const(wpisy_)) {
-        const QStringList poczatek = tekstyWpisu(w).mid(0, 4);
+        const QStringList poczatek = tekstyWpisu(w, nazwy).mid(0, 4);
         const auto zmiany = widoczneZmiany(o_, w.id, std::numeric_limits<qint64>::max());
         for (const OpisanaZmiana& z : zmiany)
             linia(poczatek + QStringList{z.tabela, z.wiersz, z.kolumna, z.stara, z.nowa});

@@ -39,6 +39,7 @@ private:
     /// What the filter says; nothing when a field of it cannot be understood, which the field tells.
     [[nodiscard]] std::optional<SzukaneWpisy> filtr();
     void szukaj();
+    void pokaz(const SzukaneWpisy& szukane);
     void wyczyscFiltr();
     void pokazZmiany(qint64 id);
     void zapiszCsv();

@@ -196,15 +196,15 @@ QString slowoKolumny(const PakietZmian& pakiet, int nr, const SkladnikiPlac& skl
 
 QString tekstZmiany(const PakietZmian& pakiet, int nr, const WartoscPliku& wartosc) {
     if (std::holds_alternative<WartoscTajna>(wartosc)) return QStringLiteral("(nie jest zapisywane)");
-    const auto typ = pakiet.szablon ? std::optional(pakiet.szablon->nr(nr).def().typ) : std::nullopt;
+    const auto jest = [&](Typ typ) { return pakiet.szablon && pakiet.szablon->nr(nr).def().typ == typ; };
     if (const auto* n = std::get_if<qint64>(&wartosc))
-        return typ == Typ::Currency ? FormatKwoty(Waluta::zSurowej(*n)) : QString::number(*n);
+        return jest(Typ::Currency) ? FormatKwoty(Waluta::zSurowej(*n)) : QString::number(*n);
     if (const auto* r = std::get_if<double>(&wartosc))
         return QString::number(*r, 'g', 15).replace(u'.', u',');
     const auto* t = std::get_if<QByteArray>(&wartosc);
     if (!t) return {};
     const QString tekst = QString::fromUtf8(*t);
-    if (typ != Typ::Date) return tekst;
+    if (!jest(Typ::Date)) return tekst;
     const QDate dzien = QDate::fromString(tekst, Qt::ISODate);
     return dzien.isValid() ? FormatDaty(dzien) : tekst;
 }

@@ -91,7 +91,7 @@ void Wykonane::dopisz(const QList<Wykonanie>& wykonania, const QDateTime& kiedy)
     const Wykonanie* jedno = wykonania.size() == 1 ? &wykonania.first() : nullptr;
     rs.UpdateBatch(!jedno || jedno->opis.isEmpty() ? QStringLiteral("Zapis wydruków i plików")
                    : jedno->plik.isEmpty()         ? QStringLiteral("Wydruk: ") + jedno->opis
-                                                   : QStringLiteral("Plik: ") + jedno->opis);
+                                                   : jedno->opis);
 }
 
 void Wykonane::usun(const SzukaneWykonania& ktore) {

@@ -39,6 +39,14 @@ WartoscPliku surowa(const Instrukcja& instrukcja, int kolumna) {
     }
 }
 
+/// Whether the file holds the value there.
+bool stoi(const Instrukcja& instrukcja, int kolumna, const WartoscPliku& wartosc) {
+    const auto* t = std::get_if<QByteArray>(&wartosc);
+    if (!t) return rownaWPliku(surowa(instrukcja, kolumna), wartosc);
+    return instrukcja.typ(kolumna) == SQLITE_TEXT &&
+           instrukcja.utf8(kolumna) == std::string_view(t->constData(), static_cast<std::size_t>(t->size()));
+}
+
 QString napisWartosci(const WartoscPliku& wartosc) {
     if (const auto* n = std::get_if<qint64>(&wartosc)) return QString::number(*n);
     if (const auto* t = std::get_if<QByteArray>(&wartosc)) return QString::fromUtf8(*t);
@@ -142,34 +150,35 @@ private:
         return *gotowe;
     }
 
-    /// The stored row, nothing when there is none.
-    std::optional<std::vector<WartoscPliku>> czytaj(const PakietZmian& p, qint64 nrWiersza) {
-        Instrukcja& i = polecenie(polecenia_[p.tabela].czytaj, [&] {
+    /// Reads a row of the table by its number.
+    Instrukcja& wiersz(const PakietZmian& p) {
+        return polecenie(polecenia_[p.tabela].czytaj, [&] {
             std::string sql;
             for (const QString& k : p.kolumny)
                 sql += (sql.empty() ? "SELECT " : ", ") + nazwaSql(k.toStdString()).toStdString();
             return sql + " FROM " + tabela(p) + " WHERE rowid=?";
         });
-        std::optional<std::vector<WartoscPliku>> wynik;
-        if (i.wiaz(0, nrWiersza).wiersz()) {
-            wynik.emplace(static_cast<std::size_t>(p.kolumny.size()));
-            for (std::size_t k = 0; k < wynik->size(); ++k) (*wynik)[k] = surowa(i, static_cast<int>(k));
-        }
+    }
+    [[nodiscard]] bool jestWiersz(const PakietZmian& p, qint64 nrWiersza) {
+        Instrukcja& i = wiersz(p);
+        const bool wynik = i.wiaz(0, nrWiersza).wiersz();
         i.od_nowa();
         return wynik;
     }
-    /// The stored row when it is as it has to be; otherwise it stands in the way.
-    std::optional<std::vector<WartoscPliku>> sprawdzony(const PakietZmian& p, const ZmianaWiersza& z) {
-        auto wiersz = czytaj(p, z.nrWiersza);
-        if (!wiersz) {
-            przeszkoda(p, z, QStringLiteral("został potem usunięty"));
-        } else if (!std::ranges::all_of(z.kolumny, [&](const ZmianaKolumny& k) {
-                       return rownaWPliku((*wiersz)[static_cast<std::size_t>(k.nr)], jest(k));
-                   })) {
-            przeszkoda(p, z, QStringLiteral("został potem zmieniony"));
-            wiersz.reset();
-        }
-        return wiersz;
+    /// The statement at the stored row when that is as it has to be; otherwise it stands in the way, and
+    /// null. The values are compared where they stand: of a batch they are millions.
+    Instrukcja* sprawdzony(const PakietZmian& p, const ZmianaWiersza& z) {
+        Instrukcja& i = wiersz(p);
+        const char* uwaga = nullptr;
+        if (!i.wiaz(0, z.nrWiersza).wiersz())
+            uwaga = "został potem usunięty";
+        else if (!std::ranges::all_of(z.kolumny,
+                                      [&](const ZmianaKolumny& k) { return stoi(i, k.nr, jest(k)); }))
+            uwaga = "został potem zmieniony";
+        if (!uwaga) return &i;
+        i.od_nowa();
+        przeszkoda(p, z, QString::fromUtf8(uwaga));
+        return nullptr;
     }
 
     /// Runs a change of one row; a key that is taken meanwhile stands in the way.
@@ -183,23 +192,26 @@ private:
     }
 
     void zmien(const PakietZmian& p, const ZmianaWiersza& z) {
-        auto wiersz = sprawdzony(p, z);
-        if (!wiersz) return;
+        Instrukcja* stary = sprawdzony(p, z);
+        if (!stary) return;
+        std::vector<WartoscPliku> nowy(static_cast<std::size_t>(p.kolumny.size()));
+        for (std::size_t k = 0; k < nowy.size(); ++k) nowy[k] = surowa(*stary, static_cast<int>(k));
+        stary->od_nowa();
         Instrukcja& i = polecenie(polecenia_[p.tabela].zmien, [&] {
             std::string sql;
             for (const QString& k : p.kolumny)
                 sql += (sql.empty() ? " SET " : ", ") + nazwaSql(k.toStdString()).toStdString() + "=?";
             return "UPDATE " + tabela(p) + sql + " WHERE rowid=?";
         });
-        for (const ZmianaKolumny& k : z.kolumny) (*wiersz)[static_cast<std::size_t>(k.nr)] = bedzie(k);
+        for (const ZmianaKolumny& k : z.kolumny) nowy[static_cast<std::size_t>(k.nr)] = bedzie(k);
         int nr = 0;
-        for (const WartoscPliku& w : *wiersz) wiazZPliku(i, nr++, w);
+        for (const WartoscPliku& w : nowy) wiazZPliku(i, nr++, w);
         i.wiaz(nr, z.nrWiersza);
         uruchom(i, p, z);
     }
 
     void wstaw(const PakietZmian& p, const ZmianaWiersza& z) {
-        if (czytaj(p, z.nrWiersza)) {
+        if (jestWiersz(p, z.nrWiersza)) {
             przeszkoda(p, z, QStringLiteral("ma w pliku miejsce, które zajął potem inny wiersz"));
             return;
         }
@@ -217,7 +229,9 @@ private:
     }
 
     void usun(const PakietZmian& p, const ZmianaWiersza& z) {
-        if (!sprawdzony(p, z)) return;
+        Instrukcja* stary = sprawdzony(p, z);
+        if (!stary) return;
+        stary->od_nowa();
         Instrukcja& i = polecenie(polecenia_[p.tabela].usun,
                                   [&] { return "DELETE FROM " + tabela(p) + " WHERE rowid=?"; });
         i.wiaz(0, z.nrWiersza).wykonaj();

@@ -8,6 +8,8 @@
 #include "rules/Wzory.h"
 #include "start/BazaIni.h"
 #include "store/OpisStruktury.h"
+#include "store/PakietZmian.h"
+#include "store/Schemat.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaZgoda.h"
 #include "zus/OdczytKedu.h"
@@ -215,6 +217,43 @@ TEST_F(CzytnikiTest, Collection) {
                  }
              }
          }});
+}
+
+/// A packet of each kind of change, as an action would leave it.
+QByteArray pakietDziennika() {
+    PisarzPakietu p(QStringLiteral("US"), &schemat::US);
+    p.zmiana(RodzajZmiany::Nowy, 7);
+    for (std::size_t i = 0; i < schemat::US.kolumny.size(); ++i) {
+        if (i % 3 == 0) p.liczba(static_cast<qint64>(i) * 1000 - 5);
+        if (i % 3 == 1) p.tekst("Urząd");
+        if (i % 3 == 2) p.null();
+    }
+    p.zmiana(RodzajZmiany::Zmieniony, 8);
+    for (const int ile : {2, 1}) { // changed columns with both values, then the key
+        p.ile(static_cast<std::uint64_t>(ile));
+        for (int i = 0; i < ile; ++i) {
+            p.ile(static_cast<std::uint64_t>(i));
+            if (ile == 2) p.dzien(2'452'122);
+            p.rzeczywista(2.5);
+        }
+    }
+    p.zmiana(RodzajZmiany::UsunietaTabela, 0);
+    p.polecenia({"CREATE TABLE US (X)"});
+    return p.wydaj();
+}
+
+TEST_F(CzytnikiTest, JournalEntries) {
+    const QByteArray pakiet = pakietDziennika();
+    ASSERT_EQ(CzytajPakiet(pakiet).zmiany.size(), 3U);
+    sprawdz({"journal",
+             {pakiet, pakiet.left(pakiet.size() / 2)},
+             QByteArray("\x00\x01\x02\x03\x04\x05\x06\x7f\x80\xff", 10),
+             [](const QByteArray& bajty) {
+                 for (const ZmianaWiersza& z : CzytajPakiet(bajty).zmiany) {
+                     EXPECT_LE(z.kolumny.size(), 2000U);
+                     EXPECT_LE(z.klucz.size(), 2000U);
+                 }
+             }});
 }
 
 } // namespace
