@@ -29,6 +29,7 @@ void utworzArchiwum(frmMain& okno, const Otoczenie& o) {
     const auto zlecenie = TworzArchiwum(
         o.rozmowa, sciezkaBazy(o), FolderArchiwow(o.stale.ArchPath, folderDanych()), QDate::currentDate());
     if (!zlecenie) return;
+    DopiszArchiwum(o.sesja.cnPlace, *zlecenie);
     // The session is gone by then, the clerk's side is not.
     okno.zamknijBezPytania([zlecenie = *zlecenie, &rozmowa = o.rozmowa] {
         const OpisArchiwum archiwum = [&] {
@@ -123,7 +124,7 @@ void aktualizuj(frmMain& okno, Otoczenie& o) {
 } // namespace
 
 OtoczenieAktualizacji aktualizacjaWOknach(QWidget* rodzic) {
-    OtoczenieAktualizacji wynik{folderDanych(), QDateTime::currentDateTime(), {}, {}, {}};
+    OtoczenieAktualizacji wynik{folderDanych(), QDateTime::currentDateTime(), {}, {}};
     wynik.pokazTrwa = [rodzic] {
         auto inform = std::make_shared<frmInform>(rodzic);
         inform->pokaz();

@@ -22,6 +22,7 @@ int archiwum(Wywolanie& w) {
     const auto zlecenie = TworzArchiwum(w.rozmowa, o.sesja.cnPlace.sciezka(),
                                         FolderArchiwow(o.stale.ArchPath, w.folderProgramu), dzis, nazwa);
     if (!zlecenie) return status::Odmowa;
+    DopiszArchiwum(o.sesja.cnPlace, *zlecenie);
     w.zamknijBaze();
     const OpisArchiwum wynik = SkopiujDoArchiwum(*zlecenie);
     w.rozmowa.komunikat(

@@ -39,14 +39,11 @@ int zapisz(Wywolanie& w) {
 int aktualizuj(Wywolanie& w) {
     OtwartyPlik plik(w);
     if (!w.rozmowa.pytanie(QStringLiteral("Czy na pewno aktualizować bazę danych ?"))) return status::Odmowa;
-    const OtoczenieAktualizacji otoczenie{folder(w),
-                                          QDateTime::currentDateTime(),
-                                          {},
-                                          [&w](const QString&, QString raport) {
-                                              w.pisz(raport.remove(u'\r'));
-                                              return true;
-                                          },
-                                          {}};
+    const OtoczenieAktualizacji otoczenie{
+        folder(w), QDateTime::currentDateTime(), {}, [&w](const QString&, QString raport) {
+            w.pisz(raport.remove(u'\r'));
+            return true;
+        }};
     const WynikAktualizacji wynik = AktualizujBaze(plik.polaczenie, otoczenie, w.rozmowa);
     if (!wynik.kopia.isEmpty())
         w.rozmowa.komunikat(QStringLiteral("Baza sprzed aktualizacji jest w pliku „%1”.").arg(wynik.kopia),

@@ -2,6 +2,7 @@
 #include "common/Blad.h"
 #include "common/Pliki.h"
 #include "common/PolaKedu.h"
+#include "store/Dziennik.h"
 #include "store/KopiaPliku.h"
 #include "store/ZmianaStruktury.h"
 #include <algorithm>
@@ -206,7 +207,9 @@ WynikAktualizacji AktualizujBaze(Polaczenie& polaczenie, const OtoczenieAktualiz
         const std::shared_ptr<void> trwa = otoczenie.pokazTrwa ? otoczenie.pokazTrwa() : nullptr;
         Aktualizacja aktualizacja(polaczenie, otoczenie, rozmowa);
         wynik = aktualizacja.wykonaj();
-        if (wynik.zmian > 0 && otoczenie.poZmianie) otoczenie.poZmianie(polaczenie);
+        if (wynik.zmian > 0)
+            ZakonczLancuch(polaczenie, QStringLiteral("Aktualizacja struktury bazy danych"),
+                           otoczenie.chwila);
         raport = aktualizacja.raport();
         ZapiszRaport(plik, raport);
     }

@@ -24,8 +24,6 @@ struct OtoczenieAktualizacji {
     std::function<std::shared_ptr<void>()> pokazTrwa;
     /// Shows the report, whose text stands in `plik`; false if it cannot be opened.
     std::function<bool(const QString& plik, const QString& tekst)> pokazRaport;
-    /// What happens to the open database once the first change was made. May be empty.
-    std::function<void(store::Polaczenie&)> poZmianie;
 };
 
 /// How an update ended.
@@ -38,8 +36,8 @@ struct WynikAktualizacji {
 /// `AktualizujBaze`, without the question before it: compares the two files of `folder` with the open
 /// database, adds and changes what differs, drops nothing, writes `Aktua.log` and asks whether to show it. A
 /// failed statement is told and reported, and the run goes on; each statement is done or left, and what was
-/// changed stays. Every handle of the database must be closed. Tables of payroll months are not touched.
-/// Throws `Blad` when the report cannot be written.
+/// changed stays; with it the chain of undo ends. Every handle of the database must be closed. Tables of
+/// payroll months are not touched. Throws `Blad` when the report cannot be written.
 WynikAktualizacji AktualizujBaze(store::Polaczenie& polaczenie, const OtoczenieAktualizacji& otoczenie,
                                  common::Rozmowa& rozmowa);
 

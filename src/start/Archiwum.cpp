@@ -2,6 +2,7 @@
 #include "common/Blad.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
+#include "store/Dziennik.h"
 #include "store/KopiaPliku.h"
 #include "store/WersjaPliku.h"
 #include <algorithm>
@@ -183,6 +184,11 @@ OpisArchiwum ZnajdzArchiwum(const QString& bazowy, const QString& nazwa) {
     throw Blad(QStringLiteral("Nie ma archiwum „%1” w katalogu „%2”.").arg(nazwa, bazowy));
 }
 
+void DopiszArchiwum(Polaczenie& polaczenie, const ZlecenieArchiwum& zlecenie) {
+    if (ZapisDziennika* dziennik = polaczenie.dziennik())
+        dziennik->dopiszZdarzenie(QStringLiteral("Tworzenie archiwum w pliku %1").arg(zlecenie.plik()));
+}
+
 bool ZgodaNaPrzywrocenie(Rozmowa& rozmowa, const OpisArchiwum& archiwum, const QString& baza) {
     if (!archiwum.uwaga.isEmpty()) {
         rozmowa.komunikat(
@@ -197,8 +203,7 @@ bool ZgodaNaPrzywrocenie(Rozmowa& rozmowa, const OpisArchiwum& archiwum, const Q
             .arg(archiwum.katalog, FormatDaty(archiwum.data.date()), NapisTresci(archiwum), baza));
 }
 
-QString PrzywrocArchiwum(const QString& baza, const QString& archiwum, const QDateTime& chwila,
-                         const PrzedPrzywroceniem& przed) {
+QString PrzywrocArchiwum(const QString& baza, const QString& archiwum, const QDateTime& chwila) {
     const QString czesc = niegotowa(baza);
     auto bezSladu = qScopeGuard([&] { UsunPlikBazy(czesc); });
     QString kopia;
@@ -210,9 +215,10 @@ QString PrzywrocArchiwum(const QString& baza, const QString& archiwum, const QDa
         sprawdzKopie(archiwum, czesc);
         if (PodgladPliku(czesc).wersja() > static_cast<int>(KrokiWersji().size()))
             throw BladBazy(QStringLiteral("Plik „%1” zapisał nowszy program.").arg(archiwum));
-        if (przed) {
+        {
             Polaczenie polaczenie(czesc, Polaczenie::Sposob::Istniejaca);
-            przed(polaczenie);
+            ZakonczLancuch(polaczenie, QStringLiteral("Przywrócenie archiwum z pliku %1").arg(archiwum),
+                           chwila);
         }
         QFile::remove(dziennikPliku(czesc));
         kopia = odlozObecna(baza, chwila);

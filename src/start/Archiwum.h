@@ -2,7 +2,6 @@
 #pragma once
 #include "rules/Otoczenie.h"
 #include "store/StanPliku.h"
-#include <functional>
 #include <optional>
 #include <QDateTime>
 #include <QList>
@@ -42,6 +41,9 @@ struct OpisArchiwum {
     QString uwaga; ///< why it cannot be taken; empty for a good one
 };
 
+/// The entry of the journal, while the database is still open, so that the archive holds it too.
+void DopiszArchiwum(Polaczenie& polaczenie, const ZlecenieArchiwum& zlecenie);
+
 /// Copies the database, which must be closed, and checks the copy: size, the engine's check of each table,
 /// the number of rows of each table. Throws `BladBazy`; nothing of the copy is left then.
 [[nodiscard]] OpisArchiwum SkopiujDoArchiwum(const ZlecenieArchiwum& zlecenie);
@@ -61,16 +63,13 @@ struct OpisArchiwum {
 /// a message.
 [[nodiscard]] bool ZgodaNaPrzywrocenie(Rozmowa& rozmowa, const OpisArchiwum& archiwum, const QString& baza);
 
-/// What happens to the archive's data before it becomes the database, in an action of its own.
-using PrzedPrzywroceniem = std::function<void(Polaczenie& przywracana)>;
-
 /// Puts the archive in the place of the database, which must be closed: checks the archive, copies the
-/// present file aside, makes a checked copy of the archive beside it, and changes the two at once. Killed at
+/// present file aside, makes a checked copy of the archive beside it, in which the chain of undo ends, and
+/// changes the two at once. Killed at
 /// any moment, the program finds at its next start the old file or, by `DokonczPrzywracanie`, the archive.
 /// Gives the path of the old file's copy, empty if there was none. Throws `BladBazy`; the database is then as
 /// it was.
-QString PrzywrocArchiwum(const QString& baza, const QString& archiwum, const QDateTime& chwila,
-                         const PrzedPrzywroceniem& przed = {});
+QString PrzywrocArchiwum(const QString& baza, const QString& archiwum, const QDateTime& chwila);
 
 /// Finishes a restore that was decided and cut off; to be run before the database is opened. Whether there
 /// was one. Throws `BladBazy`.

@@ -134,17 +134,20 @@ qint64 PrzytnijDziennik(Polaczenie& polaczenie, QDate przed) {
     return ile;
 }
 
-void ZakonczLancuch(Polaczenie& polaczenie, const QString& powod) {
+void ZakonczLancuch(Polaczenie& polaczenie, const QString& powod, const QDateTime& kiedy) {
     if (!polaczenie.jestTabela(napis(schemat::DZIENNIK.nazwa))) return;
     Transakcja akcja(polaczenie, powod);
     Instrukcja zamknij(polaczenie, "UPDATE DZIENNIK SET STAN=? WHERE STAN=?");
     for (const auto& [z, na] : {std::pair(StanWpisu::Wykonana, StanWpisu::Zamknieta),
                                 std::pair(StanWpisu::Cofnieta, StanWpisu::Odcieta)})
         zamknij.wiaz(0, static_cast<qint64>(na)).wiaz(1, static_cast<qint64>(z)).wykonaj();
-    if (ZapisDziennika* dziennik = polaczenie.dziennik())
+    if (ZapisDziennika* dziennik = polaczenie.dziennik()) {
         dziennik->dopiszZdarzenie(powod);
-    else
-        ZapisDziennika(polaczenie).dopiszZdarzenie(powod);
+    } else {
+        ZapisDziennika zapis(polaczenie);
+        zapis.UstawZegar([&] { return kiedy; });
+        zapis.dopiszZdarzenie(powod);
+    }
     akcja.zatwierdz();
 }
 

@@ -55,7 +55,8 @@ qint64 PrzytnijDziennik(Polaczenie& polaczenie, QDate przed);
 
 /// Nothing that was done so far can be undone or made again: the file is no longer the one that the entries
 /// are about. `powod` becomes an entry, as "Aktualizacja struktury bazy danych". A part of the open action,
-/// or one of its own; also on a connection that keeps no journal, and on a file without one it does nothing.
-void ZakonczLancuch(Polaczenie& polaczenie, const QString& powod);
+/// or one of its own; also on a connection that keeps no journal (then `kiedy` is the entry's time), and on a
+/// file without one it does nothing.
+void ZakonczLancuch(Polaczenie& polaczenie, const QString& powod, const QDateTime& kiedy = {});
 
 } // namespace tornel::store

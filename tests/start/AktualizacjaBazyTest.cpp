@@ -37,8 +37,8 @@ protected:
     QString raport() {
         rozmowa_.spodziewaj(kPytanieRaportu, Odpowiedz::Nie);
         sesja().PrzyZamknietychUchwytach([&] {
-            wynik_ = AktualizujBaze(
-                baza(), {folder_.path(), QDateTime({2001, 7, 31}, {15, 4, 5}), {}, {}, {}}, rozmowa_);
+            wynik_ = AktualizujBaze(baza(), {folder_.path(), QDateTime({2001, 7, 31}, {15, 4, 5}), {}, {}},
+                                    rozmowa_);
         });
         EXPECT_TRUE(rozmowa_.gotowa());
         QFile plik(folder_.filePath(u"Aktua.log"_s));

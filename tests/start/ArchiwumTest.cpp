@@ -4,6 +4,7 @@
 #include "common/Blad.h"
 #include "personnel/Pracownicy.h"
 #include "start/BazaIni.h"
+#include "store/Cofanie.h"
 #include "store/Polaczenie.h"
 #include "store/Struktura.h"
 #include "wsparcie/BazaTestowa.h"
@@ -195,9 +196,11 @@ TEST_F(ArchiwumTest, ARestoredDatabaseIsTheArchiveAndTheOldOneStandsAside) {
     const QString kopia = PrzywrocArchiwum(sciezka(), opis.plik, QDateTime(kDzien, {12, 0}));
     EXPECT_EQ(kopia, folder_.filePath(u"Tornel-przed-przywroceniem-20010731-120000.mdb"_s));
     EXPECT_TRUE(bajty(kopia) == przed);
-    EXPECT_TRUE(bajty(sciezka()) == bajty(opis.plik));
     otworz();
     EXPECT_EQ(sesja().rsPRACDP.RecordCount(), 1);
+    EXPECT_FALSE(Cofanie(sesja().cnPlace).nastepna(Kierunek::Cofnij)) << "its actions belong to the archive";
+    EXPECT_EQ(WpisyDziennika(sesja().cnPlace).first().czynnosc,
+              u"Przywrócenie archiwum z pliku "_s + opis.plik);
     const auto lista = ListaArchiwow(bazowy());
     ASSERT_EQ(lista.size(), 1);
     EXPECT_EQ(lista.first().katalog, u"pierwsze"_s);
