@@ -63,22 +63,16 @@ int pit4Kontrola(Wywolanie& w) {
     return zgodne ? status::Wykonane : status::Odmowa;
 }
 
-/// A yearly declaration: how it is filled and where its working row is.
-struct DeklaracjaRoczna {
-    void (*wypelnij)(Otoczenie& otoczenie, qint64 prcId, const tax::OkresPodatkowy& okres, QDate dzis);
-    Recordset Sesja::*uchwyt;
-};
-
-int roczna(Wywolanie& w, const DeklaracjaRoczna& deklaracja) {
+int roczna(Wywolanie& w, tax::Deklaracja ktora) {
     const Argumenty& a = w.argumenty;
     const QString od = QStringLiteral("od"), dokad = QStringLiteral("do");
     if (!a.ma(od) || !a.ma(dokad)) throw ZleUzycie(QStringLiteral("Podaj --od RRRR-MM i --do RRRR-MM."));
     const tax::OkresPodatkowy okres{miesiacZTekstu(a.wartosc(od)), miesiacZTekstu(a.wartosc(dokad))};
     if (okres.od > okres.dokad) throw ZleUzycie(QStringLiteral("Zakres dat jest nieprawidłowy."));
     Otoczenie& o = w.otoczenie();
-    deklaracja.wypelnij(o, numerPracownikaZTekstu(a.pozycje[0]), okres, QDate::currentDate());
-    const Recordset& rs = o.sesja.*deklaracja.uchwyt;
-    const tax::SumyZrodel s = tax::SumujZrodla(rs);
+    tax::WypelnijDeklaracje(o, ktora, numerPracownikaZTekstu(a.pozycje[0]), okres, QDate::currentDate());
+    const Recordset& rs = o.sesja.*tax::Rodzaj(ktora).uchwyt;
+    const tax::SumyZrodel s = tax::SumujZrodla(tax::WierszDeklaracji(ktora, rs));
     PiszWiersz(w, rs,
                {{QStringLiteral("SPRZY"), s.SPRZY},
                 {QStringLiteral("SKUP"), s.SKUP},
@@ -87,9 +81,9 @@ int roczna(Wywolanie& w, const DeklaracjaRoczna& deklaracja) {
     return status::Wykonane;
 }
 
-int pit11(Wywolanie& w) { return roczna(w, {tax::WypelnijPit11, &Sesja::rsPIT11}); }
-int pit40(Wywolanie& w) { return roczna(w, {tax::WypelnijPit40, &Sesja::rsPIT40}); }
-int pit8b(Wywolanie& w) { return roczna(w, {tax::WypelnijPit8B, &Sesja::rsPIT8B}); }
+int pit11(Wywolanie& w) { return roczna(w, tax::Deklaracja::Pit11); }
+int pit40(Wywolanie& w) { return roczna(w, tax::Deklaracja::Pit40); }
+int pit8b(Wywolanie& w) { return roczna(w, tax::Deklaracja::Pit8B); }
 
 } // namespace
 

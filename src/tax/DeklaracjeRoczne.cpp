@@ -1,17 +1,12 @@
 #include "tax/DeklaracjeRoczne.h"
 #include "common/Blad.h"
 #include "rules/Wzory.h"
-#include "store/Sesja.h"
-#include "tax/Platnik.h"
 #include <string>
 #include <string_view>
 
 namespace tornel::tax {
 
 using schemat::HON;
-using schemat::PIT11;
-using schemat::PIT40;
-using schemat::PIT8B;
 using schemat::UOD;
 using schemat::UZL;
 
@@ -25,95 +20,102 @@ constexpr int kZPraw = 9;
 /// The columns of amounts; not every line of PIT-11 has costs.
 constexpr std::string_view kPrzychod = "przy_", kKoszt = "kup_", kDochod = "dochod_", kZaliczka = "pob_zal_";
 
-std::string nazwaKwoty(std::string_view kolumna, int zrodlo) {
-    return std::string(kolumna) + std::to_string(zrodlo);
-}
-
-Waluta sumaKolumny(const Recordset& rs, std::string_view kolumna) {
+Waluta sumaKolumny(const WierszDeklaracji& d, std::string_view kolumna) {
     Waluta suma;
     const auto dodaj = [&](const std::string& nazwa) {
-        const int nr = rs.tabela().numer(nazwa);
-        if (nr >= 0) suma += rs.kwota(rs.tabela().nr(nr));
+        if (d.ma(nazwa)) suma += d.kwota(nazwa);
     };
-    for (int n = 1; n <= kZrodel; ++n) dodaj(nazwaKwoty(kolumna, n));
+    for (int n = 1; n <= kZrodel; ++n) dodaj(std::string(kolumna) + std::to_string(n));
     dodaj(std::string(kolumna) + "1a");
     return suma;
 }
 
-/// All amounts that the declaration has, back to zero.
-void wyzerujKwoty(Recordset& rs) {
-    for (int nr = 0; nr < static_cast<int>(rs.tabela().kolumny.size()); ++nr)
-        if (const Kolumna k = rs.tabela().nr(nr); k.def().typ == Typ::Currency) rs.ustaw(k, Waluta{});
+void wpiszZrodlo(WierszDeklaracji& d, int n, Waluta przychod, Waluta koszty, Waluta zaliczka) {
+    d.ustaw(kPrzychod, n, przychod);
+    d.ustaw(kKoszt, n, koszty);
+    d.ustaw(kDochod, n, przychod - koszty);
+    d.ustaw(kZaliczka, n, zaliczka);
 }
 
-void wpiszZrodlo(Recordset& rs, int n, Waluta przychod, Waluta koszty, Waluta zaliczka) {
-    const auto pole = [&](std::string_view nazwa) { return KolumnaDeklaracji(rs, nazwaKwoty(nazwa, n)); };
-    rs.ustaw(pole(kPrzychod), przychod);
-    rs.ustaw(pole(kKoszt), koszty);
-    rs.ustaw(pole(kDochod), przychod - koszty);
-    rs.ustaw(pole(kZaliczka), zaliczka);
+void wpiszSkladki(WierszDeklaracji& d, Waluta spoleczne, Waluta pobrane, Waluta odliczone) {
+    d.ustaw("Skladki", spoleczne);
+    d.ustaw("skl_pob", pobrane);
+    d.ustaw("skl_odl", odliczone);
 }
 
-void wpiszSkladki(Recordset& rs, Waluta spoleczne, Waluta pobrane, Waluta odliczone) {
-    rs.ustaw(KolumnaDeklaracji(rs, "Skladki"), spoleczne);
-    rs.ustaw(KolumnaDeklaracji(rs, "skl_pob"), pobrane);
-    rs.ustaw(KolumnaDeklaracji(rs, "skl_odl"), odliczone);
-}
-
-/// Income of PIT-11 and PIT-40. `UBZDR` is entered as withheld and `UBZDR_NAL` as deducted, against what the
-/// captions say: deliberate.
-void wpiszDochody(Otoczenie& o, Recordset& rs, qint64 prcId, const OkresPodatkowy& okres) {
-    const SumyPlac place = SumyPracownika(o.sesja, okres, prcId);
-    const SumyUmow umowy = SumujUmowy(o.sesja, UZL, okres, prcId);
-    wyzerujKwoty(rs);
-    wpiszZrodlo(rs, kZPlac, place.przychod, place.koszty, place.zaliczka);
-    wpiszZrodlo(rs, kZUmow, umowy.brutto, umowy.koszty, umowy.podatek);
-    wpiszSkladki(rs, place.skladki + umowy.skladki, place.ubzdr + umowy.ubzdr, place.ubzdr_nal + umowy.ubzdr);
-}
-
-/// Fills the working row and stores it; a failure leaves the row as it was.
-template <typename Wypelnij>
-void wypelnij(Otoczenie& o, Recordset& rs, QStringView czynnosc, qint64 prcId, QDate dzis, Wypelnij kwoty) {
-    try {
-        WpiszNaglowekRoczny(o.sesja, rs, o.stale, prcId, dzis);
-        kwoty();
-        rs.UpdateBatch(czynnosc);
-    } catch (...) {
-        if (rs.otwarty()) rs.CancelBatch();
-        throw;
-    }
+template <typename Suma>
+QHash<qint64, Suma> jednego(qint64 prcId, const Suma& suma) {
+    return {{prcId, suma}};
 }
 
 } // namespace
 
-SumyZrodel SumujZrodla(const Recordset& deklaracja) {
+SumyZrodel SumujZrodla(const WierszDeklaracji& deklaracja) {
     return {sumaKolumny(deklaracja, kPrzychod), sumaKolumny(deklaracja, kKoszt),
             sumaKolumny(deklaracja, kDochod), sumaKolumny(deklaracja, kZaliczka)};
 }
 
-void WypelnijPit11(Otoczenie& o, qint64 prcId, const OkresPodatkowy& okres, QDate dzis) {
-    Recordset& rs = o.sesja.rsPIT11;
-    wypelnij(o, rs, u"Informacja PIT-11", prcId, dzis, [&] {
-        wpiszDochody(o, rs, prcId, okres);
-        rs.ustaw(PIT11("kuz1"), QStringLiteral("x"));
-        rs.ustaw(PIT11("kuz2"), QStringLiteral(" "));
-        rs.ustaw(PIT11("kuz3"), QStringLiteral(" "));
-        rs.ustaw(PIT11("pitrtak"), QString(o.stale.PITCzyPITr ? u'x' : u' '));
-        rs.ustaw(PIT11("pitrnie"), QString(o.stale.PITCzyPITr ? u' ' : u'x'));
-    });
+DaneRoczne::DaneRoczne(Otoczenie& o, Deklaracja ktora, const OkresPodatkowy& okres,
+                       std::optional<qint64> jeden)
+    : o_(o), ktora_(ktora), podatnicy_(o.sesja, jeden) {
+    const auto umowy = [&](const TabelaDef& tabela) {
+        return jeden ? jednego(*jeden, SumujUmowy(o.sesja, tabela, okres, *jeden))
+                     : SumujUmowyWszystkich(o.sesja, tabela, okres);
+    };
+    zlecenia_ = umowy(UZL);
+    if (ktora == Deklaracja::Pit8B) {
+        const auto dziela = umowy(UOD);
+        for (auto i = dziela.begin(); i != dziela.end(); ++i) zlecenia_[i.key()] += i.value();
+        prawa_ = umowy(HON);
+    } else {
+        place_ =
+            jeden ? jednego(*jeden, SumyPracownika(o.sesja, okres, *jeden)) : SumyWszystkich(o.sesja, okres);
+    }
 }
 
-void WypelnijPit8B(Otoczenie& o, qint64 prcId, const OkresPodatkowy& okres, QDate dzis) {
-    Recordset& rs = o.sesja.rsPIT8B;
-    wypelnij(o, rs, u"Informacja PIT-8B", prcId, dzis, [&] {
-        SumyUmow umowy = SumujUmowy(o.sesja, UZL, okres, prcId);
-        umowy += SumujUmowy(o.sesja, UOD, okres, prcId);
-        const SumyUmow prawa = SumujUmowy(o.sesja, HON, okres, prcId);
-        wyzerujKwoty(rs);
-        wpiszZrodlo(rs, kZUmow, umowy.brutto, umowy.koszty, umowy.podatek);
-        wpiszZrodlo(rs, kZPraw, prawa.brutto, prawa.koszty, prawa.podatek);
-        wpiszSkladki(rs, umowy.skladki, umowy.ubzdr, umowy.ubzdr);
-    });
+WierszDeklaracji DaneRoczne::wypelnij(qint64 prcId, QDate dzis) const {
+    WierszDeklaracji d(ktora_);
+    WpiszPlatnikaRocznej(d, o_.stale, dzis);
+    podatnicy_.wpisz(d, prcId);
+    const SumyPlac place = place_.value(prcId);
+    const SumyUmow umowy = zlecenia_.value(prcId);
+    wpiszZrodlo(d, kZUmow, umowy.brutto, umowy.koszty, umowy.podatek);
+    if (ktora_ == Deklaracja::Pit8B) {
+        const SumyUmow prawa = prawa_.value(prcId);
+        wpiszZrodlo(d, kZPraw, prawa.brutto, prawa.koszty, prawa.podatek);
+    } else {
+        wpiszZrodlo(d, kZPlac, place.przychod, place.koszty, place.zaliczka);
+    }
+    // `UBZDR` is entered as withheld and `UBZDR_NAL` as deducted, against what the captions say: deliberate.
+    wpiszSkladki(d, place.skladki + umowy.skladki, place.ubzdr + umowy.ubzdr, place.ubzdr_nal + umowy.ubzdr);
+    if (ktora_ == Deklaracja::Pit11) {
+        d.ustaw("kuz1", QStringLiteral("x"));
+        d.ustaw("kuz2", QStringLiteral(" "));
+        d.ustaw("kuz3", QStringLiteral(" "));
+        d.ustaw("pitrtak", QString(o_.stale.PITCzyPITr ? u'x' : u' '));
+        d.ustaw("pitrnie", QString(o_.stale.PITCzyPITr ? u' ' : u'x'));
+    }
+    if (ktora_ == Deklaracja::Pit40) RozliczPit40(o_, d);
+    return d;
+}
+
+void WypelnijDeklaracje(Otoczenie& o, Deklaracja ktora, qint64 prcId, const OkresPodatkowy& okres,
+                        QDate dzis) {
+    const RodzajDeklaracji& rodzaj = Rodzaj(ktora);
+    const WierszDeklaracji wypelniona = DaneRoczne(o, ktora, okres, prcId).wypelnij(prcId, dzis);
+    Recordset& rs = o.sesja.*rodzaj.uchwyt;
+    if (!rs.otwarty()) rs.Open(o.sesja.cnPlace);
+    try {
+        if (rs.RecordCount() == 0)
+            rs.AddNewZero();
+        else
+            rs.MoveFirst();
+        wypelniona.przepisz(rs);
+        rs.UpdateBatch(QStringLiteral("Deklaracja %1, pracownik nr %2").arg(rodzaj.nazwa).arg(prcId));
+    } catch (...) {
+        rs.CancelBatch();
+        throw;
+    }
 }
 
 Waluta PodatekWedlugSkali(Otoczenie& o, Waluta podst) {
@@ -142,20 +144,15 @@ RozliczenieRoku Rozlicz(Otoczenie& o, Waluta dochod, Waluta skladki, Waluta ubzd
     return r;
 }
 
-void WypelnijPit40(Otoczenie& o, qint64 prcId, const OkresPodatkowy& okres, QDate dzis) {
-    Recordset& rs = o.sesja.rsPIT40;
-    wypelnij(o, rs, u"Rozliczenie PIT-40", prcId, dzis, [&] {
-        wpiszDochody(o, rs, prcId, okres);
-        const SumyZrodel sumy = SumujZrodla(rs);
-        const RozliczenieRoku r =
-            Rozlicz(o, sumy.SDOCHOD, rs.kwota(PIT40("Skladki")), rs.kwota(PIT40("skl_odl")), sumy.SPOB_ZAL);
-        rs.ustaw(PIT40("doch_odl"), r.doch_odl);
-        rs.ustaw(PIT40("podst"), r.podst);
-        rs.ustaw(PIT40("pod_obl"), r.pod_obl);
-        rs.ustaw(PIT40("podatek"), r.podatek);
-        rs.ustaw(PIT40("nadplata"), r.nadplata);
-        rs.ustaw(PIT40("doplata"), r.doplata);
-    });
+void RozliczPit40(Otoczenie& o, WierszDeklaracji& d) {
+    const SumyZrodel sumy = SumujZrodla(d);
+    const RozliczenieRoku r = Rozlicz(o, sumy.SDOCHOD, d.kwota("Skladki"), d.kwota("skl_odl"), sumy.SPOB_ZAL);
+    d.ustaw("doch_odl", r.doch_odl);
+    d.ustaw("podst", r.podst);
+    d.ustaw("pod_obl", r.pod_obl);
+    d.ustaw("podatek", r.podatek);
+    d.ustaw("nadplata", r.nadplata);
+    d.ustaw("doplata", r.doplata);
 }
 
 } // namespace tornel::tax

@@ -1,8 +1,9 @@
 // The yearly declarations of an employee. Each has one working row, which every making fills anew, which the
-// screen edits and the print reads.
+// screen edits and the print reads; a series of many persons makes its rows one by one and stores none.
 #pragma once
 #include "rules/Otoczenie.h"
-#include "store/Recordset.h"
+#include "tax/Deklaracja.h"
+#include "tax/Platnik.h"
 #include "tax/Przychody.h"
 #include <QDate>
 
@@ -12,15 +13,34 @@ namespace tornel::tax {
 struct SumyZrodel {
     Waluta SPRZY, SKUP, SDOCHOD, SPOB_ZAL;
 };
-[[nodiscard]] SumyZrodel SumujZrodla(const Recordset& deklaracja);
+[[nodiscard]] SumyZrodel SumujZrodla(const WierszDeklaracji& deklaracja);
 
-/// PIT-11: payroll is line 1, commission contracts line 8. Fills `rsPIT11` and stores it. Reads `PLACE`, the
-/// months' `PLA`, `PLB`, `PLS`, then `UZL`, `PRACDP`, `PRACPR`, `US`. Throws `Blad` for an unknown employee.
-void WypelnijPit11(Otoczenie& otoczenie, qint64 prcId, const OkresPodatkowy& okres, QDate dzis);
+/// What the declarations of a span are made of, read once, whether for one employee or for everybody.
+class DaneRoczne {
+public:
+    /// PIT-11 and PIT-40 read `PLACE`, the months' `PLA`, `PLB`, `PLS`, and `UZL`; PIT-8B reads `UZL`, `UOD`,
+    /// `HON`; all of them `PRACDP`, `PRACPR`, `US`. Throws `BladBazy`, `Blad`.
+    DaneRoczne(Otoczenie& otoczenie, Deklaracja ktora, const OkresPodatkowy& okres,
+               std::optional<qint64> jeden = {});
 
-/// PIT-8B, flat-rate tax: commissions and specific works are line 8, fees line 9. Fills and stores `rsPIT8B`.
-/// Reads `UZL`, `UOD`, `HON`, `PRACDP`, `PRACPR`, `US`.
-void WypelnijPit8B(Otoczenie& otoczenie, qint64 prcId, const OkresPodatkowy& okres, QDate dzis);
+    /// A declaration of the employee. PIT-11: payroll is line 1, commission contracts line 8. PIT-40: the
+    /// same and its settlement. PIT-8B, flat-rate tax: commissions and specific works are line 8, fees line
+    /// 9. Throws `Blad` for an unknown employee, and for a scale that cannot be computed.
+    [[nodiscard]] WierszDeklaracji wypelnij(qint64 prcId, QDate dzis) const;
+    [[nodiscard]] const Podatnicy& podatnicy() const { return podatnicy_; }
+
+private:
+    Otoczenie& o_;
+    Deklaracja ktora_;
+    Podatnicy podatnicy_;
+    QHash<qint64, SumyPlac> place_;
+    QHash<qint64, SumyUmow> zlecenia_, prawa_;
+};
+
+/// Makes the employee's declaration the working row of its table and stores it. Throws as above; the row is
+/// then as it was.
+void WypelnijDeklaracje(Otoczenie& otoczenie, Deklaracja ktora, qint64 prcId, const OkresPodatkowy& okres,
+                        QDate dzis);
 
 /// The settlement of the year, zł.
 struct RozliczenieRoku {
@@ -37,8 +57,7 @@ struct RozliczenieRoku {
 /// Settles `dochod`. `ubzdr` is what may be deducted, `zaliczki` what was paid.
 [[nodiscard]] RozliczenieRoku Rozlicz(Otoczenie& otoczenie, Waluta dochod, Waluta skladki, Waluta ubzdr,
                                       Waluta zaliczki);
-
-/// PIT-40: the income of PIT-11 and its settlement. Fills and stores `rsPIT40`.
-void WypelnijPit40(Otoczenie& otoczenie, qint64 prcId, const OkresPodatkowy& okres, QDate dzis);
+/// Settles a PIT-40 by the amounts that it holds.
+void RozliczPit40(Otoczenie& otoczenie, WierszDeklaracji& deklaracja);
 
 } // namespace tornel::tax

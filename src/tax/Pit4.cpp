@@ -115,26 +115,28 @@ std::optional<KluczPit4> Pit4::Nowy(const KluczPit4& nowy, const QString& listy,
 }
 
 void Pit4::wpiszNowa(const KluczPit4& nowy, const QString& listy, const Wiersz1Pit4& sumy, QDate dzis) {
+    WierszDeklaracji d(Deklaracja::Pit4);
+    for (const auto& [pole, liczba] : {std::pair{"Rok", nowy.miesiac.rok},
+                                       {"Mies", nowy.miesiac.mies},
+                                       {"id_dekl", nowy.numer},
+                                       {"rok_tyt", nowy.miesiac.rok},
+                                       {"mies_tyt", nowy.miesiac.mies},
+                                       {"przy_1", sumy.podatnikow}})
+        d.ustaw(pole, qint64{liczba});
+    d.ustaw("Listy", listy);
+    for (int n = 1; n <= wierszPit4::DoPozycji; ++n)
+        if (n <= wierszPit4::Zrodel || n >= wierszPit4::OdPozycji) d.ustaw("nr_p_", n, qint64{n});
+    d.ustaw("kup_1", sumy.przychod);
+    d.ustaw("pob_zal_1", sumy.zaliczka);
+    d.ustaw("ubzdr_pob1", sumy.ubzdr);
+    d.ustaw("ubzdr_odl1", sumy.ubzdr);
+    WpiszPlatnika(d, o_.stale);
+    d.ustaw("us", o_.stale.PITUs);
+    d.ustaw("pla_niefiz", QString(o_.stale.OsFizyczna ? u' ' : u'x'));
+    d.ustaw("pla_fiz", QString(o_.stale.OsFizyczna ? u'x' : u' '));
+    d.ustaw("Data", dzis);
     rs_.AddNewZero();
-    rs_.ustaw(PIT4("Rok"), nowy.miesiac.rok);
-    rs_.ustaw(PIT4("Mies"), nowy.miesiac.mies);
-    rs_.ustaw(PIT4("id_dekl"), nowy.numer);
-    rs_.ustaw(PIT4("rok_tyt"), nowy.miesiac.rok);
-    rs_.ustaw(PIT4("mies_tyt"), nowy.miesiac.mies);
-    rs_.ustaw(PIT4("Listy"), listy);
-    for (int n = 1; n <= wierszPit4::Zrodel; ++n) rs_.ustaw(wierszPit4::zrodlo(n, wierszPit4::nr_p), n);
-    for (int n = wierszPit4::OdPozycji; n <= wierszPit4::DoPozycji; ++n)
-        rs_.ustaw(wierszPit4::numerPozycji(n), n);
-    rs_.ustaw(PIT4("przy_1"), sumy.podatnikow);
-    rs_.ustaw(PIT4("kup_1"), sumy.przychod);
-    rs_.ustaw(PIT4("pob_zal_1"), sumy.zaliczka);
-    rs_.ustaw(PIT4("ubzdr_pob1"), sumy.ubzdr);
-    rs_.ustaw(PIT4("ubzdr_odl1"), sumy.ubzdr);
-    WpiszPlatnika(rs_, o_.stale);
-    rs_.ustaw(PIT4("us"), o_.stale.PITUs);
-    rs_.ustaw(PIT4("pla_niefiz"), QString(o_.stale.OsFizyczna ? u' ' : u'x'));
-    rs_.ustaw(PIT4("pla_fiz"), QString(o_.stale.OsFizyczna ? u'x' : u' '));
-    rs_.ustaw(PIT4("Data"), dzis);
+    d.przepisz(rs_);
 }
 
 bool Pit4::Usun(const KluczPit4& usuwany) {

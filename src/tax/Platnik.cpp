@@ -1,6 +1,5 @@
 #include "tax/Platnik.h"
 #include "common/Blad.h"
-#include "store/Sesja.h"
 #include "store/Zapytanie.h"
 
 namespace tornel::tax {
@@ -36,60 +35,82 @@ constexpr std::pair<std::string_view, Kolumna> kZKadr[] = {
     {"p_poczta", PRACDP("poczta")},
 };
 
-/// The name of the employee's tax office, empty without one.
-QString urzad(Sesja& sesja, qint64 prcId) {
-    PrzygotowaneZapytanie numer(
-        sesja.cnPlace, Zapytanie(PRACPR).kolumny(PRACPR("us_id")).gdzie(PRACPR("PRC_ID") == Parametr{0}));
-    auto pr = numer.uruchom(prcId);
-    if (!pr.nastepny()) return {};
-    PrzygotowaneZapytanie nazwa(sesja.cnPlace,
-                                Zapytanie(US).kolumny(US("Nazwa")).gdzie(US("US_ID") == Parametr{0}));
-    auto us = nazwa.uruchom(pr.liczba(PRACPR("us_id")));
-    return us.nastepny() ? us.tekst(US("Nazwa")) : QString();
+/// Runs a query for one employee, or over the table.
+template <typename Przyjmij>
+void czytajOsoby(Sesja& sesja, Zapytanie zapytanie, Kolumna numer, std::optional<qint64> jeden,
+                 Przyjmij przyjmij) {
+    if (jeden) zapytanie.gdzie(numer == Parametr{0});
+    PrzygotowaneZapytanie gotowe(sesja.cnPlace, zapytanie);
+    if (jeden)
+        for (auto w = gotowe.uruchom(*jeden); w.nastepny();) przyjmij(w);
+    else
+        for (auto w = gotowe.uruchom(); w.nastepny();) przyjmij(w);
 }
 
-void wpiszPodatnika(Sesja& sesja, Recordset& deklaracja, qint64 prcId) {
-    Zapytanie pytanie(PRACDP);
-    pytanie.kolumny(PRACDP("data_ur")).gdzie(PRACDP("PRC_ID") == Parametr{0});
-    for (const auto& [pole, zrodlo] : kZKadr) pytanie.kolumny(zrodlo);
-    PrzygotowaneZapytanie gotowe(sesja.cnPlace, pytanie);
-    auto osoba = gotowe.uruchom(prcId);
-    if (!osoba.nastepny()) throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
-    for (const auto& [pole, zrodlo] : kZKadr)
-        deklaracja.ustaw(KolumnaDeklaracji(deklaracja, pole), osoba.tekst(zrodlo));
-    deklaracja.ustaw(KolumnaDeklaracji(deklaracja, "data_ur"), osoba.data(PRACDP("data_ur")));
+QHash<qint64, QString> nazwyUrzedow(Sesja& sesja) {
+    QHash<qint64, QString> wynik;
+    czytajOsoby(
+        sesja, Zapytanie(US).kolumny(US("US_ID"), US("Nazwa")), US("US_ID"), {},
+        [&](const WierszeZapytania& w) { wynik.insert(w.liczba(US("US_ID")), w.tekst(US("Nazwa"))); });
+    return wynik;
 }
 
 } // namespace
 
-Kolumna KolumnaDeklaracji(const Recordset& deklaracja, std::string_view nazwa) {
-    const int nr = deklaracja.tabela().numer(nazwa);
-    if (nr < 0) throw std::logic_error("no such column in the declaration");
-    return deklaracja.tabela().nr(nr);
+void WpiszPlatnika(WierszDeklaracji& deklaracja, const Stale& stale) {
+    for (const auto& [pole, stala] : kZeStalych) deklaracja.ustaw(pole, stale.*stala);
 }
 
-void WpiszPlatnika(Recordset& deklaracja, const Stale& stale) {
-    for (const auto& [pole, stala] : kZeStalych)
-        deklaracja.ustaw(KolumnaDeklaracji(deklaracja, pole), stale.*stala);
-}
-
-void WpiszNaglowekRoczny(Sesja& sesja, Recordset& deklaracja, const Stale& stale, qint64 prcId, QDate dzis) {
-    if (!deklaracja.otwarty()) deklaracja.Open(sesja.cnPlace);
-    if (deklaracja.RecordCount() == 0)
-        deklaracja.AddNewZero();
-    else
-        deklaracja.MoveFirst();
-    wpiszPodatnika(sesja, deklaracja, prcId);
+void WpiszPlatnikaRocznej(WierszDeklaracji& deklaracja, const Stale& stale, QDate dzis) {
     WpiszPlatnika(deklaracja, stale);
-    const auto pole = [&](std::string_view nazwa) { return KolumnaDeklaracji(deklaracja, nazwa); };
-    deklaracja.ustaw(pole("us"), urzad(sesja, prcId));
-    deklaracja.ustaw(pole("skrot"), stale.NazwaSkroc);
-    deklaracja.ustaw(pole("reg_pes"), stale.REGON_PESEL);
-    deklaracja.ustaw(pole("od_d"), stale.PITOkresOd);
-    deklaracja.ustaw(pole("do_d"), stale.PITOkresDo);
-    deklaracja.ustaw(pole("rodzaj_pla1"), QString(stale.OsFizyczna ? u' ' : u'x'));
-    deklaracja.ustaw(pole("rodzaj_pla2"), QString(stale.OsFizyczna ? u'x' : u' '));
-    deklaracja.ustaw(pole("data_wyp"), dzis);
+    deklaracja.ustaw("skrot", stale.NazwaSkroc);
+    deklaracja.ustaw("reg_pes", stale.REGON_PESEL);
+    deklaracja.ustaw("od_d", stale.PITOkresOd);
+    deklaracja.ustaw("do_d", stale.PITOkresDo);
+    deklaracja.ustaw("rodzaj_pla1", QString(stale.OsFizyczna ? u' ' : u'x'));
+    deklaracja.ustaw("rodzaj_pla2", QString(stale.OsFizyczna ? u'x' : u' '));
+    deklaracja.ustaw("data_wyp", dzis);
 }
+
+Podatnicy::Podatnicy(Sesja& sesja, std::optional<qint64> jeden) {
+    Zapytanie dane(PRACDP);
+    dane.kolumny(PRACDP("PRC_ID"), PRACDP("data_ur"), PRACDP("Pesel"));
+    for (const auto& [pole, zrodlo] : kZKadr) dane.kolumny(zrodlo);
+    czytajOsoby(sesja, dane, PRACDP("PRC_ID"), jeden, [&](const WierszeZapytania& w) {
+        Podatnik& osoba = osoby_[w.liczba(PRACDP("PRC_ID"))];
+        for (const auto& [pole, zrodlo] : kZKadr) osoba.teksty.append(w.tekst(zrodlo));
+        osoba.urodzony = w.data(PRACDP("data_ur"));
+        osoba.pesel = w.tekst(PRACDP("Pesel"));
+    });
+    const QHash<qint64, QString> urzedy = nazwyUrzedow(sesja);
+    czytajOsoby(sesja, Zapytanie(PRACPR).kolumny(PRACPR("PRC_ID"), PRACPR("us_id")), PRACPR("PRC_ID"), jeden,
+                [&](const WierszeZapytania& w) {
+                    const auto osoba = osoby_.find(w.liczba(PRACPR("PRC_ID")));
+                    if (osoba != osoby_.end()) osoba->urzad = urzedy.value(w.liczba(PRACPR("us_id")));
+                });
+}
+
+void Podatnicy::wpisz(WierszDeklaracji& deklaracja, qint64 prcId) const {
+    const auto osoba = osoby_.constFind(prcId);
+    if (osoba == osoby_.constEnd()) throw Blad(QStringLiteral("Nie ma pracownika o numerze %1.").arg(prcId));
+    qsizetype nr = 0;
+    for (const auto& [pole, zrodlo] : kZKadr) deklaracja.ustaw(pole, osoba->teksty.at(nr++));
+    deklaracja.ustaw("data_ur", osoba->urodzony);
+    deklaracja.ustaw("us", osoba->urzad);
+}
+
+QString Podatnicy::nazwa(qint64 prcId) const {
+    const auto osoba = osoby_.constFind(prcId);
+    if (osoba == osoby_.constEnd()) return {};
+    QString wynik;
+    qsizetype nr = 0;
+    for (const auto& [pole, zrodlo] : kZKadr) {
+        if (pole == "Nazwisko" || pole == "imie1") wynik += u' ' + osoba->teksty.at(nr);
+        ++nr;
+    }
+    return wynik.trimmed();
+}
+
+QString Podatnicy::pesel(qint64 prcId) const { return osoby_.value(prcId).pesel; }
 
 } // namespace tornel::tax

@@ -1,28 +1,28 @@
 // The prints of declarations as a port: their screens offer what they are given, and know nothing of paper.
 #pragma once
-#include "common/Przestrzenie.h"
+#include "tax/Deklaracja.h"
 #include <functional>
-#include <memory>
-#include <QList>
 #include <QString>
 
 class QWidget;
 
 namespace tornel::tax {
 
-enum class Deklaracja { Pit4, Pit11, Pit40, Pit8B };
+/// Declarations of one kind, made when a page of theirs is drawn.
+struct SeriaStron {
+    Deklaracja ktora = Deklaracja::Pit11;
+    int ile = 0;
+    std::function<WierszDeklaracji(int nr)> wiersz = {}; ///< by its number, from 0
+};
 
 /// Each member may be empty, then it is not offered. They may throw `Blad`.
 struct PortWydrukowDeklaracji {
-    /// Prints or shows the current row of the declaration's handle (`rsPIT4`, `rsPIT11`, `rsPIT40`,
-    /// `rsPIT8B`), all its pages.
-    std::function<void(Deklaracja ktora, QWidget* rodzic)> drukuj = {};
-    /// Writes the declarations of these persons into one PDF; `wypelnij` makes the working row of the person
-    /// given current. True if the file stands whole.
-    std::function<bool(Deklaracja ktora, const QList<qint64>& osoby,
-                       const std::function<void(qint64 prcId)>& wypelnij, const QString& plik,
-                       QWidget* rodzic)>
-        doPdf = {};
+    /// Prints or shows one page of the form, 1 or 2.
+    std::function<void(const WierszDeklaracji& deklaracja, int strona, QWidget* rodzic)> drukuj = {};
+    /// Shows all pages of all the declarations, to be printed.
+    std::function<void(const SeriaStron& seria, QWidget* rodzic)> drukujSerie = {};
+    /// Writes them into one PDF, whole or not at all.
+    std::function<void(const SeriaStron& seria, const QString& plik)> doPdf = {};
 };
 
 } // namespace tornel::tax

@@ -146,7 +146,7 @@ TEST_F(DeklaracjeTest, PIT11IdzieMaskamiMiesiecyPrzezPrzerwe) {
     zlecenie(2, 2, {2002, 1, 1});
     zlecenie(3, 2, {});
 
-    WypelnijPit11(otoczenie(), 1, kRok, kDzis);
+    WypelnijDeklaracje(otoczenie(), Deklaracja::Pit11, 1, kRok, kDzis);
     const Recordset& rs = sesja().rsPIT11;
     EXPECT_EQ(rs.kwota(PIT11("przy_1")), zl(1515 + 1010));
     EXPECT_EQ(rs.kwota(PIT11("kup_1")), zl(206.5));
@@ -160,15 +160,15 @@ TEST_F(DeklaracjeTest, PIT11IdzieMaskamiMiesiecyPrzezPrzerwe) {
     EXPECT_EQ(wszyscy.value(1).zaliczka, zl(244.6));
 
     // Somebody without a payroll row, dismissed, with a contract: the same working row, filled anew.
-    WypelnijPit11(otoczenie(), 2, kRok, kDzis);
+    WypelnijDeklaracje(otoczenie(), Deklaracja::Pit11, 2, kRok, kDzis);
     EXPECT_EQ(rs.RecordCount(), 1);
     EXPECT_EQ(rs.kwota(PIT11("przy_1")), Waluta{});
     EXPECT_EQ(rs.kwota(PIT11("dochod_8")), zl(800));
     EXPECT_EQ(rs.kwota(PIT11("pob_zal_8")), zl(90.5));
     EXPECT_EQ(rs.kwota(PIT11("skl_odl")), zl(60));
-    EXPECT_EQ(SumujZrodla(rs).SPRZY, zl(1000));
+    EXPECT_EQ(SumujZrodla(WierszDeklaracji(Deklaracja::Pit11, rs)).SPRZY, zl(1000));
 
-    EXPECT_THROW(WypelnijPit11(otoczenie(), 99, kRok, kDzis), Blad);
+    EXPECT_THROW(WypelnijDeklaracje(otoczenie(), Deklaracja::Pit11, 99, kRok, kDzis), Blad);
     EXPECT_FALSE(rs.zmieniony());
 }
 
