@@ -4,6 +4,7 @@
 #include "app/frmMain.h"
 #include "app/frmMainArchiwum.h"
 #include "app/frmMainDziennik.h"
+#include "app/frmMainPodatki.h"
 #include "app/frmMainUmowy.h"
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmMainWydrukiListy.h"
@@ -62,6 +63,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     ZarejestrujZbiorowki(okno, otoczenie);
     ZarejestrujZus(okno, otoczenie);
     ZarejestrujUmowy(okno, otoczenie);
+    ZarejestrujPodatki(okno, otoczenie);
     ZarejestrujArchiwum(okno, otoczenie);
     ZarejestrujDziennik(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);

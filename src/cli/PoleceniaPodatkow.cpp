@@ -71,7 +71,7 @@ int roczna(Wywolanie& w, tax::Deklaracja ktora) {
     if (okres.od > okres.dokad) throw ZleUzycie(QStringLiteral("Zakres dat jest nieprawidłowy."));
     Otoczenie& o = w.otoczenie();
     tax::WypelnijDeklaracje(o, ktora, numerPracownikaZTekstu(a.pozycje[0]), okres, QDate::currentDate());
-    const Recordset& rs = o.sesja.*tax::Rodzaj(ktora).uchwyt;
+    const Recordset& rs = o.sesja.*tax::OpisDeklaracji(ktora).uchwyt;
     const tax::SumyZrodel s = tax::SumujZrodla(tax::WierszDeklaracji(ktora, rs));
     PiszWiersz(w, rs,
                {{QStringLiteral("SPRZY"), s.SPRZY},

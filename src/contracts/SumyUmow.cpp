@@ -2,6 +2,7 @@
 #include "store/Schemat.h"
 #include "store/Sesja.h"
 #include "store/Zapytanie.h"
+#include <algorithm>
 #include <utility>
 
 namespace tornel::contracts {
@@ -14,6 +15,30 @@ constexpr std::pair<std::string_view, Waluta SumyKwot::*> kSumowane[] = {
     {"Ubzdr", &SumyKwot::ubzdr},
 };
 
+/// The kind's contracts that were paid in the days, one after the other.
+template <typename Przyjmij>
+void czytajZaplacone(Sesja& sesja, const RodzajUmowy& rodzaj, QDate od, QDate dokad,
+                     std::optional<qint64> prcId, Przyjmij przyjmij) {
+    const Kolumna osoba = rodzaj.kolumna("prc_id"), zaplacona = rodzaj.kolumna("data_wyp");
+    Zapytanie pytanie(*rodzaj.tabela);
+    pytanie.kolumny(osoba, zaplacona, rodzaj.numer)
+        .gdzie(zaplacona >= Wartosc(od) && zaplacona <= Wartosc(dokad));
+    if (prcId) pytanie.gdzie(osoba == Wartosc(*prcId));
+    QList<std::pair<Kolumna, Waluta SumyKwot::*>> sumowane;
+    for (const auto& [nazwa, suma] : kSumowane) {
+        const Kolumna kolumna = rodzaj.kolumna(nazwa);
+        if (!kolumna.tabela) continue;
+        sumowane.append({kolumna, suma});
+        pytanie.kolumny(kolumna);
+    }
+    PrzygotowaneZapytanie gotowe(sesja.cnPlace, pytanie);
+    for (auto w = gotowe.uruchom(); w.nastepny();) {
+        SumyKwot kwoty;
+        for (const auto& [kolumna, suma] : std::as_const(sumowane)) kwoty.*suma = w.kwota(kolumna);
+        przyjmij(w, kwoty);
+    }
+}
+
 } // namespace
 
 SumyKwot& SumyKwot::operator+=(const SumyKwot& b) {
@@ -23,23 +48,20 @@ SumyKwot& SumyKwot::operator+=(const SumyKwot& b) {
 
 QHash<qint64, SumyKwot> SumujUmowy(Sesja& sesja, const RodzajUmowy& rodzaj, QDate od, QDate dokad,
                                    std::optional<qint64> prcId) {
-    const Kolumna osoba = rodzaj.kolumna("prc_id"), zaplacona = rodzaj.kolumna("data_wyp");
-    Zapytanie pytanie(*rodzaj.tabela);
-    pytanie.kolumny(osoba).gdzie(zaplacona >= Wartosc(od) && zaplacona <= Wartosc(dokad));
-    if (prcId) pytanie.gdzie(osoba == Wartosc(*prcId));
-    QList<std::pair<Kolumna, Waluta SumyKwot::*>> sumowane;
-    for (const auto& [nazwa, suma] : kSumowane) {
-        const Kolumna kolumna = rodzaj.kolumna(nazwa);
-        if (!kolumna.tabela) continue;
-        sumowane.append({kolumna, suma});
-        pytanie.kolumny(kolumna);
-    }
     QHash<qint64, SumyKwot> wynik;
-    PrzygotowaneZapytanie gotowe(sesja.cnPlace, pytanie);
-    for (auto w = gotowe.uruchom(); w.nastepny();) {
-        SumyKwot& sumy = wynik[w.liczba(osoba)];
-        for (const auto& [kolumna, suma] : std::as_const(sumowane)) sumy.*suma += w.kwota(kolumna);
-    }
+    czytajZaplacone(sesja, rodzaj, od, dokad, prcId, [&](const WierszeZapytania& w, const SumyKwot& kwoty) {
+        wynik[w.liczba(rodzaj.kolumna("prc_id"))] += kwoty;
+    });
+    return wynik;
+}
+
+QList<ZaplaconaUmowa> ZaplaconeUmowy(Sesja& sesja, const RodzajUmowy& rodzaj, QDate od, QDate dokad,
+                                     qint64 prcId) {
+    QList<ZaplaconaUmowa> wynik;
+    czytajZaplacone(sesja, rodzaj, od, dokad, prcId, [&](const WierszeZapytania& w, const SumyKwot& kwoty) {
+        wynik.append({w.tekst(rodzaj.numer), w.data(rodzaj.kolumna("data_wyp")), kwoty});
+    });
+    std::ranges::stable_sort(wynik, {}, &ZaplaconaUmowa::zaplacona);
     return wynik;
 }
 

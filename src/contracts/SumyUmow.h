@@ -26,6 +26,16 @@ struct SumyKwot {
 [[nodiscard]] QHash<qint64, SumyKwot> SumujUmowy(store::Sesja& sesja, const RodzajUmowy& rodzaj, QDate od,
                                                  QDate dokad, std::optional<qint64> prcId = {});
 
+/// One contract that was paid.
+struct ZaplaconaUmowa {
+    QString numer;
+    QDate zaplacona;
+    SumyKwot kwoty;
+};
+/// Those that the sums of one person are made of, by the day of payment.
+[[nodiscard]] QList<ZaplaconaUmowa> ZaplaconeUmowy(store::Sesja& sesja, const RodzajUmowy& rodzaj, QDate od,
+                                                   QDate dokad, qint64 prcId);
+
 /// Of one person's commission contracts; the other kinds do not count, deliberately. Zeros without any.
 [[nodiscard]] SumyKwot SumyUZL(store::Sesja& sesja, qint64 prcId, QDate od, QDate dokad);
 

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -79,10 +80,8 @@ QWidget* Wiazanie::siatka(const QList<Pole>& pola, int kolumn, BezPodpisu bezPod
 void Wiazanie::dodaj(const Pole& pole, SiatkaPol& siatka) {
     const bool pierwsze = kontrolki_.empty() || kontrolki_.back().siatka != &siatka;
     const Kontrolka* poprzednia = pierwsze ? nullptr : &kontrolki_.back();
-    Kontrolka& k = kontrolki_.emplace_back();
-    k.pole = pole;
+    Kontrolka& k = nowa(pole);
     k.siatka = &siatka;
-    k.widzet = zbudujKontrolke(pole);
     if (poprzednia && pole.podpis.isEmpty()) {
         k.podpis = poprzednia->podpis;
         k.miejsce = poprzednia->miejsce;
@@ -98,14 +97,58 @@ void Wiazanie::dodaj(const Pole& pole, SiatkaPol& siatka) {
         k.miejsce = siatka.dodaj(k.podpis, k.widzet);
         k.widzet->setAccessibleName(nazwaDostepna(pole.podpis));
     }
-    if (!pole.opis.isEmpty()) {
-        k.widzet->setAccessibleName(pole.opis);
-        k.widzet->setToolTip(pole.opis);
+    gotowa(k);
+}
+
+Wiazanie::Kontrolka& Wiazanie::nowa(const Pole& pole) {
+    Kontrolka& k = kontrolki_.emplace_back();
+    k.pole = pole;
+    k.widzet = zbudujKontrolke(pole);
+    return k;
+}
+
+void Wiazanie::gotowa(Kontrolka& k) {
+    if (!k.pole.opis.isEmpty()) {
+        k.widzet->setAccessibleName(k.pole.opis);
+        k.widzet->setToolTip(k.pole.opis);
     }
-    poNazwie_.insert(pole.nazwa, &k);
+    poNazwie_.insert(k.pole.nazwa, &k);
     poWidzecie_.insert(k.widzet, &k);
-    pokazTekst(k, tekstWartosci(pole, Null));
+    pokazTekst(k, tekstWartosci(k.pole, Null));
     podlacz(k);
+}
+
+QGroupBox* Wiazanie::tabela(const QString& tytul, const QStringList& naglowki, const QList<Rzad>& rzedy) {
+    auto* ramka = new QGroupBox(tytul);
+    auto* siatka = new QGridLayout(ramka);
+    siatka->setHorizontalSpacing(Wyglad::kSiatka);
+    siatka->setVerticalSpacing(Wyglad::kSiatka / 2);
+    siatka->setColumnStretch(0, 1);
+    const auto napis = [&](const QString& tekst, int wiersz, int kolumna, Qt::Alignment ulozenie) {
+        auto* etykieta = new QLabel(tekst);
+        etykieta->setTextFormat(Qt::PlainText);
+        etykieta->setWordWrap(true);
+        etykieta->setAlignment(ulozenie);
+        siatka->addWidget(etykieta, wiersz, kolumna);
+        return etykieta;
+    };
+    for (int kolumna = 0; kolumna < naglowki.size(); ++kolumna)
+        napis(naglowki[kolumna], 0, kolumna + 1, Qt::AlignBottom | Qt::AlignHCenter)
+            ->setProperty("podpowiedz", true);
+    for (int wiersz = 0; wiersz < rzedy.size(); ++wiersz) {
+        const Rzad& rzad = rzedy[wiersz];
+        QLabel* podpis = napis(rzad.podpis, wiersz + 1, 0, Qt::AlignLeft | Qt::AlignVCenter);
+        for (int kolumna = 0; kolumna < rzad.pola.size(); ++kolumna) {
+            if (rzad.pola[kolumna].nazwa.isEmpty()) continue;
+            Kontrolka& k = nowa(rzad.pola[kolumna]);
+            siatka->addWidget(k.widzet, wiersz + 1, kolumna + 1, Qt::AlignVCenter);
+            k.widzet->setAccessibleName(nazwaDostepna(rzad.podpis) + u' ' +
+                                        nazwaDostepna(naglowki.value(kolumna)));
+            if (!podpis->buddy()) podpis->setBuddy(k.widzet);
+            gotowa(k);
+        }
+    }
+    return ramka;
 }
 
 void Wiazanie::podlacz(Kontrolka& k) {

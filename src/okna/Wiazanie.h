@@ -74,6 +74,16 @@ public:
     /// The same without frame and title.
     QWidget* siatka(const QList<Pole>& pola, int kolumn = 1, BezPodpisu bezPodpisu = BezPodpisu::PodPolami);
 
+    /// A row of a table of fields: what it is about, and its fields from left to right; one without a name
+    /// leaves its place empty.
+    struct Rzad {
+        QString podpis;
+        QList<Pole> pola;
+    };
+    /// Makes the fields in a titled table under `naglowki`. A field is called by its row and column. Fields
+    /// of a table take no further notes and are not hidden (`dolacz`, `ustawDopisek`, `pokaz`).
+    QGroupBox* tabela(const QString& tytul, const QStringList& naglowki, const QList<Rzad>& rzedy);
+
     /// Shows the source's values as of another row: what was typed and not collected, what fields said of it
     /// and what undo would bring back is dropped.
     void wczytaj();
@@ -138,6 +148,8 @@ private:
         bool zUwaga = false;
     };
 
+    Kontrolka& nowa(const Pole& pole);
+    void gotowa(Kontrolka& k);
     void dodaj(const Pole& pole, SiatkaPol& siatka);
     void podlacz(Kontrolka& k);
     void pokazTekst(Kontrolka& k, const QString& tekst);

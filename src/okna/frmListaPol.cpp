@@ -5,16 +5,12 @@
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
 #include <algorithm>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace tornel::okna {
@@ -24,19 +20,6 @@ namespace {
 constexpr int kSzerokoscListy = 38 * Wyglad::kSiatka;
 constexpr int kSzerokosc = 112 * Wyglad::kSiatka;
 constexpr int kNajmniejszaWysokosc = 50 * Wyglad::kSiatka;
-
-/// Fields that may be taller than the window, never wider.
-QScrollArea* przewijane(QWidget* pola) {
-    auto* obszar = new QScrollArea;
-    obszar->setWidget(pola);
-    obszar->setWidgetResizable(true);
-    obszar->setFrameShape(QFrame::NoFrame);
-    obszar->setFocusPolicy(Qt::NoFocus);
-    obszar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    obszar->setMinimumWidth(pola->minimumSizeHint().width() +
-                            obszar->verticalScrollBar()->sizeHint().width());
-    return obszar;
-}
 
 } // namespace
 
@@ -54,7 +37,7 @@ frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, co
     const QSize rozmiarPol = pola->sizeHint();
     // The fields scroll on a small screen, the buttons never do; tabs scroll page by page.
     uklad->addWidget(
-        dzielnik(lewaStrona(opis), szerokoscListy, opis.zakladki.isEmpty() ? przewijane(pola) : pola), 1);
+        dzielnik(lewaStrona(opis), szerokoscListy, opis.zakladki.isEmpty() ? Przewijane(pola) : pola), 1);
     QWidget* przyciski = dol(opis.przyciski);
     uklad->addWidget(przyciski);
     budujSkroty();
@@ -93,55 +76,18 @@ QWidget* frmListaPol::prawaStrona(const OpisListyPol& opis) {
     uklad->setContentsMargins(0, 0, 0, 0);
     ramki_ = new QVBoxLayout;
     uklad->addLayout(ramki_);
-    QStringList tytuly;
-    for (const GrupaPol& grupa : opis.grupy)
-        if (!tytuly.contains(grupa.zakladka)) tytuly.append(grupa.zakladka);
     bool wypelnione = true;
     if (opis.zakladki.isEmpty())
-        wypelnione = ustawRamki(*ramki_, opis.grupy, opis.najszerszePodpisy);
+        wypelnione = UstawRamki(wiazanie_, *ramki_, opis.grupy, opis.najszerszePodpisy);
     else
-        ramki_->addWidget(zakladki(opis, tytuly), 1);
+        ramki_->addWidget(ZakladkiPol(wiazanie_, opis.zakladki, opis.grupy, opis.najszerszePodpisy), 1);
+    pola_ = PolaDoWpisania(opis.grupy);
     // A note takes the height that is left; without one the frames stay together at the top.
     if (wypelnione)
         uklad->setStretchFactor(ramki_, 1);
     else
         uklad->addStretch(1);
     return prawa;
-}
-
-QWidget* frmListaPol::zakladki(const OpisListyPol& opis, const QStringList& tytuly) {
-    auto* karty = new QTabWidget;
-    karty->setObjectName(opis.zakladki);
-    for (const QString& tytul : tytuly) {
-        QList<GrupaPol> grupy;
-        for (const GrupaPol& grupa : opis.grupy)
-            if (grupa.zakladka == tytul) grupy.append(grupa);
-        auto* strona = new QWidget;
-        auto* uklad = new QVBoxLayout(strona);
-        if (!ustawRamki(*uklad, grupy, opis.najszerszePodpisy)) uklad->addStretch(1);
-        karty->addTab(przewijane(strona), tytul);
-    }
-    return karty;
-}
-
-bool frmListaPol::ustawRamki(QVBoxLayout& uklad, const QList<GrupaPol>& grupy, int najszerszePodpisy) {
-    bool notatka = false;
-    QList<QGroupBox*> ramki;
-    for (const GrupaPol& grupa : grupy) {
-        QGroupBox* ramka = wiazanie_.grupa(grupa.tytul, grupa.pola, grupa.kolumn);
-        uklad.addWidget(ramka);
-        ramki.append(ramka);
-        for (const Pole& pole : grupa.pola) {
-            if (pole.dostep == Dostep::Edycja) pola_.append(pole.nazwa);
-            if (pole.rodzaj != Rodzaj::Notatka) continue;
-            notatka = true;
-            uklad.setStretchFactor(ramka, 1);
-            if (pole.podpis.isEmpty())
-                wiazanie_.kontrolka(pole.nazwa)->setAccessibleName(nazwaDostepna(grupa.tytul));
-        }
-    }
-    wyrownajPodpisy(ramki, najszerszePodpisy > 0 ? najszerszePodpisy : QWIDGETSIZE_MAX);
-    return notatka;
 }
 
 QWidget* frmListaPol::dol(const QList<QPushButton*>& wlasne) {

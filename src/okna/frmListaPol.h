@@ -3,6 +3,7 @@
 #include "common/Rozmowa.h"
 #include "okna/ListaModel.h"
 #include "okna/Okno.h"
+#include "okna/RamkiPol.h"
 #include "okna/Wiazanie.h"
 #include <memory>
 #include <optional>
@@ -15,14 +16,6 @@ namespace tornel::okna {
 
 class PoleSzukania;
 class WidokListy;
-
-/// Fields in one titled frame.
-struct GrupaPol {
-    QString tytul;
-    QList<Pole> pola;
-    int kolumn = 1;        ///< how many fields stand side by side
-    QString zakladka = {}; ///< caption of its tab; empty on a screen without tabs
-};
 
 /// What one such screen shows.
 struct OpisListyPol {
@@ -102,9 +95,6 @@ protected:
 private:
     [[nodiscard]] QWidget* lewaStrona(const OpisListyPol& opis);
     [[nodiscard]] QWidget* prawaStrona(const OpisListyPol& opis);
-    /// Puts the frames into `uklad`; true if a note among them takes the height that is left.
-    bool ustawRamki(QVBoxLayout& uklad, const QList<GrupaPol>& grupy, int najszerszePodpisy);
-    [[nodiscard]] QWidget* zakladki(const OpisListyPol& opis, const QStringList& tytuly);
     [[nodiscard]] QWidget* dol(const QList<QPushButton*>& wlasne);
     void budujSkroty();
     void wybierzWiersz(qint64 id);

@@ -339,4 +339,15 @@ void ErrorWzor(int flags, Rozmowa& rozmowa) {
             Styl::Wykrzyknik);
 }
 
+QString SprawdzPoleWzoru(Wzory& wzory, const QString& tekst, Rozmowa& rozmowa) {
+    try {
+        int flags = trybWzoru::NieznaneZmienne;
+        (void)wzory.ObliczWzor(tekst, flags);
+        ErrorWzor(flags, rozmowa);
+    } catch (const BladWzoru& blad) {
+        rozmowa.komunikat(blad.komunikat(), Styl::Krytyczny);
+    }
+    return tekst.toUpper();
+}
+
 } // namespace tornel::rules

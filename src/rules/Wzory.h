@@ -106,4 +106,8 @@ private:
 /// ZMIENNEJ" for bit 16. Other bits are not reported.
 void ErrorWzor(int flags, Rozmowa& rozmowa);
 
+/// What leaving a formula field does: computes it (mode 1) and shows what was wrong. Gives the text to stand
+/// in the field, in upper case.
+[[nodiscard]] QString SprawdzPoleWzoru(Wzory& wzory, const QString& tekst, Rozmowa& rozmowa);
+
 } // namespace tornel::rules

@@ -57,7 +57,9 @@ Wiazanie::Sprawdzenie SprawdzeniaStalych::dla(const StalaDef& stala, std::size_t
             return numerJedyny(stala, element, tekst, przyWejsciu);
         };
     case Wzor:
-        return [this](const QString& tekst, const QString&) { return wzor(tekst); };
+        return [this](const QString& tekst, const QString&) {
+            return SprawdzPoleWzoru(wzory_, tekst, rozmowa_);
+        };
     case Nominal:
         return [&stala](const QString& tekst, const QString&) {
             const bool zlote = stala.nazwa == u"NPZl";
@@ -75,17 +77,6 @@ Wiazanie::Sprawdzony SprawdzeniaStalych::numerJedyny(const StalaDef& stala, std:
     if (!NumerSkladnikaWolny(zrodlo_.stale(), stala.num, element, *skladnik))
         return zamiast(tekst, przyWejsciu, QStringLiteral("wolny numer: inna stała już go ma"));
     return QString::number(*skladnik);
-}
-
-QString SprawdzeniaStalych::wzor(const QString& tekst) {
-    try {
-        int flags = trybWzoru::NieznaneZmienne;
-        (void)wzory_.ObliczWzor(tekst, flags);
-        ErrorWzor(flags, rozmowa_);
-    } catch (const BladWzoru& blad) {
-        rozmowa_.komunikat(blad.komunikat(), Styl::Krytyczny);
-    }
-    return tekst.toUpper();
 }
 
 QString nazwaSkladnika(const SkladnikiPlac& skladniki, const QString& tekst) {

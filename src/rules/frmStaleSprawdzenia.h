@@ -21,7 +21,6 @@ public:
 private:
     [[nodiscard]] Wiazanie::Sprawdzony numerJedyny(const StalaDef& stala, std::size_t element,
                                                    const QString& tekst, const QString& przyWejsciu) const;
-    [[nodiscard]] QString wzor(const QString& tekst);
 
     const ZrodloStalych& zrodlo_;
     Rozmowa& rozmowa_;

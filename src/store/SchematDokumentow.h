@@ -366,9 +366,10 @@ inline constexpr TabelaDef UZL{"UZL", kolumny::UZL, klucze::Zlecenie};
 inline constexpr TabelaDef UOD{"UOD", kolumny::UOD, klucze::Dzielo};
 inline constexpr TabelaDef HON{"HON", kolumny::HON, klucze::Honorarium};
 inline constexpr TabelaDef PIT4{"PIT4", kolumny::PIT4, klucze::Miesiac, Klucz::Wieloznaczny};
-inline constexpr TabelaDef PIT11{"PIT11", kolumny::PIT11, {}};
-inline constexpr TabelaDef PIT40{"PIT40", kolumny::PIT40, {}};
-inline constexpr TabelaDef PIT8B{"PIT8B", kolumny::PIT8B, {}};
+// Each holds the one row that its screen works on and fills anew at each opening.
+inline constexpr TabelaDef PIT11{"PIT11", kolumny::PIT11, {}, Klucz::Jednoznaczny, {}, Slad::Zaden};
+inline constexpr TabelaDef PIT40{"PIT40", kolumny::PIT40, {}, Klucz::Jednoznaczny, {}, Slad::Zaden};
+inline constexpr TabelaDef PIT8B{"PIT8B", kolumny::PIT8B, {}, Klucz::Jednoznaczny, {}, Slad::Zaden};
 inline constexpr TabelaDef ZUS{"ZUS", kolumny::ZUS, klucze::DeklaracjaZUS};
 inline constexpr TabelaDef US{"US", kolumny::US, klucze::UrzadSkarbowy};
 inline constexpr TabelaDef M_PRACY{"M_PRACY", kolumny::M_PRACY, klucze::MiejscePracy};

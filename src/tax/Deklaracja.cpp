@@ -37,7 +37,7 @@ int numerKolumny(const TabelaDef& tabela, std::string_view nazwa) {
 
 } // namespace
 
-const RodzajDeklaracji& Rodzaj(Deklaracja ktora) {
+const RodzajDeklaracji& OpisDeklaracji(Deklaracja ktora) {
     return *std::ranges::find(kRodzaje, ktora, &RodzajDeklaracji::ktora);
 }
 

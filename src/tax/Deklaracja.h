@@ -17,7 +17,7 @@ struct RodzajDeklaracji {
     const TabelaDef* tabela = nullptr;
     Recordset Sesja::*uchwyt = nullptr;
 };
-[[nodiscard]] const RodzajDeklaracji& Rodzaj(Deklaracja ktora);
+[[nodiscard]] const RodzajDeklaracji& OpisDeklaracji(Deklaracja ktora);
 
 /// One row of a declaration's table, apart from the table. Columns go by their names, which several
 /// declarations share; an unknown one throws `std::logic_error`.
@@ -29,7 +29,7 @@ public:
     WierszDeklaracji(Deklaracja ktora, const Recordset& deklaracja);
 
     [[nodiscard]] Deklaracja ktora() const { return ktora_; }
-    [[nodiscard]] const TabelaDef& tabela() const { return *Rodzaj(ktora_).tabela; }
+    [[nodiscard]] const TabelaDef& tabela() const { return *OpisDeklaracji(ktora_).tabela; }
     [[nodiscard]] bool ma(std::string_view nazwa) const { return tabela().numer(nazwa) >= 0; }
     [[nodiscard]] const Wartosc& wartosc(std::string_view nazwa) const;
     [[nodiscard]] const Wartosc& wartosc(int nr) const {

@@ -95,13 +95,13 @@ WierszDeklaracji DaneRoczne::wypelnij(qint64 prcId, QDate dzis) const {
         d.ustaw("pitrtak", QString(o_.stale.PITCzyPITr ? u'x' : u' '));
         d.ustaw("pitrnie", QString(o_.stale.PITCzyPITr ? u' ' : u'x'));
     }
-    if (ktora_ == Deklaracja::Pit40) RozliczPit40(o_, d);
+    if (ktora_ == Deklaracja::Pit40) RozliczPit40(SkalaPodatku(o_.stale), d, o_.rozmowa);
     return d;
 }
 
 void WypelnijDeklaracje(Otoczenie& o, Deklaracja ktora, qint64 prcId, const OkresPodatkowy& okres,
                         QDate dzis) {
-    const RodzajDeklaracji& rodzaj = Rodzaj(ktora);
+    const RodzajDeklaracji& rodzaj = OpisDeklaracji(ktora);
     const WierszDeklaracji wypelniona = DaneRoczne(o, ktora, okres, prcId).wypelnij(prcId, dzis);
     Recordset& rs = o.sesja.*rodzaj.uchwyt;
     if (!rs.otwarty()) rs.Open(o.sesja.cnPlace);
@@ -118,12 +118,12 @@ void WypelnijDeklaracje(Otoczenie& o, Deklaracja ktora, qint64 prcId, const Okre
     }
 }
 
-Waluta PodatekWedlugSkali(Otoczenie& o, Waluta podst) {
-    const Stale& s = o.stale;
-    const QString& wzor = podst <= s.GranicaG12   ? s.WzorPIT40G1
-                          : podst <= s.GranicaG23 ? s.WzorPIT40G2
-                                                  : s.WzorPIT40G3;
-    Wzory wzory(o.rozmowa); // without a session: the scale knows the income alone
+SkalaPodatku::SkalaPodatku(const Stale& s)
+    : wzory{s.WzorPIT40G1, s.WzorPIT40G2, s.WzorPIT40G3}, granica12(s.GranicaG12), granica23(s.GranicaG23) {}
+
+Waluta PodatekWedlugSkali(const SkalaPodatku& skala, Waluta podst, Rozmowa& rozmowa) {
+    const QString& wzor = skala.wzory[podst <= skala.granica12 ? 0 : podst <= skala.granica23 ? 1 : 2];
+    Wzory wzory(rozmowa); // without a session: the scale knows the income alone
     wzory.zmienne.DOCH = podst;
     int flags = 0;
     const Waluta podatek = wzory.ObliczWzor(wzor, flags);
@@ -133,26 +133,60 @@ Waluta PodatekWedlugSkali(Otoczenie& o, Waluta podst) {
     return NieMniejNizZero(Round(podatek, 2));
 }
 
-RozliczenieRoku Rozlicz(Otoczenie& o, Waluta dochod, Waluta skladki, Waluta ubzdr, Waluta zaliczki) {
+RozliczenieRoku Rozlicz(const SkalaPodatku& skala, Waluta dochod, Waluta skladki, Waluta ubzdr,
+                        Waluta zaliczki, Rozmowa& rozmowa) {
     RozliczenieRoku r;
     r.doch_odl = dochod - skladki;
     r.podst = NieMniejNizZero(Round(r.doch_odl, 0));
-    r.pod_obl = PodatekWedlugSkali(o, r.podst);
+    r.pod_obl = PodatekWedlugSkali(skala, r.podst, rozmowa);
     r.podatek = Round(NieMniejNizZero(r.pod_obl - ubzdr), 1);
     r.nadplata = NieMniejNizZero(zaliczki - r.podatek);
     r.doplata = NieMniejNizZero(r.podatek - zaliczki);
     return r;
 }
 
-void RozliczPit40(Otoczenie& o, WierszDeklaracji& d) {
+void RozliczPit40(const SkalaPodatku& skala, WierszDeklaracji& d, Rozmowa& rozmowa) {
     const SumyZrodel sumy = SumujZrodla(d);
-    const RozliczenieRoku r = Rozlicz(o, sumy.SDOCHOD, d.kwota("Skladki"), d.kwota("skl_odl"), sumy.SPOB_ZAL);
+    const RozliczenieRoku r =
+        Rozlicz(skala, sumy.SDOCHOD, d.kwota("Skladki"), d.kwota("skl_odl"), sumy.SPOB_ZAL, rozmowa);
     d.ustaw("doch_odl", r.doch_odl);
     d.ustaw("podst", r.podst);
     d.ustaw("pod_obl", r.pod_obl);
     d.ustaw("podatek", r.podatek);
     d.ustaw("nadplata", r.nadplata);
     d.ustaw("doplata", r.doplata);
+}
+
+QString UwagiDoKwot(const WierszDeklaracji& d, const SkalaPodatku& skala, Rozmowa& rozmowa) {
+    QStringList uwagi, wiersze;
+    for (int n = 1; n <= kZrodel; ++n) {
+        const std::string nr = std::to_string(n);
+        const Waluta koszty = d.ma("kup_" + nr) ? d.kwota("kup_" + nr) : Waluta{};
+        // Line 1a has no income of its own: line 1 may hold it.
+        const Waluta dodatkowe =
+            n == 1 && d.ma("przy_1a") ? d.kwota("przy_1a") - d.kwota("kup_1a") : Waluta{};
+        const Waluta dochod = d.kwota("przy_" + nr) - koszty;
+        if (d.kwota("dochod_" + nr) != dochod && d.kwota("dochod_" + nr) != dochod + dodatkowe)
+            wiersze.append(QString::number(n));
+    }
+    if (!wiersze.isEmpty())
+        uwagi.append(QStringLiteral("Dochód nie jest różnicą przychodu i kosztów w wierszach: %1.")
+                         .arg(wiersze.join(QStringLiteral(", "))));
+    if (d.ktora() == Deklaracja::Pit40) {
+        try {
+            WierszDeklaracji rozliczona = d;
+            RozliczPit40(skala, rozliczona, rozmowa);
+            for (const char* kolumna : {"doch_odl", "podst", "pod_obl", "podatek", "nadplata", "doplata"}) {
+                if (rozliczona.kwota(kolumna) == d.kwota(kolumna)) continue;
+                uwagi.append(QStringLiteral(
+                    "Rozliczenie nie odpowiada kwotom deklaracji. Przycisk „Rozlicz” liczy je od nowa."));
+                break;
+            }
+        } catch (const Blad& blad) {
+            uwagi.append(blad.komunikat());
+        }
+    }
+    return uwagi.join(u'\n');
 }
 
 } // namespace tornel::tax

@@ -5,6 +5,7 @@
 #include "tax/Deklaracja.h"
 #include "tax/Platnik.h"
 #include "tax/Przychody.h"
+#include <array>
 #include <QDate>
 
 namespace tornel::tax {
@@ -51,13 +52,26 @@ struct RozliczenieRoku {
     Waluta nadplata; ///< overpaid in advances
     Waluta doplata;  ///< still to pay
 };
-/// The tax of `podst` by the formula of its bracket (constants 551 to 553, brackets by 40 and 41), two
-/// places, not below zero. Shows no message. Throws `Blad` for a formula that cannot be computed.
-[[nodiscard]] Waluta PodatekWedlugSkali(Otoczenie& otoczenie, Waluta podst);
+/// The scale of the year: the formula of each bracket, and how far the first two reach, zł.
+struct SkalaPodatku {
+    /// Constants 551 to 553, 40 and 41.
+    explicit SkalaPodatku(const Stale& stale);
+
+    std::array<QString, 3> wzory;
+    Waluta granica12, granica23;
+};
+/// The tax of `podst` by the formula of its bracket, two places, not below zero. Shows no message. Throws
+/// `Blad` for a formula that cannot be computed.
+[[nodiscard]] Waluta PodatekWedlugSkali(const SkalaPodatku& skala, Waluta podst, Rozmowa& rozmowa);
 /// Settles `dochod`. `ubzdr` is what may be deducted, `zaliczki` what was paid.
-[[nodiscard]] RozliczenieRoku Rozlicz(Otoczenie& otoczenie, Waluta dochod, Waluta skladki, Waluta ubzdr,
-                                      Waluta zaliczki);
+[[nodiscard]] RozliczenieRoku Rozlicz(const SkalaPodatku& skala, Waluta dochod, Waluta skladki, Waluta ubzdr,
+                                      Waluta zaliczki, Rozmowa& rozmowa);
 /// Settles a PIT-40 by the amounts that it holds.
-void RozliczPit40(Otoczenie& otoczenie, WierszDeklaracji& deklaracja);
+void RozliczPit40(const SkalaPodatku& skala, WierszDeklaracji& deklaracja, Rozmowa& rozmowa);
+
+/// What is to be said of the amounts as they stand: lines whose income is not what income less costs
+/// gives, and a settlement that its amounts do not give. A sentence for each; empty when all is well.
+[[nodiscard]] QString UwagiDoKwot(const WierszDeklaracji& deklaracja, const SkalaPodatku& skala,
+                                  Rozmowa& rozmowa);
 
 } // namespace tornel::tax

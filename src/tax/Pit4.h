@@ -16,7 +16,15 @@ struct KluczPit4 {
 
     /// Eight digits, as the list shows it: "20010501".
     [[nodiscard]] QString napis() const { return miesiac.klucz() + FormatMiesiaca(numer); }
+    /// A number for lists, in the declarations' order.
+    [[nodiscard]] qint64 id() const { return miesiac.id() * kNumerow + numer; }
+    [[nodiscard]] static KluczPit4 zId(qint64 id) {
+        return {RokMies::zId(id / kNumerow), static_cast<int>(id % kNumerow)};
+    }
     friend constexpr auto operator<=>(const KluczPit4&, const KluczPit4&) = default;
+
+private:
+    static constexpr qint64 kNumerow = 100'000;
 };
 
 /// The sums of the print, zł: line 9, the amount after lines 10 to 16, the amount to pay.

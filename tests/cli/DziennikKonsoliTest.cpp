@@ -54,7 +54,6 @@ protected:
             QStringLiteral("--tak lista przelicz 2001-03"),
             QStringLiteral("--tak lista konto 2001-03"),
             QStringLiteral("--tak pit4 nowa 2001-02"),
-            QStringLiteral("pit11 3 --od 2001-01 --do 2001-02"),
             QStringLiteral("--tak pit4 usun 2001-02"),
             QStringLiteral("--tak umowa nowa UZL --pracownik 2 --data 05-02-2001"),
             QStringLiteral(

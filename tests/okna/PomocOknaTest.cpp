@@ -28,6 +28,10 @@
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
 #include "start/Przyklad.h"
+#include "tax/frmKontrolaPIT4.h"
+#include "tax/frmListaPIT4Nowy.h"
+#include "tax/frmPIT8BAnaliza.h"
+#include "tax/frmSeriaDeklaracji.h"
 #include "wsparcie/BazaTestowa.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/WejsciaBezEkranu.h"
@@ -223,6 +227,14 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
         },
         [&] { return std::make_unique<frmRodzina>(o(), 11); },
         [&] { return std::make_unique<frmKedu>(rozmowa_, QString(), QString()); },
+        [] { return std::make_unique<frmListaPIT4Nowy>(QDate(2001, 5, 2), frmListaPIT4Nowy::Listy::Pytaj); },
+        [&] { return std::make_unique<frmKontrolaPIT4>(o(), 2001); },
+        [&] { return std::make_unique<frmPIT8BAnaliza>(o(), 1, 2001); },
+        [&] {
+            return std::make_unique<frmSeriaDeklaracji>(
+                o(), Deklaracja::Pit11, OkresPodatkowy{{2001, 1}, {2001, 3}}, QList<qint64>{1, 2},
+                PortWydrukowDeklaracji(), frmSeriaDeklaracji::OtworzJedna());
+        },
         [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
         [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },
         [] { return std::make_unique<frmNrSkladnikaURL>(OkresUrlopu(), 0); },

@@ -179,22 +179,24 @@ TEST_F(DeklaracjeTest, PodatekRokuWedlugSkali) {
                                                {29624, 5233.76}, {40000, 8346.56}, {59248, 14120.96},
                                                {70000, 20821.76}};
     for (const auto& [podstawa, podatek] : skala)
-        EXPECT_EQ(PodatekWedlugSkali(otoczenie(), zl(podstawa)), zl(podatek)) << podstawa;
+        EXPECT_EQ(PodatekWedlugSkali(SkalaPodatku(stale()), zl(podstawa), rozmowa_), zl(podatek)) << podstawa;
 
     // 12 345,67 less 2 345,17: the base is whole złoty, the tax tens of grosze.
-    const RozliczenieRoku doplata = Rozlicz(otoczenie(), zl(12345.67), zl(2345.17), zl(700.13), zl(800));
+    const RozliczenieRoku doplata =
+        Rozlicz(SkalaPodatku(stale()), zl(12345.67), zl(2345.17), zl(700.13), zl(800), rozmowa_);
     EXPECT_EQ(doplata.podst, zl(10000));
     EXPECT_EQ(doplata.pod_obl, zl(1505.2));
     EXPECT_EQ(doplata.podatek, zl(805.1));
     EXPECT_EQ(doplata.doplata, zl(5.1));
-    const RozliczenieRoku nadplata = Rozlicz(otoczenie(), zl(500), zl(900), zl(0), zl(12.3));
+    const RozliczenieRoku nadplata =
+        Rozlicz(SkalaPodatku(stale()), zl(500), zl(900), zl(0), zl(12.3), rozmowa_);
     EXPECT_EQ(nadplata.podst, Waluta{});
     EXPECT_EQ(nadplata.nadplata, zl(12.3));
 
     stale().WzorPIT40G1 = u"DOCH*"_s;
-    EXPECT_THROW((void)PodatekWedlugSkali(otoczenie(), zl(100)), Blad);
+    EXPECT_THROW((void)PodatekWedlugSkali(SkalaPodatku(stale()), zl(100), rozmowa_), Blad);
     stale().WzorPIT40G1 = u"DOHC*0,19"_s;
-    EXPECT_THROW((void)PodatekWedlugSkali(otoczenie(), zl(100)), Blad);
+    EXPECT_THROW((void)PodatekWedlugSkali(SkalaPodatku(stale()), zl(100), rozmowa_), Blad);
 }
 
 } // namespace
