@@ -1,20 +1,21 @@
 #include "app/frmMain.h"
 #include "app/frmAbout.h"
+#include "app/frmMainStrona.h"
 #include "app/Uprawnienia.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
 #include "okna/Wyglad.h"
 #include "rules/Konfiguracja.h"
+#include "start/Foldery.h"
+#include "start/PlanPracy.h"
 #include "store/Sesja.h"
 #include <algorithm>
-#include <array>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDir>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
-#include <QPushButton>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -25,14 +26,10 @@ namespace tornel::app {
 namespace {
 
 constexpr int kStalaUsunietegoHasla = 998;
-constexpr int kKolumnSkrotow = 4;
 constexpr int kSzerokoscBazy = 50 * Wyglad::kSiatka;
 constexpr int kSzerokoscZnalezionych = 90 * Wyglad::kSiatka;
 
-/// What a clerk opens most, in the order of the start page.
-constexpr std::array kSkroty{Wejscie::PracownicyWszyscy, Wejscie::ListaPlac,      Wejscie::UmowyZlecenia,
-                             Wejscie::UmowyODzielo,      Wejscie::DniWolneOgolne, Wejscie::Urlopy,
-                             Wejscie::UrzedySkarbowe,    Wejscie::StaleProgramu};
+QString folderPlanu() { return FolderDanych(QCoreApplication::applicationDirPath()); }
 
 QLabel* etykieta(const QString& nazwa, int powiekszenie = 0, bool tlusta = false) {
     auto* napis = new QLabel;
@@ -53,13 +50,20 @@ frmMain::frmMain(Otoczenie& otoczenie) : o_(otoczenie) {
     budujMenu();
     budujPasek();
     auto* srodek = new QWidget;
+    strona_ = new StronaStartowa([this](Wejscie wejscie) { return akcja(wejscie); });
+    connect(strona_, &StronaStartowa::potwierdzStawki, this, &frmMain::potwierdzStawki);
     auto* uklad = new QVBoxLayout(srodek);
     uklad->setContentsMargins(3 * Wyglad::kSiatka, 3 * Wyglad::kSiatka, 3 * Wyglad::kSiatka, Wyglad::kSiatka);
     uklad->setSpacing(3 * Wyglad::kSiatka);
     uklad->addWidget(panelTytulu());
-    uklad->addWidget(stronaStartowa());
+    uklad->addWidget(strona_);
     uklad->addStretch();
-    setCentralWidget(srodek);
+    auto* przewijanie = new QScrollArea; // a large font needs more than a small screen has
+    przewijanie->setWidget(srodek);
+    przewijanie->setWidgetResizable(true);
+    przewijanie->setFrameShape(QFrame::NoFrame);
+    przewijanie->setFocusPolicy(Qt::NoFocus);
+    setCentralWidget(przewijanie);
     budujStan();
     resize(1180, 720);
 
@@ -150,47 +154,12 @@ QWidget* frmMain::panelTytulu() {
     return panel;
 }
 
-QWidget* frmMain::stronaStartowa() {
-    auto* strona = new QWidget;
-    auto* uklad = new QVBoxLayout(strona);
-    uklad->setContentsMargins(0, 0, 0, 0);
-    uklad->setSpacing(3 * Wyglad::kSiatka);
-    ramkaPodpowiedzi_ = new QGroupBox(QStringLiteral("Co dalej"));
-    auto* podpowiedz = etykieta(QStringLiteral("labPodpowiedz"));
-    podpowiedz->setText(QStringLiteral("Baza nie ma jeszcze pracowników.\n"
-                                       "1. Dane firmy i stawki wpisz w menu Konfiguracja, Stałe programu.\n"
-                                       "2. Pracowników wprowadź w menu Pracownicy, Wszyscy pracownicy.\n"
-                                       "3. Pierwszy miesiąc utwórz w menu Płace, Lista płac."));
-    (new QVBoxLayout(ramkaPodpowiedzi_))->addWidget(podpowiedz);
-    uklad->addWidget(ramkaPodpowiedzi_);
-
-    kafle_ = new QGridLayout;
-    kafle_->setSpacing(2 * Wyglad::kSiatka);
-    for (int k = 0; k < kKolumnSkrotow; ++k) kafle_->setColumnStretch(k, 1);
-    uklad->addLayout(kafle_);
-    for (const Wejscie wejscie : kSkroty) {
-        const PozycjaMenu& p = pozycjaMenu(wejscie);
-        auto* przycisk = new QPushButton(Wyglad::ikona(p.ikona), p.napis.toString(), strona);
-        przycisk->setProperty("kafel", true);
-        przycisk->setAutoDefault(true); // Enter opens it as a click does
-        // Wider than the picture, which keeps it off the caption.
-        przycisk->setIconSize(QSize(6 * Wyglad::kSiatka, 4 * Wyglad::kSiatka));
-        connect(przycisk, &QPushButton::clicked, akcja(wejscie), &QAction::trigger);
-        skroty_.emplace_back(wejscie, przycisk);
-    }
-    return strona;
-}
-
-void frmMain::ulozKafle() {
-    while (QLayoutItem* pozycja = kafle_->takeAt(0)) delete pozycja;
-    int nr = 0;
-    for (const auto& [wejscie, przycisk] : skroty_) {
-        const bool otwarte = akcja(wejscie)->isEnabled();
-        przycisk->setVisible(otwarte);
-        if (!otwarte) continue;
-        kafle_->addWidget(przycisk, nr / kKolumnSkrotow, nr % kKolumnSkrotow);
-        ++nr;
-    }
+void frmMain::potwierdzStawki() {
+    const QDateTime teraz = QDateTime::currentDateTime();
+    const auto rok = UlozPlan(o_, teraz.date(), folderPlanu()).niepotwierdzoneStawki;
+    if (!rok || !o_.rozmowa.pytanie(PytanieOStawki(o_.stale, *rok))) return;
+    PotwierdzStawki(o_, *rok, teraz);
+    odswiezStan();
 }
 
 void frmMain::budujStan() {
@@ -247,7 +216,7 @@ void frmMain::UstawDostepnoscMenu() {
         const auto lista = p.lista ? p.lista->actions() : QList<QAction*>{p.akcja};
         p.przycisk->setEnabled(std::ranges::any_of(lista, [](const QAction* a) { return a->isEnabled(); }));
     }
-    ulozKafle();
+    strona_->ustawDostepnosc();
 }
 
 void frmMain::RefreshTitle() {
@@ -269,7 +238,7 @@ void frmMain::odswiezStan() {
     labMiesiac_->setText(QStringLiteral("Miesiąc: ") + (sesja.rok() > 0
                                                             ? NapisMiesiaca(sesja.rok(), sesja.mies())
                                                             : QStringLiteral("nie otwarto")));
-    ramkaPodpowiedzi_->setVisible(sesja.rsPRACDP.RecordCount() == 0);
+    strona_->pokaz(UlozPlan(o_, QDate::currentDate(), folderPlanu()));
 }
 
 void frmMain::otworz(Wejscie wejscie) {

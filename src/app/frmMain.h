@@ -1,4 +1,5 @@
-// The main window: menu, toolbar, the firm's title panel, a calm start page, and the exit question.
+// The main window: menu, toolbar, the firm's title panel, a start page that says what to do, and the exit
+// question.
 #pragma once
 #include "app/Menu.h"
 #include "rules/Otoczenie.h"
@@ -8,14 +9,13 @@
 #include <vector>
 
 class QAction;
-class QGridLayout;
-class QGroupBox;
 class QLabel;
 class QMenu;
-class QPushButton;
 class QToolButton;
 
 namespace tornel::app {
+
+class StronaStartowa;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
     void UstawUprawnienia() { UstawDostepnoscMenu(); }
     /// Shows the firm's name and address: constants 300, 301, 304, 303.
     void RefreshTitle();
-    /// Shows user, database and open month, and what to do next while there are no employees.
+    /// Shows user, database and open month, and on the start page what is to be done next.
     void odswiezStan();
 
     /// What comes once the window and the session are closed.
@@ -73,8 +73,7 @@ private:
     void dodajNaPasek(const PozycjaMenu& pozycja);
     void budujStan();
     [[nodiscard]] QWidget* panelTytulu();
-    [[nodiscard]] QWidget* stronaStartowa();
-    void ulozKafle();
+    void potwierdzStawki();
     void otworz(Wejscie wejscie);
     [[nodiscard]] bool pozegnaj();
 
@@ -84,10 +83,8 @@ private:
     std::map<Wejscie, QAction*> akcje_;
     std::map<QString, QMenu*> menu_;
     std::vector<PrzyciskPaska> pasek_;
-    std::vector<std::pair<Wejscie, QPushButton*>> skroty_;
+    StronaStartowa* strona_ = nullptr;
     QLabel* labTitle_[4] = {};
-    QGroupBox* ramkaPodpowiedzi_ = nullptr;
-    QGridLayout* kafle_ = nullptr;
     QLabel* labUzytkownik_ = nullptr;
     QLabel* labBaza_ = nullptr;
     QLabel* labMiesiac_ = nullptr;

@@ -5,6 +5,7 @@
 #include "reports/place/WydrukiListyPlac.h"
 #include "reports/przelewy/WydrukPrzelewow.h"
 #include "rules/Stale.h"
+#include "store/Sesja.h"
 #include <algorithm>
 #include <QDate>
 
@@ -38,6 +39,24 @@ void przelej(CzynnoscPrzelewu czynnosc, Otoczenie& otoczenie, const ListaPlac& l
     DrukujPrzelewy(otoczenie, komu, zrodlo, reports::UlozPrzelewy, rodzic);
 }
 
+bool czyListaPlac(reports::WydrukListy ktory) {
+    using enum reports::WydrukListy;
+    return ktory == ListaPlac || ktory == Wersja2 || ktory == Wersja3;
+}
+
+/// Notes a list that left the program.
+PoWydaniu zapamietanie(Otoczenie& otoczenie, const QString& napis, const QString& symbol) {
+    return [&otoczenie, napis, symbol](const Wydanie& wydanie) {
+        Wykonane(otoczenie.sesja)
+            .dopisz({{.rodzaj = reports::kWydrukListy.kod.toString(),
+                      .miesiac = otoczenie.sesja.miesiac(),
+                      .lista = symbol.trimmed(),
+                      .plik = wydanie.plik,
+                      .opis = napis}},
+                    QDateTime::currentDateTime());
+    };
+}
+
 void drukujListe(const QString& napis, Otoczenie& otoczenie, const ListaPlac& lista,
                  std::optional<qint64> prcId, QWidget* rodzic) {
     const bool wybrany = napis == kPokwitowanieDlaWybranego;
@@ -46,7 +65,8 @@ void drukujListe(const QString& napis, Otoczenie& otoczenie, const ListaPlac& li
         if (w.napis == napis) ktory = w.ktory;
     PokazWydruk(reports::UlozWydrukListy(ktory, otoczenie, lista, QDate::currentDate(),
                                          wybrany ? prcId : std::nullopt),
-                otoczenie.stale.DrukReszta ? Podglad::Nie : Podglad::Tak, otoczenie.rozmowa, rodzic);
+                otoczenie.stale.DrukReszta ? Podglad::Nie : Podglad::Tak, otoczenie.rozmowa, rodzic,
+                czyListaPlac(ktory) ? zapamietanie(otoczenie, napis, lista.symbol()) : PoWydaniu());
 }
 
 } // namespace

@@ -110,6 +110,17 @@ QString FormatKwoty(Waluta kwota) {
     return ujemna && grosze != 0 ? QLatin1Char('-') + tekst : tekst;
 }
 
+QString NapisKwoty(Waluta kwota) {
+    constexpr qsizetype kGrosze = 3; // the comma and two digits
+    constexpr int kCyfr = 3;
+    constexpr QChar kTwardyOdstep(0x00a0);
+    QString tekst = FormatKwoty(kwota);
+    const qsizetype pierwsza = tekst.startsWith(QLatin1Char('-')) ? 1 : 0;
+    for (qsizetype i = tekst.size() - kGrosze - kCyfr; i > pierwsza; i -= kCyfr)
+        tekst.insert(i, kTwardyOdstep);
+    return tekst;
+}
+
 QString TekstKwoty(Waluta kwota) {
     const bool ujemna = kwota.surowa() < 0;
     const auto bezwzgledna =

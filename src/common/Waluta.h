@@ -78,6 +78,8 @@ private:
 /// "0.00" with a decimal comma, half away from zero as a display does: 9,765 shows as "9,77", -0,004 as
 /// "0,00".
 [[nodiscard]] QString FormatKwoty(Waluta kwota);
+/// The same with the thousands set apart by no-break blanks, for reading only: "1 234 567,89".
+[[nodiscard]] QString NapisKwoty(Waluta kwota);
 /// The shortest exact form with a decimal comma: "1505,2", "-3", "0,0001".
 [[nodiscard]] QString TekstKwoty(Waluta kwota);
 

@@ -178,6 +178,12 @@ QLabel[wolny="true"] { background: rgb(208,0,0); color: rgb(255,255,255); font-w
 QLabel[koniecTygodnia="true"] { font-weight: bold; }
 QLabel[podpowiedz="true"] { color: %1; }
 QPushButton[kafel="true"] { text-align: left; padding: 12px 8px; background: palette(base); }
+QPushButton[odnosnik="true"] { text-align: left; border: 1px solid transparent; background: transparent;
+                               padding: 2px 6px; color: palette(link); text-decoration: underline; }
+QPushButton[odnosnik="true"]:hover { background: palette(alternate-base); }
+QPushButton[odnosnik="true"]:focus { border: 1px solid palette(highlight); background: palette(alternate-base); }
+QPushButton[odnosnik="true"]:disabled { color: palette(window-text); text-decoration: none; background: transparent; }
+QLabel[pilne="true"] { font-weight: bold; }
 QToolBar QToolButton { font-size: 9pt; padding: 2px 3px; }
 QHeaderView::section { background: palette(alternate-base); color: palette(text); border: none;
                        border-right: 1px solid palette(mid); padding: 4px 3px; }
@@ -290,6 +296,8 @@ void oznaczObliczane(QWidget& pole) { oznacz(pole, "obliczane", true); }
 void oznaczBlad(QWidget& pole, bool blad) { oznacz(pole, "blad", blad); }
 
 void oznaczGlowne(QWidget& pole) { oznacz(pole, "glowne", true); }
+
+void oznaczPilne(QWidget& napis, bool pilne) { oznacz(napis, "pilne", pilne); }
 
 void oznaczWolny(QWidget& numer, bool wolny) { oznacz(numer, "wolny", wolny); }
 

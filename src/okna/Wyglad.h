@@ -48,6 +48,9 @@ void oznaczBlad(QWidget& pole, bool blad);
 /// Marks a field as one of the few amounts that the eye looks for first.
 void oznaczGlowne(QWidget& pole);
 
+/// Marks a text as one that does not wait, or takes the mark off.
+void oznaczPilne(QWidget& napis, bool pilne);
+
 /// Marks the number of a calendar's day as that of a free day (white on red, bold), or takes the mark off.
 void oznaczWolny(QWidget& numer, bool wolny);
 

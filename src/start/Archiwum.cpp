@@ -56,6 +56,16 @@ void sprawdzKopie(const QString& zrodlo, const QString& kopia) {
     }
 }
 
+/// The databases in the folders of `bazowy`.
+QStringList plikiArchiwow(const QString& bazowy) {
+    QStringList wynik;
+    const QDir folder(bazowy);
+    for (const QString& nazwa : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable))
+        if (const QString plik = folder.filePath(nazwa + u'/' + kNazwaPliku); QFileInfo(plik).isFile())
+            wynik += plik;
+    return wynik;
+}
+
 OpisArchiwum opiszArchiwum(const QString& plik) {
     const QFileInfo info(plik);
     OpisArchiwum wynik{info.dir().dirName(), plik, info.lastModified(), info.size(), {}, {}};
@@ -168,12 +178,16 @@ QString NapisTresci(const OpisArchiwum& archiwum) {
 
 QList<OpisArchiwum> ListaArchiwow(const QString& bazowy) {
     QList<OpisArchiwum> wynik;
-    const QDir folder(bazowy);
-    for (const QString& nazwa : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable))
-        if (const QString plik = folder.filePath(nazwa + u'/' + kNazwaPliku); QFileInfo(plik).isFile())
-            wynik += opiszArchiwum(plik);
+    for (const QString& plik : plikiArchiwow(bazowy)) wynik += opiszArchiwum(plik);
     std::ranges::stable_sort(wynik, std::ranges::greater(), &OpisArchiwum::data);
     return wynik;
+}
+
+std::optional<QDateTime> OstatnieArchiwum(const QString& bazowy) {
+    std::optional<QDateTime> ostatnie;
+    for (const QString& plik : plikiArchiwow(bazowy))
+        ostatnie = std::max(ostatnie, std::optional(QFileInfo(plik).lastModified()));
+    return ostatnie;
 }
 
 OpisArchiwum ZnajdzArchiwum(const QString& bazowy, const QString& nazwa) {

@@ -56,6 +56,8 @@ void DopiszArchiwum(Polaczenie& polaczenie, const ZlecenieArchiwum& zlecenie);
 
 /// The archives in the folders of `bazowy`, the latest first.
 [[nodiscard]] QList<OpisArchiwum> ListaArchiwow(const QString& bazowy);
+/// When the latest of them was made, without a look into any; nothing when there is none.
+[[nodiscard]] std::optional<QDateTime> OstatnieArchiwum(const QString& bazowy);
 /// The archive that `nazwa` names: a folder of `bazowy`, or the path of a folder or file. Throws `Blad`.
 [[nodiscard]] OpisArchiwum ZnajdzArchiwum(const QString& bazowy, const QString& nazwa);
 

@@ -5,6 +5,7 @@
 #include "okna/frmInputData.h"
 #include "okna/frmPytania.h"
 #include "okna/RozmowaOkien.h"
+#include "start/PlanPracy.h"
 #include "wsparcie/BazaTestowa.h"
 #include "wsparcie/Przestrzen.h"
 #include <QApplication>
@@ -138,11 +139,48 @@ TEST_F(PowlokaTest, PrzyWczytaniuTytulStanIOstrzezenie) {
     EXPECT_EQ(tytul,
               (QStringList{stale().NazwaUzCz1, stale().NazwaUzCz2, stale().Ulica, stale().KodiMiasto}));
     okno.show();
-    auto* podpowiedz = okno.findChild<QLabel*>(u"labPodpowiedz"_s);
-    EXPECT_TRUE(podpowiedz->isVisible());
+    const auto szczegol = [&](KrokPracy krok) {
+        return okno.findChild<QLabel*>(u"labZadanie(%1)"_s.arg(static_cast<int>(krok)));
+    };
+    EXPECT_TRUE(szczegol(KrokPracy::Pracownicy)->isVisible());
+    EXPECT_EQ(szczegol(KrokPracy::Pracownicy)->text(), u"w kartotece nie ma nikogo"_s);
     dodajPracownika(1);
     okno.odswiezStan();
-    EXPECT_FALSE(podpowiedz->isVisible());
+    EXPECT_EQ(szczegol(KrokPracy::Pracownicy)->text(), u"w kartotece: 1"_s);
+}
+
+TEST_F(PowlokaTest, StronaStartowaProwadziDoEkranowKlawiatura) {
+    frmMain okno(otoczenie());
+    zarejestrujWszystko(okno);
+    okno.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&okno));
+    const auto odnosnik = [&](KrokPracy krok) {
+        return okno.findChild<QPushButton*>(u"cmdZadanie(%1)"_s.arg(static_cast<int>(krok)));
+    };
+    auto* potwierdz = okno.findChild<QPushButton*>(u"cmdPotwierdzStawki"_s);
+    // From the first link the Tab key goes down the list, the confirmation behind its own.
+    odnosnik(KrokPracy::DaneFirmy)->setFocus(Qt::TabFocusReason);
+    for (QPushButton* dalej : {odnosnik(KrokPracy::Stawki), potwierdz, odnosnik(KrokPracy::Kalendarz),
+                               odnosnik(KrokPracy::Pracownicy)}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), dalej);
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    odnosnik(KrokPracy::Skladki)->click();
+    odnosnik(KrokPracy::Obliczenie)->click();
+    EXPECT_EQ(otwarte, (std::vector{Wejscie::PracownicyWszyscy, Wejscie::ListaDRA, Wejscie::ListaPlac}));
+
+    rozmowa_.spodziewaj(PytanieOStawki(stale(), 0), Odpowiedz::Nie);
+    potwierdz->click();
+    EXPECT_TRUE(potwierdz->isVisible());
+    rozmowa_.spodziewaj(PytanieOStawki(stale(), 0), Odpowiedz::Tak);
+    potwierdz->click();
+    EXPECT_FALSE(potwierdz->isVisible());
+
+    sesja().uzytkownik = {u"Kadrowa"_s, {}, 1};
+    okno.UstawDostepnoscMenu();
+    EXPECT_FALSE(odnosnik(KrokPracy::Obliczenie)->isEnabled()) << "no right to the payroll";
+    EXPECT_TRUE(odnosnik(KrokPracy::Pracownicy)->isEnabled());
 }
 
 TEST_F(PowlokaTest, PytaniePrzedKoncem) {

@@ -63,7 +63,8 @@ KontrolaWierszy::KontrolaWierszy(const Pozycje& pozycje) {
             skladniki_[p.brutto ? Brutto : Potracenia].push_back({schemat::SM(j), p.brutto});
 }
 
-StanWiersza KontrolaWierszy::sprawdz(const Wiersz& pla, const std::optional<Wiersz>& pls) const {
+template <typename A, typename S>
+StanWiersza KontrolaWierszy::stan(const A& pla, const S* pls) const {
     std::array<Waluta, Razem> sumy{};
     StanWiersza stan;
     try {
@@ -79,6 +80,20 @@ StanWiersza KontrolaWierszy::sprawdz(const Wiersz& pla, const std::optional<Wier
     }
     stan.przelewPonadWyplate = pla.kwota(PLA("PRZELEWEM")) > NieMniejNizZero(pla.kwota(PLA("DO_WYPLATY")));
     return stan;
+}
+
+StanWiersza KontrolaWierszy::sprawdz(const Wiersz& pla, const std::optional<Wiersz>& pls) const {
+    return stan(pla, pls ? &*pls : nullptr);
+}
+
+StanWiersza KontrolaWierszy::sprawdz(const WierszeZapytania& pla, const WierszeZapytania* pls) const {
+    return stan(pla, pls);
+}
+
+void KontrolaWierszy::dodajKolumny(Zapytanie& pla, Zapytanie& pls) const {
+    pla.kolumny(PLA("BRUTTO"), PLA("DODATKI"), PLA("POTRACENIA"), PLA("PRZELEWEM"), PLA("DO_WYPLATY"));
+    for (const auto& suma : skladniki_)
+        for (const Skladnik& s : suma) pls.kolumny(s.kolumna);
 }
 
 QList<WierszDoUwagi> PrzejrzyjWiersze(const Pozycje& pozycje, const Recordset& pla, const Recordset& pls) {
@@ -114,6 +129,38 @@ QList<WierszDoUwagi> PrzejrzyjMiesiac(Otoczenie& otoczenie, RokMies miesiac) {
         if (rs == &pla) rs->Sort({PLA("PRC_ID"), PLA("LISTA")});
     }
     return PrzejrzyjWiersze(pozycje, pla, pls);
+}
+
+LicznikWierszy PoliczWiersze(Otoczenie& otoczenie, RokMies miesiac) {
+    Sesja& s = otoczenie.sesja;
+    if (!JestMiesiac(s, miesiac, {"PLA", "PLS"}))
+        throw Blad(QStringLiteral("Nie ma miesiąca %1.").arg(miesiac.napis()));
+    const KontrolaWierszy kontrola(pozycjeMiesiaca(otoczenie, miesiac));
+    Zapytanie oPla(PLA), oPls(PLS);
+    oPla.kolumny(PLA("PRC_ID"), PLA("LISTA"));
+    oPls.kolumny(PLS("PRC_ID"), PLS("LISTA"));
+    kontrola.dodajKolumny(oPla, oPls);
+    oPla.zTabel({Sesja::nazwaMiesiaca("PLA", miesiac)}).wedlug(PLA("PRC_ID"), PLA("LISTA"));
+    oPls.zTabel({Sesja::nazwaMiesiaca("PLS", miesiac)}).wedlug(PLS("PRC_ID"), PLS("LISTA"));
+    PrzygotowaneZapytanie pytaniePla(s.cnPlace, oPla), pytaniePls(s.cnPlace, oPls);
+    auto pla = pytaniePla.uruchom();
+    auto pls = pytaniePls.uruchom();
+    LicznikWierszy wynik;
+    // Both come in one order, so that each row meets its components without a search.
+    const auto kluczPls = [&] { return std::pair(pls.liczba(PLS("PRC_ID")), pls.utf8(PLS("LISTA"))); };
+    bool jestPls = pls.nastepny();
+    while (pla.nastepny()) {
+        const std::pair klucz(pla.liczba(PLA("PRC_ID")), pla.utf8(PLA("LISTA")));
+        while (jestPls && kluczPls() < klucz) jestPls = pls.nastepny();
+        const StanWiersza stan = kontrola.sprawdz(pla, jestPls && kluczPls() == klucz ? &pls : nullptr);
+        ++wynik.wierszy;
+        wynik.listy.insert(pla.tekst(PLA("LISTA")).trimmed().toUpper());
+        wynik.niePoliczonych += stan.niePoliczony;
+        wynik.przelewPonadWyplate += stan.przelewPonadWyplate;
+        if (pla.kwota(PLA("PRZELEWEM")) > Waluta())
+            wynik.przelewem.append({klucz.first, pla.tekst(PLA("LISTA"))});
+    }
+    return wynik;
 }
 
 } // namespace tornel::payroll

@@ -2,6 +2,7 @@
 #pragma once
 #include "druk/Uklad.h"
 #include "rules/Otoczenie.h"
+#include "rules/Wykonane.h"
 #include <optional>
 #include <QDate>
 #include <span>
@@ -11,6 +12,9 @@ class ListaPlac;
 } // namespace tornel::payroll
 
 namespace tornel::reports {
+
+/// A payroll list that went to paper or into a file, as it is noted: the list's symbol, empty for all lists.
+inline constexpr RodzajWykonania kWydrukListy{u"lista-plac", u"wydrukowano"};
 
 /// Which print, in the order of the menu.
 enum class WydrukListy { ListaPlac, Wersja2, Wersja3, Pokwitowania, Zbiorowka };
