@@ -1,11 +1,8 @@
 // Renders every screen on the example firm into PNG files of a folder: in its own size, and the large ones at
 // 1280x800 into a folder of that name below it.
 #include "app/frmAbout.h"
-<<<<<<< HEAD
 #include "app/frmArchiwa.h"
-=======
 #include "app/frmDziennik.h"
->>>>>>> a6e0f6a (app, okna: undo by key and menu, and the screen of the journal)
 #include "app/frmHaslo.h"
 #include "app/frmInform.h"
 #include "app/frmLogLista.h"
@@ -335,7 +332,6 @@ void zus(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.ekran(kolekcja, QStringLiteral("kolekcja"));
 }
 
-<<<<<<< HEAD
 /// The file as a whole: archives, other databases, the structure.
 void bezpieczenstwo(const Zrzuty& zrzuty, Otoczenie& o, const QString& plik) {
     const QTemporaryDir folder;
@@ -352,7 +348,8 @@ void bezpieczenstwo(const Zrzuty& zrzuty, Otoczenie& o, const QString& plik) {
         QStringLiteral("RAPORT Z AKTUALIZACJI BAZY DANYCH\n\nEXECUTE> ALTER TABLE US ADD NIP TEXT(13);\n"
                        "\nKONIEC PLIKU"));
     zrzuty.dialog(raport, QStringLiteral("raport"));
-=======
+}
+
 /// A short morning's work as the journal shows it.
 void dziennik(const Zrzuty& zrzuty, Otoczenie& o) {
     QDateTime teraz({2001, 4, 2}, {8, 12, 40});
@@ -371,7 +368,6 @@ void dziennik(const Zrzuty& zrzuty, Otoczenie& o) {
     if (auto* lista = ekran.findChild<WidokListy*>(QStringLiteral("lvwWpisy")))
         lista->wybierz(lista->lista().id(2));
     zrzuty.ekran(ekran, QStringLiteral("dziennik"));
->>>>>>> a6e0f6a (app, okna: undo by key and menu, and the screen of the journal)
 }
 
 /// The handbook as F1 opens it over a screen.
