@@ -1,5 +1,5 @@
 // Renders every screen on the example firm into PNG files of a folder: in its own size, and the large ones at
-// 1280x800 into a folder of that name below it.
+// 1280x800 into a folder of that name below it. With --ciemne in the dark theme.
 #include "app/frmAbout.h"
 #include "app/frmArchiwa.h"
 #include "app/frmDziennik.h"
@@ -14,6 +14,7 @@
 #include "app/frmOstatnieBazy.h"
 #include "app/frmRaport.h"
 #include "app/frmSplash.h"
+#include "app/frmWyglad.h"
 #include "bank/frmKonta.h"
 #include "bank/frmMCS.h"
 #include "bank/frmWybKonta.h"
@@ -391,8 +392,11 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + ekran.fileName().toUtf8());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ustawienia.path());
     Aplikacja aplikacja(argc, argv);
+    QStringList argumenty = Aplikacja::arguments();
+    zapamietajMotyw(argumenty.removeOne(QStringLiteral("--ciemne")) ? WyborMotywu::Ciemny
+                                                                    : WyborMotywu::Jasny);
     Wyglad::zastosuj(aplikacja);
-    const Zrzuty zrzuty(Aplikacja::arguments().value(1, QStringLiteral("zrzuty")));
+    const Zrzuty zrzuty(argumenty.value(1, QStringLiteral("zrzuty")));
 
     const QTemporaryDir baza;
     const QString plik = baza.filePath(QStringLiteral("Tornel.mdb"));
@@ -412,6 +416,8 @@ int main(int argc, char** argv) {
     glowne.rejestruj(Wejscie::Pomoc, [&] { podrecznik.pokazSpis(glowne); });
     glowne.wczytaj();
     zrzuty.ekran(glowne, QStringLiteral("okno-glowne"));
+    frmWyglad wyglad;
+    zrzuty.dialog(wyglad, QStringLiteral("wyglad"));
     frmAbout oProgramie;
     zrzuty.dialog(oProgramie, QStringLiteral("o-programie"));
     kadryIUstawienia(zrzuty, o);

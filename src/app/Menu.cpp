@@ -58,6 +58,7 @@ constexpr PozycjaMenu kMenu[] = {
     {kAnalizy, {}, u"PIT-40", Wejscie::PIT40, Place},
     {kKonfiguracja, {}, u"Stałe programu", Wejscie::StaleProgramu, Place, Przycisk, u"stale"},
     {kKonfiguracja, {}, u"Zmiana hasła", Wejscie::ZmianaHasla, Kazdy, Nie, u"haslo"},
+    {kKonfiguracja, {}, u"Wygląd", Wejscie::WygladOkien, Kazdy, Nie, u"wyglad"},
     {kKonfiguracja, {}, u"Utwórz archiwum danych", Wejscie::UtworzArchiwum, Kazdy, Nie, u"archiwum"},
     {kKonfiguracja, {}, u"Przywróć z archiwum", Wejscie::PrzywrocArchiwum, Administrator},
     {kKonfiguracja, {}, u"Dziennik zmian", Wejscie::DziennikZmian, Kazdy},

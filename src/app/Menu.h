@@ -45,6 +45,7 @@ enum class Wejscie {
     PIT40,
     StaleProgramu,
     ZmianaHasla,
+    WygladOkien,
     UtworzArchiwum,
     PrzywrocArchiwum,
     DziennikZmian,

@@ -9,6 +9,7 @@
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmMainWydrukiListy.h"
 #include "app/frmMainZus.h"
+#include "app/frmWyglad.h"
 #include "bank/frmKonta.h"
 #include "payroll/miesiace/frmPlace.h"
 #include "payroll/nadgodziny/frmNadg.h"
@@ -67,6 +68,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     ZarejestrujArchiwum(okno, otoczenie);
     ZarejestrujDziennik(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);
+    okno.rejestruj(Wejscie::WygladOkien, [&] { frmWyglad(&okno).exec(); });
     zarejestruj<frmLogLista>(okno, otoczenie, Wejscie::ListaUzytkownikow);
     okno.rejestruj(Wejscie::StaleProgramu, [&] {
         PortyStalych porty;

@@ -64,13 +64,13 @@ StronaStartowa::StronaStartowa(AkcjaWejscia akcja, QWidget* rodzic)
     auto* uklad = new QHBoxLayout(this);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->setSpacing(3 * Wyglad::kSiatka);
-    uklad->addWidget(ramkaZadan(), 3);
+    uklad->addWidget(ramkaZadan(), 2);
     auto* prawa = new QVBoxLayout;
     prawa->setSpacing(3 * Wyglad::kSiatka);
     prawa->addWidget(ramkaKwot());
     prawa->addWidget(skroty());
     prawa->addStretch();
-    uklad->addLayout(prawa, 2);
+    uklad->addLayout(prawa, 1);
 }
 
 QWidget* StronaStartowa::ramkaZadan() {
@@ -164,8 +164,7 @@ void StronaStartowa::pokazZadanie(const Wiersz& wiersz, const Zadanie* zadanie) 
     wiersz.odnosnik->setIcon(znakZadania(*zadanie));
     wiersz.odnosnik->setAccessibleDescription(stanSlowem(*zadanie));
     wiersz.szczegol->setText(zadanie->szczegol);
-    wiersz.termin->setText(zadanie->poTerminie ? zadanie->napisTerminu() + QStringLiteral(", po terminie")
-                                               : zadanie->napisTerminu());
+    wiersz.termin->setText(zadanie->napisTerminu());
     Wyglad::oznaczPilne(*wiersz.termin, zadanie->poTerminie);
 }
 

@@ -1,6 +1,9 @@
 #include "app/frmSplash.h"
 #include "common/Rozmowa.h"
 #include "okna/Wyglad.h"
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
 #include <QPainter>
 
 namespace tornel::app {
@@ -16,6 +19,12 @@ constexpr QColor kNapis(0xf8, 0xfa, 0xfb);
 
 frmSplash::frmSplash() : QSplashScreen(Wyglad::ikona(u"powitanie").pixmap(kRozmiar, 1.0)) {
     setObjectName(QStringLiteral("frmSplash"));
+    qApp->installEventFilter(this);
+}
+
+bool frmSplash::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
+    if (zdarzenie->type() == QEvent::Show && qobject_cast<QDialog*>(obiekt)) hide();
+    return QSplashScreen::eventFilter(obiekt, zdarzenie);
 }
 
 void frmSplash::drawContents(QPainter* malarz) {

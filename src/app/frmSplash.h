@@ -1,4 +1,5 @@
-// The picture shown while the program starts.
+// The picture shown while the program starts. It goes as soon as a window asks the clerk something, so that
+// neither covers the other.
 #pragma once
 #include "common/Przestrzenie.h"
 #include <QSplashScreen>
@@ -11,6 +12,7 @@ public:
     frmSplash();
 
 protected:
+    bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
     void drawContents(QPainter* malarz) override;
 };
 

@@ -101,4 +101,8 @@ void przywroc(QWidget& okno) {
     }
 }
 
+QString ustawienie(const QString& nazwa) { return ustawienia().value(nazwa).toString(); }
+
+void ustaw(const QString& nazwa, const QString& wartosc) { ustawienia().setValue(nazwa, wartosc); }
+
 } // namespace tornel::okna::pamiecOkien

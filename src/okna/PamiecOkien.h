@@ -3,6 +3,7 @@
 #pragma once
 #include "common/Przestrzenie.h"
 
+class QString;
 class QWidget;
 
 namespace tornel::okna::pamiecOkien {
@@ -18,5 +19,9 @@ void pamietajWybor(QWidget& wybor);
 void zapamietaj(const QWidget& okno);
 /// Gives the window back what was noted; what is missing or does not fit is left as it was built.
 void przywroc(QWidget& okno);
+
+/// A choice of the desktop's kind that belongs to no window, by its name with a group, as "wyglad/barwy".
+[[nodiscard]] QString ustawienie(const QString& nazwa);
+void ustaw(const QString& nazwa, const QString& wartosc);
 
 } // namespace tornel::okna::pamiecOkien

@@ -24,6 +24,8 @@ namespace tornel::okna {
 namespace {
 
 constexpr int kRozmiarPisma = 10;
+/// Windows below this lightness, of 255, are a dark desktop's.
+constexpr int kCiemnyPulpit = 128;
 constexpr int kWysokoscWiersza = 22;
 constexpr int kOdstepWLiscie = 5;
 constexpr int kOdstepWPolu = 2;
@@ -77,9 +79,41 @@ public:
     void drawPrimitive(PrimitiveElement co, const QStyleOption* opcja, QPainter* malarz,
                        const QWidget* widzet) const override {
         QProxyStyle::drawPrimitive(co, opcja, malarz, widzet);
+        obrysuj(co, *opcja, *malarz);
         // One ground for all tabs, whether or not their pages scroll.
         if (co == PE_FrameTabWidget)
             malarz->fillRect(opcja->rect.adjusted(1, 1, -1, -1), opcja->palette.window());
+    }
+    void drawControl(ControlElement co, const QStyleOption* opcja, QPainter* malarz,
+                     const QWidget* widzet) const override {
+        const auto* pozycja = qstyleoption_cast<const QStyleOptionMenuItem*>(opcja);
+        if (co != CE_MenuItem || !pozycja || !(pozycja->state & State_Selected) || pozycja->icon.isNull())
+            return QProxyStyle::drawControl(co, opcja, malarz, widzet);
+        // The entry under the mouse has the accent's ground, on which a picture in the colour of plain text
+        // would vanish.
+        QStyleOptionMenuItem wybrana = *pozycja;
+        const int bok = pixelMetric(PM_SmallIconSize, opcja, widzet);
+        if (wybrana.state & State_Enabled)
+            wybrana.icon = QIcon(wybrana.icon.pixmap(QSize(bok, bok), QIcon::Selected));
+        QProxyStyle::drawControl(co, &wybrana, malarz, widzet);
+    }
+    /// Fusion takes the ground made darker for the outlines of fields and boxes, which on a dark one nobody
+    /// sees.
+    static void obrysuj(PrimitiveElement co, const QStyleOption& opcja, QPainter& malarz) {
+        const bool pole = co == PE_FrameLineEdit;
+        const bool znak = co == PE_IndicatorCheckBox || co == PE_IndicatorRadioButton;
+        if ((!pole && !znak) || opcja.palette.color(QPalette::Window).lightness() >= kCiemnyPulpit) return;
+        const QRectF obrys = QRectF(opcja.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        const double promien = co == PE_IndicatorRadioButton ? obrys.width() / 2 : 2;
+        malarz.save();
+        malarz.setRenderHint(QPainter::Antialiasing);
+        malarz.setBrush(Qt::NoBrush);
+        const bool wPracy = pole && (opcja.state & State_HasFocus);
+        malarz.setPen(opcja.palette.color(wPracy ? QPalette::Highlight
+                                          : pole ? QPalette::Mid
+                                                 : QPalette::PlaceholderText));
+        malarz.drawRoundedRect(obrys, promien, promien);
+        malarz.restore();
     }
     QIcon standardIcon(StandardPixmap obraz, const QStyleOption* opcja,
                        const QWidget* widzet) const override {
@@ -102,96 +136,6 @@ public:
         return QProxyStyle::styleHint(wskazowka, opcja, widzet, zwrot);
     }
 };
-
-struct Barwy {
-    QColor tlo, pole, obliczane, tekst, zablokowany, wygaszony, linia, przycisk, akcent, naAkcencie;
-};
-
-const Barwy& jasne() {
-    static const Barwy barwy{0xf3f5f6, 0xffffff, 0xe6ebee, 0x1d2529, 0x4d585e,
-                             0x7b868c, 0xc3ccd1, 0xfafbfb, 0x1f6f8b, 0xffffff};
-    return barwy;
-}
-
-const Barwy& ciemne() {
-    static const Barwy barwy{0x262b2e, 0x1c2023, 0x31383c, 0xe6eaec, 0xb4bdc2,
-                             0x8a959b, 0x4a5459, 0x30363a, 0x58b5d2, 0x10181c};
-    return barwy;
-}
-
-QPalette paleta(const Barwy& b) {
-    QPalette p;
-    p.setColor(QPalette::Window, b.tlo);
-    p.setColor(QPalette::WindowText, b.tekst);
-    p.setColor(QPalette::Base, b.pole);
-    p.setColor(QPalette::AlternateBase, b.obliczane);
-    p.setColor(QPalette::Text, b.tekst);
-    p.setColor(QPalette::Button, b.przycisk);
-    p.setColor(QPalette::ButtonText, b.tekst);
-    p.setColor(QPalette::BrightText, b.naAkcencie);
-    p.setColor(QPalette::Mid, b.linia);
-    p.setColor(QPalette::Light, b.pole);
-    p.setColor(QPalette::Midlight, b.przycisk);
-    p.setColor(QPalette::Dark, b.linia.darker(130));
-    p.setColor(QPalette::Shadow, b.linia.darker(180));
-    p.setColor(QPalette::Highlight, b.akcent);
-    p.setColor(QPalette::HighlightedText, b.naAkcencie);
-    p.setColor(QPalette::Link, b.akcent);
-    p.setColor(QPalette::LinkVisited, b.akcent);
-    p.setColor(QPalette::ToolTipBase, b.pole);
-    p.setColor(QPalette::ToolTipText, b.tekst);
-    p.setColor(QPalette::PlaceholderText, b.wygaszony);
-    for (const auto rola : {QPalette::WindowText, QPalette::ButtonText})
-        p.setColor(QPalette::Disabled, rola, b.wygaszony);
-    p.setColor(QPalette::Disabled, QPalette::Text,
-               b.zablokowany); // a blocked month is still there to be read
-    p.setColor(QPalette::Disabled, QPalette::Base, b.tlo);
-    p.setColor(QPalette::Disabled, QPalette::Highlight, b.linia);
-    return p;
-}
-
-QString arkusz(const Barwy& b) {
-    return QStringLiteral(R"(
-QGroupBox { border: 1px solid palette(mid); border-radius: 4px; margin-top: 10px; padding: 8px 4px 4px 4px; }
-QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; color: palette(highlight); }
-QPushButton { border: 1px solid palette(mid); border-radius: 4px; background: palette(button);
-              padding: 4px 14px; min-height: 20px; }
-QPushButton:hover { background: palette(alternate-base); }
-QPushButton:pressed { background: palette(mid); }
-QPushButton:default { border: 2px solid palette(highlight); padding: 3px 13px; }
-QPushButton:focus { border: 2px solid palette(highlight); padding: 3px 13px; background: palette(alternate-base); }
-QPushButton:disabled { color: %2; border-color: palette(alternate-base);
-                       background: palette(window); }
-QPushButton[doPrzeliczenia="true"], QToolButton[doPrzeliczenia="true"] { background: rgb(238,238,64);
-                                                                         color: rgb(29,37,41); }
-QLineEdit[obliczane="true"], QPlainTextEdit[obliczane="true"] { background: palette(alternate-base);
-    border: 1px solid palette(alternate-base); border-radius: 2px; padding: 1px 0;
-    min-height: 22px; }
-QLineEdit[blad="true"] { border: 2px solid rgb(198,40,40); border-radius: 2px; padding: 0 1px; min-height: 22px; }
-QLabel[uwagaPola="true"] { background: rgb(255,235,238); color: rgb(136,14,14); border: 1px solid rgb(198,40,40);
-                           border-radius: 3px; padding: 3px 6px; }
-QLineEdit[glowne="true"] { font-weight: bold; }
-QLabel[baner="true"] { background: palette(highlight); color: palette(highlighted-text); padding: 6px 8px;
-                       border-radius: 4px; }
-QLabel[wolny="true"] { background: rgb(208,0,0); color: rgb(255,255,255); font-weight: bold;
-                       border-radius: 3px; }
-QLabel[koniecTygodnia="true"] { font-weight: bold; }
-QLabel[podpowiedz="true"] { color: %1; }
-QPushButton[kafel="true"] { text-align: left; padding: 12px 8px; background: palette(base); }
-QPushButton[odnosnik="true"] { text-align: left; border: 1px solid transparent; background: transparent;
-                               padding: 2px 6px; color: palette(link); text-decoration: underline; }
-QPushButton[odnosnik="true"]:hover { background: palette(alternate-base); }
-QPushButton[odnosnik="true"]:focus { border: 1px solid palette(highlight); background: palette(alternate-base); }
-QPushButton[odnosnik="true"]:disabled { color: palette(window-text); text-decoration: none; background: transparent; }
-QLabel[pilne="true"] { font-weight: bold; }
-QToolBar QToolButton { font-size: 9pt; padding: 2px 3px; }
-QHeaderView::section { background: palette(alternate-base); color: palette(text); border: none;
-                       border-right: 1px solid palette(mid); padding: 4px 3px; }
-QToolBar { border: none; border-bottom: 1px solid palette(mid); spacing: 2px; padding: 2px 6px; }
-QComboBox:disabled, QCheckBox:disabled, QRadioButton:disabled { color: %1; }
-)")
-        .arg(b.zablokowany.name(), b.wygaszony.name());
-}
 
 /// An SVG whose currentColor takes the palette's text colour at the moment of drawing.
 class IkonaPalety : public QIconEngine {
@@ -252,15 +196,22 @@ void oznacz(QWidget& widzet, const char* wlasnosc, bool wartosc) {
 namespace Wyglad {
 
 void zastosuj(QApplication& program) {
-    const bool ciemnyPulpit = program.palette().color(QPalette::Window).lightness() < 128;
     program.setStyle(new StylTornel);
-    const Barwy& barwy = ciemnyPulpit ? ciemne() : jasne();
-    program.setPalette(paleta(barwy));
     QFont pismo = program.font();
     pismo.setPointSize(kRozmiarPisma);
     program.setFont(pismo);
-    program.setStyleSheet(arkusz(barwy));
+    pokazMotyw(program, zapamietanyMotyw());
     program.setWindowIcon(ikona(u"program"));
+}
+
+void pokazMotyw(QApplication& program, WyborMotywu wybor) {
+    Motyw motyw = wybor == WyborMotywu::Ciemny ? Motyw::Ciemny : Motyw::Jasny;
+    if (wybor == WyborMotywu::JakPulpit) {
+        program.setPalette(QPalette()); // the desktop's own comes to light
+        if (program.palette().color(QPalette::Window).lightness() < kCiemnyPulpit) motyw = Motyw::Ciemny;
+    }
+    program.setPalette(PaletaMotywu(motyw));
+    program.setStyleSheet(ArkuszMotywu(motyw));
 }
 
 QIcon ikona(QStringView nazwa) {

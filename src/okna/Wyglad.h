@@ -1,6 +1,6 @@
 // The one look of the program: style, palette, style sheet, the 8 px grid and the pictures.
 #pragma once
-#include "common/Przestrzenie.h"
+#include "okna/Barwy.h"
 #include <QColor>
 #include <QIcon>
 #include <QStringView>
@@ -25,9 +25,11 @@ inline constexpr int kWysokoscPola = 26;
 /// Ground of a button whose row waits for its calculation.
 inline constexpr QColor kDoPrzeliczenia{238, 238, 64};
 
-/// Sets style, font, palette and style sheet of the whole program. On a dark desktop the dark palette is
-/// taken.
+/// Sets style, font, palette and style sheet of the whole program, in the theme that was chosen.
 void zastosuj(QApplication& program);
+/// Shows the whole program in the theme, windows that are open too, without remembering it. As the desktop:
+/// dark where its windows are.
+void pokazMotyw(QApplication& program, WyborMotywu wybor);
 
 /// The picture `nazwa` of data/obrazy, drawn in the text colour of the palette in force (dimmed when
 /// disabled). An unknown name gives an empty icon.

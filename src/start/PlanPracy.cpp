@@ -124,7 +124,7 @@ void opiszStawki(const Obraz& obraz, Zadanie& z) {
     if (obraz.jestMiesiac()) z.napis = QStringLiteral("Stawki roku %1").arg(obraz.miesiac().rok);
     z.szczegol = NapisWykonania(kPotwierdzenieStawek, potwierdzenia(obraz));
     z.zrobione = !z.szczegol.isEmpty();
-    if (!z.zrobione) z.szczegol = QStringLiteral("z szablonu programu, nikt ich nie potwierdził");
+    if (!z.zrobione) z.szczegol = QStringLiteral("z szablonu programu, niepotwierdzone");
 }
 
 void opiszKalendarz(const Obraz& obraz, Zadanie& z) {
@@ -184,6 +184,7 @@ void opiszWydruk(const Obraz& obraz, Zadanie& z) {
         brakuje.remove(w.lista.trimmed().toUpper());
     }
     z.zrobione = !wydruki.isEmpty() && brakuje.isEmpty();
+    if (wydruki.isEmpty()) z.szczegol = QStringLiteral("nie wydrukowano");
     if (z.zrobione || wydruki.isEmpty()) return;
     QStringList symbole(brakuje.begin(), brakuje.end());
     symbole.sort();
@@ -207,8 +208,8 @@ void opiszPodatek(const Obraz& obraz, Zadanie& z) {
     z.termin = obraz.termin(kDzienPodatku);
     const Zaplata podatek = PodatekMiesiaca(obraz.o.sesja, obraz.miesiac());
     z.zrobione = podatek.zgloszona;
-    z.szczegol = (z.zrobione ? QStringLiteral("zaliczki z list płac %1, deklaracja jest")
-                             : QStringLiteral("zaliczki z list płac %1, deklaracji jeszcze nie ma"))
+    z.szczegol = (z.zrobione ? QStringLiteral("z list płac %1, deklaracja jest")
+                             : QStringLiteral("z list płac %1, brak deklaracji"))
                      .arg(NapisKwoty(podatek.kwota));
 }
 
@@ -219,9 +220,9 @@ void opiszSkladki(const Obraz& obraz, Zadanie& z) {
     z.termin = obraz.termin(dzienSkladek(obraz.o.stale));
     const Zaplata skladki = SkladkiMiesiaca(obraz.o.sesja, obraz.miesiac());
     z.zrobione = skladki.zgloszona;
-    z.szczegol = (z.zrobione ? QStringLiteral("do zapłaty %1")
-                             : QStringLiteral("z list płac %1, rozliczenia jeszcze nie ma"))
-                     .arg(NapisKwoty(skladki.kwota));
+    z.szczegol =
+        (z.zrobione ? QStringLiteral("do zapłaty %1") : QStringLiteral("z list płac %1, brak rozliczenia"))
+            .arg(NapisKwoty(skladki.kwota));
 }
 
 void opiszDokumenty(const Obraz& obraz, Zadanie& z) {
@@ -229,7 +230,7 @@ void opiszDokumenty(const Obraz& obraz, Zadanie& z) {
     z.termin = obraz.termin(dzienSkladek(obraz.o.stale));
     z.szczegol = RaportyZapisane(obraz.o.sesja, obraz.miesiac());
     z.zrobione = !z.szczegol.isEmpty();
-    if (!z.zrobione) z.szczegol = QStringLiteral("raportów miesiąca nie zapisano");
+    if (!z.zrobione) z.szczegol = QStringLiteral("nie zapisano raportów");
 }
 
 void opiszNastepny(const Obraz& obraz, Zadanie& z) { z.szczegol = obraz.miesiac().plus(1).napis(); }
@@ -315,7 +316,8 @@ QString czytaj(Obraz& obraz) {
 
 QString Zadanie::napisTerminu() const {
     if (!termin.isValid()) return {};
-    QString tekst = QStringLiteral("do ") + FormatDaty(termin);
+    QString tekst =
+        (poTerminie ? QStringLiteral("po terminie: ") : QStringLiteral("do ")) + FormatDaty(termin);
     const auto swieta = SwietaUstawowe(termin.year());
     const auto swieto = std::ranges::find(swieta, termin, &Swieto::data);
     if (swieto != swieta.end())

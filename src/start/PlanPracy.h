@@ -42,7 +42,8 @@ struct Zadanie {
     QDate termin = {}; ///< the last day for it; invalid for none
     bool poTerminie = false;
 
-    /// "do 15-04-2001", of a day on which offices are closed also its name; empty without a day.
+    /// "do 15-04-2001", "po terminie: 15-04-2001", of a day on which offices are closed also its name; empty
+    /// without a day.
     [[nodiscard]] QString napisTerminu() const;
 };
 

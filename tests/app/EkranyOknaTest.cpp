@@ -478,8 +478,9 @@ TEST_F(EkranyTest, KadryNieDochodzaDoPlac) {
     otoczenie().sesja.uzytkownik = {u"Kadrowa"_s, {}, 1};
     okno_.reset();
     otworzOkno();
-    EXPECT_EQ(wszystkimi(), (std::set<QString>{u"frmPrac"_s, u"frmHaslo"_s, u"frmAbout"_s,
-                                               u"frmOstatnieBazy"_s, u"QFileDialog"_s, u"frmDziennik"_s}));
+    EXPECT_EQ(wszystkimi(),
+              (std::set<QString>{u"frmPrac"_s, u"frmHaslo"_s, u"frmAbout"_s, u"frmOstatnieBazy"_s,
+                                 u"QFileDialog"_s, u"frmDziennik"_s, u"frmWyglad"_s}));
 }
 
 } // namespace

@@ -14,8 +14,9 @@ namespace {
 
 using enum Wejscie;
 
-const std::set<Wejscie> kDlaKazdego{Cofnij,      Ponow,          OtworzBaze,    OstatnieBazy, Koniec,
-                                    ZmianaHasla, UtworzArchiwum, DziennikZmian, Pomoc,        OProgramie};
+const std::set<Wejscie> kDlaKazdego{Cofnij,        Ponow,       OtworzBaze,  OstatnieBazy,
+                                    Koniec,        ZmianaHasla, WygladOkien, UtworzArchiwum,
+                                    DziennikZmian, Pomoc,       OProgramie};
 const std::set<Wejscie> kKadry{
     PracownicyWszyscy,      PracownicyPracujacy, PracownicyZwolnieni, PracownicyUmowaZlecenie,
     PracownicyUmowaODzielo, PracownicyHonoraria, UmowyOPrace};
