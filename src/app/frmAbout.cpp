@@ -1,5 +1,6 @@
 #include "app/frmAbout.h"
 #include "common/Rozmowa.h"
+#include "okna/Mnemoniki.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
 #include <QGridLayout>
@@ -42,6 +43,7 @@ frmAbout::frmAbout(QWidget* rodzic) : QDialog(rodzic) {
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     siatka->setSizeConstraint(QLayout::SetFixedSize);
+    mnemoniki::nadajPrzyciskom(*this);
 }
 
 } // namespace tornel::app

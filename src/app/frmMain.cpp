@@ -4,6 +4,7 @@
 #include "app/Uprawnienia.h"
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
+#include "okna/Mnemoniki.h"
 #include "okna/Wyglad.h"
 #include "rules/Konfiguracja.h"
 #include "start/Foldery.h"
@@ -91,6 +92,7 @@ void frmMain::budujMenu() {
         connect(akcja, &QAction::triggered, this, [this, wejscie] { otworz(wejscie); });
         akcje_[wejscie] = akcja;
     }
+    mnemoniki::nadaj(*menuBar());
 }
 
 void frmMain::budujPasek() {
@@ -203,9 +205,12 @@ void frmMain::UstawDostepnoscMenu() {
     for (const auto& [wejscie, napis] : napisy_) {
         const QString tekst = napis();
         QAction* akcja = akcje_.at(wejscie);
-        akcja->setText(tekst.isEmpty() ? pozycjaMenu(wejscie).napis.toString() : tekst);
+        // What was done is named by data, in which the sign is only a sign.
+        akcja->setText(tekst.isEmpty() ? pozycjaMenu(wejscie).napis.toString()
+                                       : QString(tekst).replace(QLatin1Char('&'), QLatin1String("&&")));
         akcja->setEnabled(akcja->isEnabled() && !tekst.isEmpty());
     }
+    mnemoniki::nadaj(*menuBar());
     for (const auto& [nazwa, menu] : menu_) {
         const auto pozycje = menu->actions();
         const bool otwarte =

@@ -4,6 +4,7 @@
 #include "druk/Tabela.h"
 #include "druk/Wyjscie.h"
 #include "okna/Drukowanie.h"
+#include "okna/Mnemoniki.h"
 #include "okna/RozmowaOkien.h"
 #include "okna/WidokListy.h"
 #include <QFileDialog>
@@ -66,6 +67,7 @@ MenuListy::MenuListy(WidokListy& lista) : QMenu(&lista) {
     dodaj(QStringLiteral("Zapisz listę jako CSV..."), {}, [&lista] { zapiszCsv(lista); });
     dodaj(QStringLiteral("Drukuj listę..."), {}, [&lista] { drukujListe(lista); });
     addMenu(new MenuKolumn(lista, this));
+    mnemoniki::nadaj(*this);
 }
 
 void MenuListy::dodajPrzyciski(const WidokListy& lista) {
@@ -95,6 +97,7 @@ MenuKolumn::MenuKolumn(WidokListy& lista, QWidget* rodzic) : QMenu(QStringLitera
         connect(kolumna, &QAction::toggled, &lista, [&lista, k](bool jest) { lista.pokazKolumne(k, jest); });
     }
     menuAction()->setVisible(actions().size() > 1);
+    mnemoniki::nadaj(*this);
 }
 
 std::shared_ptr<const Uklad> UlozListe(const WidokListy& lista) {

@@ -1,6 +1,7 @@
 #include "okna/Okno.h"
 #include "common/Blad.h"
 #include "okna/Aplikacja.h"
+#include "okna/Mnemoniki.h"
 #include "okna/PamiecOkien.h"
 #include <algorithm>
 #include <QCloseEvent>
@@ -47,6 +48,7 @@ QSplitter* Okno::dzielnik(QWidget* lewa, int szerokosc, QWidget* prawa) {
 
 void Okno::showEvent(QShowEvent* zdarzenie) {
     if (!std::exchange(pokazane_, true)) {
+        mnemoniki::nadajPrzyciskom(*this);
         pamiecOkien::przywroc(*this);
         // A screen smaller than the one the window was made or left on.
         resize(size().boundedTo(screen()->availableSize() - kRamkaOkna));

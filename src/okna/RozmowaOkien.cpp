@@ -1,5 +1,6 @@
 #include "okna/RozmowaOkien.h"
 #include "okna/frmPytania.h"
+#include "okna/Mnemoniki.h"
 #include <limits>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -118,6 +119,7 @@ void RozmowaOkien::komunikat(const QString& tekst, Styl styl, const QString& tyt
         dodajPrzycisk(okno, QStringLiteral("OK"), QMessageBox::AcceptRole, QStringLiteral("cmdOK"));
     okno.setDefaultButton(ok);
     okno.setEscapeButton(ok);
+    mnemoniki::nadajPrzyciskom(okno);
     okno.exec();
 }
 
@@ -176,6 +178,7 @@ std::optional<QString> RozmowaOkien::wprowadz(const QString& tekst, const QStrin
     // The dialog takes its width from its contents.
     if (auto* pole = okno.findChild<QLineEdit*>()) pole->setMinimumWidth(kSzerokoscPytania);
     if (auto* napis = okno.findChild<QLabel*>()) napis->setTextFormat(Qt::PlainText);
+    mnemoniki::nadajPrzyciskom(okno);
     if (okno.exec() != QDialog::Accepted) return {};
     return okno.textValue();
 }

@@ -32,7 +32,7 @@ constexpr int kOdstepWPolu = 2;
 /// Added to the caption of a tab: eleven of them have to stand side by side.
 constexpr int kOdstepZakladki = 2 * Wyglad::kSiatka;
 
-/// Fusion on the 8 px grid, with menus that a first letter reaches, since their captions carry no mnemonics.
+/// Fusion on the 8 px grid.
 class StylTornel : public QProxyStyle {
 public:
     StylTornel() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -129,11 +129,6 @@ public:
         default:
             return QProxyStyle::standardIcon(obraz, opcja, widzet);
         }
-    }
-    int styleHint(StyleHint wskazowka, const QStyleOption* opcja, const QWidget* widzet,
-                  QStyleHintReturn* zwrot) const override {
-        if (wskazowka == SH_Menu_KeyboardSearch) return 1;
-        return QProxyStyle::styleHint(wskazowka, opcja, widzet, zwrot);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "common/Rozmowa.h"
 #include "druk/Wyjscie.h"
 #include "okna/Klepsydra.h"
+#include "okna/Mnemoniki.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
 #include <QClipboard>
@@ -47,6 +48,7 @@ frmPodglad::frmPodglad(std::shared_ptr<const Uklad> uklad, Rozmowa& rozmowa, QWi
     connect(widok_, &WidokStrony::pokazano, this, &frmPodglad::pokazano);
     widok_->powieksz(Powiekszenie::SzerokoscStrony);
     widok_->pokazStrone(0);
+    mnemoniki::nadajPrzyciskom(*this);
     widok_->setFocus();
 }
 

@@ -37,7 +37,7 @@ protected:
     QString napis(Wejscie wejscie) {
         okno_.UstawDostepnoscMenu();
         const QAction* akcja = okno_.akcja(wejscie);
-        return akcja->isEnabled() ? akcja->text() : QString();
+        return akcja->isEnabled() ? akcja->text().remove(u'&') : QString();
     }
     template <typename T>
     static T& pole(QWidget& ekran, const char16_t* nazwa) {

@@ -7,6 +7,7 @@
 #include "bank/frmMCS.h"
 #include "bank/frmWybKonta.h"
 #include "okna/frmInputData.h"
+#include "okna/MenuListy.h"
 #include "okna/WidokListy.h"
 #include "payroll/lista/frmPlaceLista.h"
 #include "payroll/miesiace/frmPlace.h"
@@ -19,6 +20,7 @@
 #include "personnel/Urlopy.h"
 #include "start/Przyklad.h"
 #include "start/Rozruch.h"
+#include "wsparcie/Litery.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/RozmowaSkrypt.h"
 #include "wsparcie/RozmowaZgoda.h"
@@ -200,6 +202,14 @@ void sprawdzMnemoniki(const QWidget& ekran) {
     for (const auto* p : ekran.findChildren<QAbstractButton*>()) sprawdz(p->text(), *p);
     for (const auto* napis : ekran.findChildren<QLabel*>())
         if (napis->buddy()) sprawdz(napis->text(), *napis);
+    for (const auto* p : ekran.findChildren<QPushButton*>()) {
+        const bool czynnosc = p->isVisible() && p->text().size() > 1 && p->text()[0].isLetter();
+        EXPECT_TRUE(!czynnosc || !mnemonik(p->text()).isEmpty())
+            << p->text().toStdString() << " has no letter";
+        if (p->menu()) sprawdzLiteryMenu(p->menu()->actions());
+    }
+    for (auto* lista : ekran.findChildren<WidokListy*>())
+        if (lista->isVisible()) sprawdzLiteryMenu(MenuListy(*lista).actions());
 }
 
 void sprawdzNazwyDostepne(QWidget& ekran) {

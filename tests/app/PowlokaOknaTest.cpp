@@ -7,6 +7,7 @@
 #include "okna/RozmowaOkien.h"
 #include "start/PlanPracy.h"
 #include "wsparcie/BazaTestowa.h"
+#include "wsparcie/Litery.h"
 #include "wsparcie/Przestrzen.h"
 #include <QApplication>
 #include <QComboBox>
@@ -39,7 +40,7 @@ const QString kPytanieOArchiwum = u"Czy utworzyć archiwum bazy danych programu 
 QStringList wejsciaMenu(const QMenu& menu, const QString& sciezka) {
     QStringList wynik;
     for (const QAction* akcja : menu.actions()) {
-        const QString tu = sciezka + QLatin1Char('>') + akcja->text();
+        const QString tu = sciezka + QLatin1Char('>') + bezLitery(akcja->text());
         if (akcja->menu())
             wynik += wejsciaMenu(*akcja->menu(), tu);
         else
@@ -69,7 +70,8 @@ TEST_F(PowlokaTest, MenuStoiWCalosciABezEkranuWejscieJestZamkniete) {
     EXPECT_EQ(okno.windowTitle(), u"Tornel 2001"_s);
     QStringList wejscia;
     for (const QAction* akcja : okno.menuBar()->actions())
-        wejscia += wejsciaMenu(*akcja->menu(), akcja->text());
+        wejscia += wejsciaMenu(*akcja->menu(), bezLitery(akcja->text()));
+    sprawdzLiteryMenu(okno.menuBar()->actions());
     const QStringList oczekiwane =
         QStringLiteral(
             "Plik>Cofnij|Plik>Ponów|Plik>Otwórz bazę|Plik>Ostatnie bazy|Plik>Koniec|Pracownicy>Wszyscy "
@@ -107,7 +109,7 @@ TEST_F(PowlokaTest, PrawaZamykajaMenuIPasek) {
         EXPECT_EQ(okno.akcja(p.wejscie)->isEnabled(), p.prawo == Prawo::Kadry || p.prawo == Prawo::Kazdy)
             << p.napis.toString().toStdString();
     for (const QAction* akcja : okno.menuBar()->actions())
-        EXPECT_EQ(akcja->isEnabled(), dozwoloneMenu(akcja->text(), sesja().uzytkownik))
+        EXPECT_EQ(akcja->isEnabled(), dozwoloneMenu(bezLitery(akcja->text()), sesja().uzytkownik))
             << akcja->text().toStdString();
     EXPECT_TRUE(przyciskPaska(okno, u"Pracownicy"_s).isEnabled());
     for (const QString& zamkniety : {u"Płace"_s, u"Analizy"_s, u"Umowy zlecenia"_s, u"Stałe programu"_s})

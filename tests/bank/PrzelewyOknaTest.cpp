@@ -9,6 +9,7 @@
 #include "okna/Drukowanie.h"
 #include "okna/frmPodglad.h"
 #include "rules/Stale.h"
+#include "wsparcie/Litery.h"
 #include "wsparcie/OknaPlacTestowe.h"
 #include "wsparcie/Przestrzen.h"
 #include <QBuffer>
@@ -60,7 +61,7 @@ protected:
     }
     static QAction& wejscieMenu(const QWidget& okno, const QString& napis) {
         for (QAction* a : widzet<QPushButton>(okno, u"cmdDrukuj"_s).menu()->actions())
-            if (a->text() == napis) return *a;
+            if (bezLitery(a->text()) == napis) return *a;
         throw std::runtime_error("no entry " + napis.toStdString());
     }
     void drukuj(const QWidget& okno, const QString& napis) { wejscieMenu(okno, napis).trigger(); }

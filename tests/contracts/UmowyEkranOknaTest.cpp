@@ -9,6 +9,7 @@
 #include "personnel/frmData.h"
 #include "personnel/frmWybPr.h"
 #include "rules/Stale.h"
+#include "wsparcie/Litery.h"
 #include "wsparcie/UmowyTestowe.h"
 #include "wsparcie/Widzet.h"
 #include <QApplication>
@@ -100,7 +101,7 @@ protected:
     QStringList menu() {
         QStringList wynik;
         for (const QAction* a : k<QPushButton>(u"cmdDrukuj"_s).menu()->actions())
-            wynik += a->isSeparator() ? u"-"_s : a->text();
+            wynik += a->isSeparator() ? u"-"_s : bezLitery(a->text());
         return wynik;
     }
 

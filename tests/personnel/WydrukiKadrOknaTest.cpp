@@ -5,6 +5,7 @@
 #include "personnel/frmKartaEw.h"
 #include "personnel/frmWydrukKadr.h"
 #include "wsparcie/EkranPracownikow.h"
+#include "wsparcie/Litery.h"
 #include "wsparcie/Widzet.h"
 #include <QAction>
 #include <QComboBox>
@@ -44,7 +45,7 @@ protected:
 
 void wybierzZMenu(frmPrac& ekran, const QString& napis) {
     for (QAction* a : widzet<QPushButton>(ekran, u"cmdDrukuj"_s).menu()->actions())
-        if (a->text() == napis) return a->trigger();
+        if (bezLitery(a->text()) == napis) return a->trigger();
     FAIL() << napis.toStdString();
 }
 
