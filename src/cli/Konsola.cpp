@@ -24,8 +24,8 @@ const QList<Polecenie>& polecenia() {
     static const QList<Polecenie> wszystkie =
         poleceniaBazy() + poleceniaRegul() + poleceniaKadr() + poleceniaNieobecnosci() + poleceniaTabel() +
         poleceniaMiesiecy() + poleceniaListy() + poleceniaNadgodzin() + poleceniaBanku() + poleceniaUmow() +
-        poleceniaZus() + poleceniaPodatkow() + poleceniaZestawien() + poleceniaWydrukow() +
-        poleceniaArchiwum() + poleceniaStruktury() + poleceniaDziennika();
+        poleceniaUmowOPrace() + poleceniaZus() + poleceniaPodatkow() + poleceniaZestawien() +
+        poleceniaWydrukow() + poleceniaArchiwum() + poleceniaStruktury() + poleceniaDziennika();
     return wszystkie;
 }
 

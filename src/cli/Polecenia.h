@@ -39,6 +39,7 @@ inline constexpr int kDowolnieWiele = 1'000'000;
 [[nodiscard]] QList<Polecenie> poleceniaWydrukow();
 [[nodiscard]] QList<Polecenie> poleceniaZestawien();
 [[nodiscard]] QList<Polecenie> poleceniaUmow();
+[[nodiscard]] QList<Polecenie> poleceniaUmowOPrace();
 [[nodiscard]] QList<Polecenie> poleceniaZus();
 [[nodiscard]] QList<Polecenie> poleceniaArchiwum();
 [[nodiscard]] QList<Polecenie> poleceniaStruktury();

@@ -285,6 +285,13 @@ inline constexpr KolumnaDef UMOP[] = {
     {"Sgp", Currency}, // zł an hour
     {"Premia_pr", Currency}, // percent
     {"inf_opis", Memo},
+    {"zmienia", Short}, // the contract whose terms this row changes, 0 for a contract of its own
+    {"wyp_2tyg", Text, 1}, // fixed term that notice of two weeks may end, T/N
+    {"inne_war", Memo}, // other terms of work
+    {"sposob", Short}, // how it ends, position in its list; 0 while it lasts
+    {"data_wyp", Date}, // notice given on
+    {"data_roz", Date}, // last day of the employment
+    {"przyczyna", Memo}, // of the notice
 };
 
 /// Vacation register.

@@ -40,6 +40,13 @@ constexpr KrokWersji kKroki[] = {
                    "\"DANE\" MEMO TEXT)");
          p.wykonaj("CREATE UNIQUE INDEX \"I_DZIENNIK_ZMIANY\" ON \"DZIENNIK_ZMIANY\" (\"WPIS\", \"NR\")");
      }},
+    {u"zmiany i rozwiązanie umów o pracę",
+     [](Polaczenie& p) {
+         for (const char* kolumna :
+              {"\"zmienia\" SHORT", "\"wyp_2tyg\" TEXT(1)", "\"inne_war\" MEMO TEXT", "\"sposob\" SHORT",
+               "\"data_wyp\" DATE", "\"data_roz\" DATE", "\"przyczyna\" MEMO TEXT"})
+             p.wykonaj(std::string("ALTER TABLE \"UMOP\" ADD COLUMN ") + kolumna);
+     }},
 };
 
 /// Named with the file's version and the time of its last change.

@@ -10,6 +10,9 @@ namespace tornel::testy {
 inline void dawnaBaza(Polaczenie& baza) {
     for (const char16_t* tabela : {u"ZASILEK", u"WPISANE", u"WYKONANE", u"DZIENNIK", u"DZIENNIK_ZMIANY"})
         UsunTabele(baza, QString::fromUtf16(tabela));
+    for (const std::string kolumna :
+         {"przyczyna", "data_roz", "data_wyp", "sposob", "inne_war", "wyp_2tyg", "zmienia"})
+        baza.wykonaj("ALTER TABLE \"UMOP\" DROP COLUMN \"" + kolumna + "\"");
     UstawWersje(baza, 0);
 }
 
