@@ -1,9 +1,11 @@
 #include "cli/Polecenia.h"
+#include "cli/Wydruk.h"
 #include "common/Blad.h"
 #include "common/Daty.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
 #include "personnel/UmowyOPrace.h"
+#include "reports/umowy/PismaOPrace.h"
 #include "store/Sesja.h"
 #include <QDate>
 #include <QJsonObject>
@@ -142,10 +144,31 @@ int listaUmowOPrace(Wywolanie& w) {
     return status::Wykonane;
 }
 
+template <std::shared_ptr<const druk::Uklad> (*Uloz)(Otoczenie&, qint64)>
+int wydrukPisma(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    WypiszWydruk(w, *Uloz(w.otoczenie(), numerUmowyOPrace(w)));
+    return status::Wykonane;
+}
+
+std::shared_ptr<const druk::Uklad> swiadectwoDzis(Otoczenie& otoczenie, qint64 id) {
+    return reports::UlozSwiadectwoPracy(otoczenie, id, QDate::currentDate());
+}
+
+constexpr QStringView kWyjscie = u"NUMER (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)";
+
 } // namespace
 
 QList<Polecenie> poleceniaUmowOPrace() {
     return {
+        {u"wydruk umowa-o-prace", kWyjscie, u"umowa o pracę do podpisania", 1, 1, opcjeWydruku({}),
+         wydrukPisma<reports::UlozUmoweOPrace>},
+        {u"wydruk zmiana-warunkow", kWyjscie, u"zmiana warunków umowy o pracę", 1, 1, opcjeWydruku({}),
+         wydrukPisma<reports::UlozZmianeWarunkow>},
+        {u"wydruk wypowiedzenie", kWyjscie, u"wypowiedzenie umowy o pracę", 1, 1, opcjeWydruku({}),
+         wydrukPisma<reports::UlozWypowiedzenie>},
+        {u"wydruk swiadectwo-pracy", kWyjscie, u"świadectwo pracy", 1, 1, opcjeWydruku({}),
+         wydrukPisma<swiadectwoDzis>},
         {u"umowa-o-prace nowa",
          u"--pracownik N --data D",
          u"zakłada umowę o pracę z warunkami z kartoteki, podaje jej numer",

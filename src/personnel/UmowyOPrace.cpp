@@ -26,8 +26,14 @@ bool wczesniejsza(const UmowaOPrace& a, const UmowaOPrace& b) {
     return std::tuple(a.warunki.od, a.id) < std::tuple(b.warunki.od, b.id);
 }
 
-/// A contract and its changes by their first days: all but the last have been replaced.
+/// A contract and its changes by their first days: all but the last have been replaced, and all end when the
+/// contract was ended.
 void oznaczZastapione(QList<UmowaOPrace>& umowy) {
+    QHash<qint64, QDate> rozwiazane;
+    for (const UmowaOPrace& u : umowy)
+        if (u.zmienia == 0) rozwiazane.insert(u.id, u.rozwiazana);
+    for (UmowaOPrace& u : umowy)
+        if (u.zmienia > 0) u.rozwiazana = rozwiazane.value(u.zmienia);
     QHash<qint64, UmowaOPrace*> ostatnie; // of each contract
     for (UmowaOPrace& u : umowy) {
         UmowaOPrace*& dotad = ostatnie[u.zmienia > 0 ? u.zmienia : u.id];
@@ -38,6 +44,12 @@ void oznaczZastapione(QList<UmowaOPrace>& umowy) {
         if (dotad) dotad->zastapiona = true;
         dotad = &u;
     }
+}
+
+/// Whether notice ends it.
+bool wypowiadana(const UmowaOPrace& u) {
+    return u.sposob == SposobRozwiazania::WypowiedzenieFirmy ||
+           u.sposob == SposobRozwiazania::WypowiedzeniePracownika;
 }
 
 QString dzienAlboBrak(QDate dzien) { return dzien.isValid() ? FormatDaty(dzien) : QStringLiteral("(brak)"); }
@@ -214,6 +226,8 @@ QString UmowyOPrace::odmowa() const {
     if (u.warunki.dokad.isValid() && u.warunki.dokad < u.warunki.od)
         return QStringLiteral("Umowa kończy się %1, przed dniem %2, od którego trwa.")
             .arg(FormatDaty(u.warunki.dokad), FormatDaty(u.warunki.od));
+    if (u.zmienia > 0 && (u.sposob != SposobRozwiazania::Trwa || u.rozwiazana.isValid()))
+        return QStringLiteral("Rozwiązanie wpisuje się w umowie, nie w zmianie jej warunków.");
     if (u.rozwiazana.isValid() && u.rozwiazana < u.warunki.od)
         return QStringLiteral("Umowa jest rozwiązana %1, przed dniem %2, od którego trwa.")
             .arg(FormatDaty(u.rozwiazana), FormatDaty(u.warunki.od));
@@ -359,15 +373,58 @@ QStringList UmowyOPrace::uwagi(const UmowaOPrace& u) const {
     if (trzeciaZRzedu(u))
         wynik += QStringLiteral("To trzecia z rzędu umowa na czas określony: działa jak zawarta na czas "
                                 "nieokreślony (art. 25¹ Kodeksu pracy).");
-    const bool wypowiedzenie = u.sposob == SposobRozwiazania::WypowiedzenieFirmy ||
-                               u.sposob == SposobRozwiazania::WypowiedzeniePracownika;
-    if (wypowiedzenie && !OkresDlaUmowy(glowna(u), zatrudnionyOd(u), u.wypowiedziana))
-        wynik += QStringLiteral("Takiej umowy nie można rozwiązać za wypowiedzeniem.");
-    else if (wypowiedzenie && !u.wypowiedziana.isValid())
+    if (wypowiadana(u) && u.wypowiedziana.isValid())
+        wynik += odmowaWypowiedzenia(u, u.wypowiedziana);
+    else if (wypowiadana(u))
         wynik += QStringLiteral("Brak daty wypowiedzenia.");
     if (u.sposob != SposobRozwiazania::Trwa && !u.rozwiazana.isValid())
         wynik += QStringLiteral("Brak ostatniego dnia zatrudnienia.");
+    wynik.removeAll(QString());
     return wynik;
+}
+
+QDate UmowyOPrace::koniecZatrudnienia(const UmowaOPrace& umowa) const {
+    const UmowaOPrace kontrakt = glowna(umowa);
+    QDate koniec = kontrakt.koniec();
+    for (const UmowaOPrace& u : pracownika(kontrakt.prcId))
+        if (u.zmienia == kontrakt.id && !u.zastapiona) koniec = u.koniec();
+    return koniec;
+}
+
+QString UmowyOPrace::odmowaWypowiedzenia(const UmowaOPrace& umowa, QDate dzien) const {
+    const UmowaOPrace kontrakt = glowna(umowa);
+    if (OkresDlaUmowy(kontrakt, zatrudnionyOd(kontrakt), dzien)) return {};
+    return QStringLiteral("Umowy %1 nie można rozwiązać za wypowiedzeniem%2.")
+        .arg(NazwaRodzajuUmowy(kontrakt.rodzaj),
+             kontrakt.jestRodzaju(RodzajUmowyOPrace::CzasOkreslony)
+                 ? QStringLiteral(", jeżeli tego nie przewidziano (art. 33 Kodeksu pracy)")
+                 : QString());
+}
+
+QString UmowyOPrace::odmowaPisma(const UmowaOPrace& umowa, PismoOPrace pismo) const {
+    const UmowaOPrace kontrakt = glowna(umowa);
+    switch (pismo) {
+    case PismoOPrace::Umowa:
+        break;
+    case PismoOPrace::Zmiana:
+        if (umowa.zmienia <= 0)
+            return QStringLiteral("To jest umowa, a nie zmiana jej warunków. Zmianę zakłada przycisk „Zmiana "
+                                  "warunków”.");
+        if (roznicaOdPoprzednich(umowa).isEmpty() && umowa.inneWarunki == kontrakt.inneWarunki)
+            return QStringLiteral("Ta zmiana niczego nie zmienia. Wpisz w niej nowe warunki.");
+        return umowa.wypowiedziana.isValid() ? odmowaWypowiedzenia(umowa, umowa.wypowiedziana) : QString();
+    case PismoOPrace::Wypowiedzenie:
+        if (!wypowiadana(kontrakt) || !kontrakt.wypowiedziana.isValid())
+            return QStringLiteral("Umowa nie jest wypowiedziana. Sposób i datę wypowiedzenia wpisuje się na "
+                                  "zakładce „Rozwiązanie”.");
+        return odmowaWypowiedzenia(kontrakt, kontrakt.wypowiedziana);
+    case PismoOPrace::Swiadectwo:
+        if (!koniecZatrudnienia(umowa).isValid())
+            return QStringLiteral("Umowa nie ma ostatniego dnia zatrudnienia, więc nie ma jeszcze świadectwa "
+                                  "pracy. Wpisz go na zakładce „Rozwiązanie”.");
+        break;
+    }
+    return {};
 }
 
 } // namespace tornel::personnel

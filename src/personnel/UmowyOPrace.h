@@ -27,6 +27,9 @@ struct RoznicaWarunku {
     friend bool operator==(const RoznicaWarunku&, const RoznicaWarunku&) = default;
 };
 
+/// The papers of an employment.
+enum class PismoOPrace { Umowa, Zmiana, Wypowiedzenie, Swiadectwo };
+
 class UmowyOPrace {
 public:
     /// Opens `UMOP` and `M_PRACY` on the session's handles. Throws `BladBazy`, `UszkodzonaWartosc`.
@@ -82,6 +85,11 @@ public:
     /// The first day of the employment: that of the personnel file, else of the first contract.
     [[nodiscard]] QDate zatrudnionyOd(const UmowaOPrace& umowa) const;
 
+    /// The last day of the employment as far as it is known, a change of the term taken in; invalid for none.
+    [[nodiscard]] QDate koniecZatrudnienia(const UmowaOPrace& umowa) const;
+    /// Why the row has no such paper, in a sentence; empty where it has.
+    [[nodiscard]] QString odmowaPisma(const UmowaOPrace& umowa, PismoOPrace pismo) const;
+
     /// "Zakład produkcyjny"; empty for none.
     [[nodiscard]] QString nazwaMiejsca(qint64 miejsce) const;
     [[nodiscard]] Recordset& tabela() const;
@@ -91,6 +99,7 @@ private:
     [[nodiscard]] WarunkiPracy warunkiDlaKartoteki(const UmowaOPrace& umowa) const;
     [[nodiscard]] QList<RoznicaWarunku> roznice(const WarunkiPracy& dotad, const WarunkiPracy& teraz) const;
     [[nodiscard]] QList<std::pair<QString, QString>> opis(const WarunkiPracy& warunki) const;
+    [[nodiscard]] QString odmowaWypowiedzenia(const UmowaOPrace& umowa, QDate dzien) const;
     [[nodiscard]] bool trzeciaZRzedu(const UmowaOPrace& umowa) const;
     void zapisz(QStringView czynnosc);
 

@@ -47,6 +47,8 @@ struct WarunkiPracy {
     Waluta placa = {};  ///< base salary, zł
     Waluta stawka = {}; ///< of an hour, zł
     Waluta premia = {}; ///< percent of the base salary
+
+    friend bool operator==(const WarunkiPracy&, const WarunkiPracy&) = default;
 };
 /// From a record of `UMOP` and of `PRACPR`.
 [[nodiscard]] WarunkiPracy WarunkiUmowy(const Wiersz& umowa);
@@ -70,9 +72,11 @@ struct UmowaOPrace {
     qint64 zmienia = 0;        ///< the contract whose terms it changes, 0 for a contract
     bool wypowiadalna = false; ///< a fixed term that notice of two weeks may end
     QString inneWarunki;
-    SposobRozwiazania sposob = SposobRozwiazania::Trwa;
+    SposobRozwiazania sposob = SposobRozwiazania::Trwa; ///< of a contract
+    /// Notice given of the contract, or of the terms that a change replaces; the last day of the employment,
+    /// which the changes of a contract share with it in a list.
     QDate wypowiedziana, rozwiazana;
-    QString przyczyna;
+    QString przyczyna;       ///< of the notice
     bool zastapiona = false; ///< a later change has taken the place of its terms; known of a list of all
 
     [[nodiscard]] bool jestRodzaju(RodzajUmowyOPrace r) const { return rodzaj == static_cast<qint64>(r); }

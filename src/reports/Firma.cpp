@@ -21,6 +21,13 @@ Firma FirmaNaWydruku(const Stale& stale) {
             polacz({stale.Ulica, stale.KodiMiasto}, QStringLiteral(", "))};
 }
 
+QString MiejscowoscPism(const Stale& stale) {
+    if (!stale.MiastoDok.trimmed().isEmpty()) return stale.MiastoDok.trimmed();
+    const QString miasto = stale.KodiMiasto.trimmed();
+    const bool zKodem = !miasto.isEmpty() && miasto[0].isDigit();
+    return zKodem ? miasto.section(QLatin1Char(' '), 1).trimmed() : miasto;
+}
+
 QString MiesiacSlownie(RokMies miesiac) {
     return NazwaMiesiaca(miesiac.mies) + QLatin1Char(' ') + FormatRoku(miesiac.rok);
 }

@@ -20,6 +20,9 @@ struct Firma {
 /// From constants 300, 301, 304 and 303; parts that are blank leave no gap.
 [[nodiscard]] Firma FirmaNaWydruku(const Stale& stale);
 
+/// Where papers are issued: constant 662, else the town of the firm's "26-610 Radom".
+[[nodiscard]] QString MiejscowoscPism(const Stale& stale);
+
 /// "Marzec 2001".
 [[nodiscard]] QString MiesiacSlownie(RokMies miesiac);
 

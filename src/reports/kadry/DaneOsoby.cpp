@@ -89,6 +89,8 @@ QList<DaneOsoby> DaneOsob(Otoczenie& otoczenie, const QList<qint64>& numery) {
         o.pesel = dp->tekst(PRACDP("pesel")).trimmed();
         o.nip = dp->tekst(PRACDP("Nip")).trimmed();
         o.dowod = zlacz({dp->tekst(PRACDP("dowod_ser")), dp->tekst(PRACDP("dowod_nr"))}, QStringLiteral(" "));
+        o.rodzice =
+            zlacz({dp->tekst(PRACDP("imie_oj")), dp->tekst(PRACDP("imie_mat"))}, QStringLiteral(", "));
         o.adres = adresOsoby(*dp, kZamieszkania);
         if (o.adres.isEmpty()) o.adres = adresOsoby(*dp, kZameldowania);
         if (const auto pr = otoczenie.sesja.rsPRACPR.szukaj(prcId)) wypelnijZatrudnienie(o, *pr);

@@ -18,7 +18,8 @@ struct DaneOsoby {
     bool kobieta = false;
     QDate dataUrodzenia;
     QString miejsceUrodzenia, pesel, nip, dowod;
-    QString adres; ///< of residence, that of registration without it
+    QString rodzice; ///< first names, "Stanisław, Maria"
+    QString adres;   ///< of residence, that of registration without it
     QString dzial, stanowisko;
     QString etat; ///< "1/2", empty when it is not given
     QDate zatrudniony, zwolniony, umowaOd, umowaDo;

@@ -91,19 +91,11 @@ QString oZatrudnieniu(const DaneOsoby& o, const Firma& firma, QDate dzien) {
     return t + QLatin1Char('.');
 }
 
-/// Where papers are issued: constant 662, else the town of the firm's "26-610 Radom".
-QString miejscowosc(const Stale& stale) {
-    if (!stale.MiastoDok.trimmed().isEmpty()) return stale.MiastoDok.trimmed();
-    const QString miasto = stale.KodiMiasto.trimmed();
-    const bool zKodem = !miasto.isEmpty() && miasto[0].isDigit();
-    return zKodem ? miasto.section(QLatin1Char(' '), 1).trimmed() : miasto;
-}
-
 class WierszeZaswiadczen final : public WierszeOsob {
 public:
     explicit WierszeZaswiadczen(const ZrodloPapieru& zrodlo)
         : WierszeOsob(zrodlo.osoby), okres_(zrodlo.okres), firma_(FirmaNaWydruku(zrodlo.otoczenie.stale)),
-          miejscowosc_(miejscowosc(zrodlo.otoczenie.stale)), dzien_(zrodlo.dzien) {
+          miejscowosc_(MiejscowoscPism(zrodlo.otoczenie.stale)), dzien_(zrodlo.dzien) {
         const QList<QList<PlacaOsoby>> place = PlaceOsob(zrodlo);
         for (int i = 0; i < place.size(); ++i) {
             QList<std::pair<KwotyZarobku, qint64>> miesiace;
