@@ -63,6 +63,12 @@
 #include "start/Rozruch.h"
 #include "start/Uzytkownicy.h"
 #include "store/KopiaPliku.h"
+#include "tax/frmDeklaracjaRoczna.h"
+#include "tax/frmKontrolaPIT4.h"
+#include "tax/frmListaPIT4.h"
+#include "tax/frmListaPIT4Nowy.h"
+#include "tax/frmPIT8BAnaliza.h"
+#include "tax/frmSeriaDeklaracji.h"
 #include "zus/frmKedu.h"
 #include "zus/frmListaDRA.h"
 #include "zus/frmUwagiKedu.h"
@@ -248,6 +254,32 @@ void umowy(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.dialog(data, QStringLiteral("frmUZLData"));
 }
 
+/// The declarations on paper.
+void pokazDeklaracje(const Zrzuty& zrzuty, Otoczenie& o) {
+    for (int mies = 1; mies <= 3; ++mies) (void)Pit4(o).Nowy({{2001, mies}, 0}, {}, {2001, 4, 20});
+    PortWydrukowDeklaracji port;
+    port.drukuj = [](const WierszDeklaracji&, int, QWidget*) {};
+    port.drukujSerie = [](const SeriaStron&, QWidget*) {};
+    port.doPdf = [](const SeriaStron&, const QString&) {};
+    frmListaPIT4 pit4(o, port);
+    zrzuty.ekran(pit4, QStringLiteral("pit4"));
+    frmListaPIT4Nowy nowa({2001, 4, 2}, frmListaPIT4Nowy::Listy::Pytaj);
+    zrzuty.dialog(nowa, QStringLiteral("pit4-nowa"));
+    frmKontrolaPIT4 kontrola(o, 2001);
+    zrzuty.ekran(kontrola, QStringLiteral("pit4-kontrola"));
+    const OkresPodatkowy rok{{2001, 1}, {2001, 12}};
+    for (const Deklaracja ktora : {Deklaracja::Pit11, Deklaracja::Pit40, Deklaracja::Pit8B}) {
+        frmDeklaracjaRoczna okno(o, ktora, 3, rok, port);
+        zrzuty.ekran(okno, okno.objectName());
+    }
+    QList<qint64> osoby;
+    for (const Osoba& osoba : Pracownicy(o).doWyboru(1)) osoby.append(osoba.prcId);
+    frmSeriaDeklaracji seria(o, Deklaracja::Pit11, rok, osoby, port, {});
+    zrzuty.ekran(seria, QStringLiteral("pit11-seria"));
+    frmPIT8BAnaliza analiza(o, 2, 2001);
+    zrzuty.ekran(analiza, QStringLiteral("pit8b-analiza"));
+}
+
 void nieobecnosci(const Zrzuty& zrzuty, Otoczenie& o) {
     for (const int prcId : {3, 8})
         for (const int mies : {4, 5})
@@ -425,6 +457,7 @@ int main(int argc, char** argv) {
     place(zrzuty, o);
     przelewy(zrzuty, o);
     umowy(zrzuty, o);
+    pokazDeklaracje(zrzuty, o);
     nieobecnosci(zrzuty, o);
     wydruki(zrzuty, o);
     bezpieczenstwo(zrzuty, o, plik);

@@ -1,8 +1,12 @@
 #include "app/frmMainPodatki.h"
 #include "app/frmMain.h"
 #include "common/Rozmowa.h"
+#include "druk/Wyjscie.h"
+#include "okna/Drukowanie.h"
 #include "okna/frmInputData.h"
 #include "personnel/frmWybPr.h"
+#include "reports/deklaracje/WydrukDeklaracji.h"
+#include "rules/Stale.h"
 #include "tax/frmDeklaracjaRoczna.h"
 #include "tax/frmListaPIT4.h"
 #include "tax/frmPIT8BAnaliza.h"
@@ -12,6 +16,22 @@
 namespace tornel::app {
 
 namespace {
+
+PortWydrukowDeklaracji wydrukiDeklaracji(Otoczenie& o) {
+    const auto pokaz = [&o](const SeriaStron& seria, std::optional<int> strona, QWidget* rodzic) {
+        PokazWydruk(reports::UlozDeklaracje(seria, strona), o.stale.DrukPIT ? Podglad::Nie : Podglad::Tak,
+                    o.rozmowa, rodzic);
+    };
+    PortWydrukowDeklaracji port;
+    port.drukuj = [pokaz](const WierszDeklaracji& deklaracja, int strona, QWidget* rodzic) {
+        pokaz({deklaracja.ktora(), 1, [deklaracja](int) { return deklaracja; }}, strona, rodzic);
+    };
+    port.drukujSerie = [pokaz](const SeriaStron& seria, QWidget* rodzic) { pokaz(seria, {}, rodzic); };
+    port.doPdf = [](const SeriaStron& seria, const QString& plik) {
+        ZapiszPdf(*reports::UlozDeklaracje(seria), plik);
+    };
+    return port;
+}
 
 /// "Analiza danych od", "Analiza danych do"; nothing when given up, or when the range is the wrong way round.
 std::optional<OkresPodatkowy> zakresAnalizy(Rozmowa& rozmowa, QWidget* rodzic) {
@@ -29,7 +49,7 @@ std::optional<OkresPodatkowy> zakresAnalizy(Rozmowa& rozmowa, QWidget* rodzic) {
 }
 
 void otworzJedna(Otoczenie& o, Deklaracja ktora, qint64 prcId, const OkresPodatkowy& okres, QWidget* rodzic) {
-    frmDeklaracjaRoczna(o, ktora, prcId, okres, PortWydrukowDeklaracji{}, rodzic).exec();
+    frmDeklaracjaRoczna(o, ktora, prcId, okres, wydrukiDeklaracji(o), rodzic).exec();
 }
 
 /// One person's screen, or the series of those who were chosen together.
@@ -39,7 +59,7 @@ void otworzWybranych(Otoczenie& o, Deklaracja ktora, const QList<qint64>& osoby,
     const auto otworz = [&o, ktora, okres](qint64 prcId, QWidget* nad) {
         otworzJedna(o, ktora, prcId, okres, nad);
     };
-    frmSeriaDeklaracji(o, ktora, okres, osoby, PortWydrukowDeklaracji{}, otworz, rodzic).exec();
+    frmSeriaDeklaracji(o, ktora, okres, osoby, wydrukiDeklaracji(o), otworz, rodzic).exec();
 }
 
 void pit11Lub40(Otoczenie& o, Deklaracja ktora, QWidget* rodzic) {
@@ -60,7 +80,7 @@ void pit8b(Otoczenie& o, QWidget* rodzic) {
 
 void ZarejestrujPodatki(frmMain& okno, Otoczenie& otoczenie) {
     okno.rejestruj(Wejscie::PIT4,
-                   [&] { frmListaPIT4(otoczenie, PortWydrukowDeklaracji{}, &okno).exec(); });
+                   [&] { frmListaPIT4(otoczenie, wydrukiDeklaracji(otoczenie), &okno).exec(); });
     okno.rejestruj(Wejscie::PIT11, [&] { pit11Lub40(otoczenie, Deklaracja::Pit11, &okno); });
     okno.rejestruj(Wejscie::PIT40, [&] { pit11Lub40(otoczenie, Deklaracja::Pit40, &okno); });
     okno.rejestruj(Wejscie::PIT8B, [&] { pit8b(otoczenie, &okno); });

@@ -1,6 +1,8 @@
 #include "cli/Polecenia.h"
 #include "cli/WierszTabeli.h"
+#include "cli/Wydruk.h"
 #include "common/Daty.h"
+#include "reports/deklaracje/WydrukDeklaracji.h"
 #include "store/Sesja.h"
 #include "tax/DeklaracjeRoczne.h"
 #include "tax/Pit4.h"
@@ -63,14 +65,19 @@ int pit4Kontrola(Wywolanie& w) {
     return zgodne ? status::Wykonane : status::Odmowa;
 }
 
-int roczna(Wywolanie& w, tax::Deklaracja ktora) {
-    const Argumenty& a = w.argumenty;
+tax::OkresPodatkowy okresZOpcji(const Argumenty& a) {
     const QString od = QStringLiteral("od"), dokad = QStringLiteral("do");
     if (!a.ma(od) || !a.ma(dokad)) throw ZleUzycie(QStringLiteral("Podaj --od RRRR-MM i --do RRRR-MM."));
     const tax::OkresPodatkowy okres{miesiacZTekstu(a.wartosc(od)), miesiacZTekstu(a.wartosc(dokad))};
     if (okres.od > okres.dokad) throw ZleUzycie(QStringLiteral("Zakres dat jest nieprawidłowy."));
+    return okres;
+}
+
+int roczna(Wywolanie& w, tax::Deklaracja ktora) {
+    const tax::OkresPodatkowy okres = okresZOpcji(w.argumenty);
     Otoczenie& o = w.otoczenie();
-    tax::WypelnijDeklaracje(o, ktora, numerPracownikaZTekstu(a.pozycje[0]), okres, QDate::currentDate());
+    tax::WypelnijDeklaracje(o, ktora, numerPracownikaZTekstu(w.argumenty.pozycje[0]), okres,
+                            QDate::currentDate());
     const Recordset& rs = o.sesja.*tax::OpisDeklaracji(ktora).uchwyt;
     const tax::SumyZrodel s = tax::SumujZrodla(tax::WierszDeklaracji(ktora, rs));
     PiszWiersz(w, rs,
@@ -85,12 +92,38 @@ int pit11(Wywolanie& w) { return roczna(w, tax::Deklaracja::Pit11); }
 int pit40(Wywolanie& w) { return roczna(w, tax::Deklaracja::Pit40); }
 int pit8b(Wywolanie& w) { return roczna(w, tax::Deklaracja::Pit8B); }
 
+/// The declaration on its form; of a yearly one nothing is stored.
+int wydrukRocznej(Wywolanie& w, tax::Deklaracja ktora) {
+    WymagajDrogi(w.argumenty);
+    const tax::OkresPodatkowy okres = okresZOpcji(w.argumenty);
+    const qint64 prcId = numerPracownikaZTekstu(w.argumenty.pozycje[0]);
+    const tax::WierszDeklaracji d =
+        tax::DaneRoczne(w.otoczenie(), ktora, okres, prcId).wypelnij(prcId, QDate::currentDate());
+    WypiszWydruk(w, *reports::UlozDeklaracje({ktora, 1, [&](int) { return d; }}));
+    return status::Wykonane;
+}
+
+int wydrukPit4(Wywolanie& w) {
+    WymagajDrogi(w.argumenty);
+    const tax::KluczPit4 klucz = kluczZArgumentow(w);
+    if (!tax::Pit4(w.otoczenie()).zaznacz(klucz))
+        throw Blad(QStringLiteral("Nie ma deklaracji PIT-4 %1.").arg(klucz.napis()));
+    const tax::WierszDeklaracji d(tax::Deklaracja::Pit4, w.otoczenie().sesja.rsPIT4);
+    WypiszWydruk(w, *reports::UlozDeklaracje({tax::Deklaracja::Pit4, 1, [&](int) { return d; }}));
+    return status::Wykonane;
+}
+int wydrukPit11(Wywolanie& w) { return wydrukRocznej(w, tax::Deklaracja::Pit11); }
+int wydrukPit40(Wywolanie& w) { return wydrukRocznej(w, tax::Deklaracja::Pit40); }
+int wydrukPit8b(Wywolanie& w) { return wydrukRocznej(w, tax::Deklaracja::Pit8B); }
+
 } // namespace
 
 QList<Polecenie> poleceniaPodatkow() {
     static const QList<OpcjaPolecenia> numer{{u"numer", u"N"}};
     static const QList<OpcjaPolecenia> okres{{u"od", u"RRRR-MM"}, {u"do", u"RRRR-MM"}};
     constexpr QStringView osoba = u"NR --od RRRR-MM --do RRRR-MM";
+    constexpr QStringView osobaNaPapierze =
+        u"NR --od RRRR-MM --do RRRR-MM (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)";
     return {
         {u"pit4 nowa",
          u"RRRR-MM",
@@ -104,6 +137,14 @@ QList<Polecenie> poleceniaPodatkow() {
         {u"pit4 kontrola", u"RRRR", u"deklaracje PIT-4 roku wobec zaliczek PIT-11", 1, 1, {}, pit4Kontrola},
         {u"pit11", osoba, u"roczna informacja o dochodach i zaliczkach", 1, 1, okres, pit11},
         {u"pit40", osoba, u"roczne rozliczenie podatku pracownika", 1, 1, okres, pit40},
+        {u"wydruk pit4", u"RRRR-MM (--pdf PLIK | --png KATALOG | --csv PLIK | --tekst)",
+         u"deklaracja PIT-4 na formularzu", 1, 1, opcjeWydruku(numer), wydrukPit4},
+        {u"wydruk pit11", osobaNaPapierze, u"informacja PIT-11 na formularzu", 1, 1, opcjeWydruku(okres),
+         wydrukPit11},
+        {u"wydruk pit40", osobaNaPapierze, u"rozliczenie PIT-40 na formularzu", 1, 1, opcjeWydruku(okres),
+         wydrukPit40},
+        {u"wydruk pit8b", osobaNaPapierze, u"informacja PIT-8B na formularzu", 1, 1, opcjeWydruku(okres),
+         wydrukPit8b},
         {u"pit8b", osoba, u"informacja o podatku zryczałtowanym z umów i honorariów", 1, 1, okres, pit8b},
     };
 }

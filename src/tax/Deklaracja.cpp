@@ -55,9 +55,13 @@ const Wartosc& WierszDeklaracji::wartosc(std::string_view nazwa) const {
     return wartosci_.at(numerKolumny(tabela(), nazwa));
 }
 
-Waluta WierszDeklaracji::kwota(std::string_view nazwa) const {
-    const auto* kwota = std::get_if<Waluta>(&wartosc(nazwa));
+Waluta WierszDeklaracji::kwota(Kolumna kolumna) const {
+    const auto* kwota = std::get_if<Waluta>(&wartosc(kolumna.nr));
     return kwota ? *kwota : Waluta{};
+}
+
+Waluta WierszDeklaracji::kwota(std::string_view nazwa) const {
+    return kwota(tabela().nr(numerKolumny(tabela(), nazwa)));
 }
 
 QString WierszDeklaracji::tekst(std::string_view nazwa) const {

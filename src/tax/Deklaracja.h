@@ -36,6 +36,7 @@ public:
         return wartosci_.at(nr);
     } ///< by the column's ordinal
     [[nodiscard]] Waluta kwota(std::string_view nazwa) const;
+    [[nodiscard]] Waluta kwota(Kolumna kolumna) const;
     [[nodiscard]] QString tekst(std::string_view nazwa) const;
     void ustaw(std::string_view nazwa, const Wartosc& wartosc);
     /// Of a series: `ustaw("przy_", 8, ...)` is `przy_8`.

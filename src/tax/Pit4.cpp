@@ -40,7 +40,10 @@ Kolumna wierszPit4::zrodlo(int n, Kolumny ktora) {
 Kolumna wierszPit4::numerPozycji(int n) { return PIT4.nr(kPierwszaPozycja.nr + pozycja(n) * kKolumnPozycji); }
 Kolumna wierszPit4::kwotaPozycji(int n) { return PIT4.nr(numerPozycji(n).nr + 1); }
 
-SumyPit4 SumyDeklaracji(const Wiersz& deklaracja) {
+namespace {
+
+template <typename W>
+SumyPit4 zsumuj(const W& deklaracja) {
     SumyPit4 s;
     for (int n = 1; n <= wierszPit4::Zrodel; ++n)
         s.SUMA1 += deklaracja.kwota(wierszPit4::zrodlo(n, wierszPit4::pob_zal));
@@ -50,6 +53,11 @@ SumyPit4 SumyDeklaracji(const Wiersz& deklaracja) {
     s.SUMA3 = s.SUMA2 - deklaracja.kwota(wierszPit4::kwotaPozycji(kPotracane));
     return s;
 }
+
+} // namespace
+
+SumyPit4 SumyDeklaracji(const Wiersz& deklaracja) { return zsumuj(deklaracja); }
+SumyPit4 SumyDeklaracji(const WierszDeklaracji& deklaracja) { return zsumuj(deklaracja); }
 
 Pit4::Pit4(Otoczenie& otoczenie) : o_(otoczenie), rs_(otoczenie.sesja.rsPIT4) {
     rs_.Open(o_.sesja.cnPlace);

@@ -3,6 +3,7 @@
 #include "common/RokMies.h"
 #include "rules/Otoczenie.h"
 #include "store/Recordset.h"
+#include "tax/Deklaracja.h"
 #include "tax/Przychody.h"
 #include <optional>
 #include <QDate>
@@ -92,5 +93,6 @@ struct KontrolaPit4 {
 
 /// Of one declaration. Throws `Przepelnienie`.
 [[nodiscard]] SumyPit4 SumyDeklaracji(const Wiersz& deklaracja);
+[[nodiscard]] SumyPit4 SumyDeklaracji(const WierszDeklaracji& deklaracja);
 
 } // namespace tornel::tax

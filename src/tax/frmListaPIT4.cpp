@@ -15,6 +15,8 @@ using schemat::PIT4;
 
 namespace {
 
+constexpr int kSzerokosc = 142 * Wyglad::kSiatka, kWysokosc = 84 * Wyglad::kSiatka;
+
 const QString kNaglowekKarta = QStringLiteral("Nagłówek");
 const QString kZrodlaKarta = QStringLiteral("Źródła przychodów");
 const QString kPozycjeKarta = QStringLiteral("Pozycje 10 do 17");
@@ -181,6 +183,7 @@ frmListaPIT4::frmListaPIT4(Otoczenie& otoczenie, PortWydrukowDeklaracji port, QW
     connect(druk, &QPushButton::clicked, this, &frmListaPIT4::drukuj);
     connect(kontrola, &QPushButton::clicked, this, &frmListaPIT4::kontroluj);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, druk, &QPushButton::click);
+    resize(std::max(width(), kSzerokosc), std::max(height(), kWysokosc)); // whole tabs without scrolling
     Wczytaj();
 }
 

@@ -239,7 +239,7 @@ TEST_F(DeklaracjeOkna, PIT40SprawdzaWzorIRozliczaNaZadanie) {
                         Styl::Wykrzyknik);
     wpisz(okno, u"txtWzor1"_s, u"doh*0,1"_s);
     EXPECT_EQ(tekst(okno, u"txtWzor1"_s), u"DOH*0,1"_s);
-    wpisz(okno, u"txtWzor1"_s, u"doch*0,1"_s);
+    for (int i = 1; i <= 3; ++i) wpisz(okno, u"txtWzor%1"_s.arg(i), u"doch*0,1"_s);
     widzet<QPushButton>(okno, u"cmdRozlicz"_s).click();
     EXPECT_FALSE(uwagi.isVisible());
     const Recordset& rs = o().sesja.rsPIT40;
