@@ -91,7 +91,7 @@ constexpr QSize kMalyPulpit{1280, 800};
 
 void zapisz(QWidget& okno, const QString& sciezka) {
     okno.show();
-    Aplikacja::processEvents();
+    for (int i = 0; i < 3; ++i) Aplikacja::processEvents(); // what scrolls is laid out in turns
     if (!okno.grab().save(sciezka)) qFatal("cannot write %s", qPrintable(sciezka));
 }
 
@@ -201,6 +201,9 @@ void place(const Zrzuty& zrzuty, Otoczenie& o) {
     {
         frmPlaceLista lista(o, {2001, 3}, QStringLiteral(" "));
         zrzuty.ekran(lista, QStringLiteral("lista-plac"));
+        lista.findChild<QTabWidget*>()->setCurrentIndex(0);
+        lista.resize(1880, 1000);
+        zrzuty.dialog(lista, QStringLiteral("lista-plac-szeroka"));
     }
     {
         frmPlaceLista zablokowana(o, {2001, 1}, QStringLiteral("A"));

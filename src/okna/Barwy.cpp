@@ -87,7 +87,7 @@ QLineEdit[obliczane="true"], QPlainTextEdit[obliczane="true"] { background: pale
 QLineEdit[blad="true"] { border: 2px solid @blad; border-radius: 2px; padding: 0 1px; min-height: 22px; }
 QLabel[uwagaPola="true"] { background: @tloBledu; color: @naBledzie; border: 1px solid @blad;
                            border-radius: 3px; padding: 3px 6px; }
-QLineEdit[glowne="true"] { font-weight: bold; }
+QLineEdit[glowne="true"], QLabel[glowne="true"] { font-weight: bold; }
 QLabel[baner="true"] { background: palette(highlight); color: palette(highlighted-text); padding: 6px 8px;
                        border-radius: 4px; }
 QLabel[wolny="true"] { background: @wolny; color: @naWolnym; font-weight: bold; border-radius: 3px; }

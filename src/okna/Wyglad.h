@@ -47,7 +47,7 @@ void oznaczObliczane(QWidget& pole);
 /// Frames a field that did not understand what was typed into it, or takes the frame off.
 void oznaczBlad(QWidget& pole, bool blad);
 
-/// Marks a field as one of the few amounts that the eye looks for first.
+/// Marks a field or a caption as one of the few amounts that the eye looks for first.
 void oznaczGlowne(QWidget& pole);
 
 /// Marks a text as one that does not wait, or takes the mark off.

@@ -5,6 +5,7 @@
 #include "okna/Klepsydra.h"
 #include "okna/PoleSzukania.h"
 #include "okna/WidokListy.h"
+#include "okna/WierszSum.h"
 #include "okna/Wyglad.h"
 #include "payroll/lista/frmPlaceListaPasek.h"
 #include "payroll/lista/frmPlaceListaZakladki.h"
@@ -28,6 +29,15 @@ using schemat::PLA;
 namespace {
 
 enum KolumnaPlac { LpNazwisko, LpNumer, LpSymbol };
+constexpr int kSzerokoscListy = 62 * Wyglad::kSiatka;
+
+QList<KolumnaListy> kolumnyListy() {
+    return {{QStringLiteral("NAZWISKO")},
+            {QStringLiteral("NR"), Qt::AlignRight},
+            {QStringLiteral("LISTA")},
+            {QStringLiteral("BRUTTO"), Qt::AlignRight},
+            {QStringLiteral("DO WYPŁATY"), Qt::AlignRight}};
+}
 
 QLabel* napis(const QString& nazwa) {
     auto* etykieta = new QLabel;
@@ -42,9 +52,7 @@ frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QStrin
                              PortWydrukow wydruki)
     : Okno(QStringLiteral("frmPlaceLista"), rodzic, PoEnterze::NastepnePole), o_(otoczenie),
       wydruki_(std::move(wydruki)), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
-      lvwPlace_(new WidokListy(
-          {{QStringLiteral("NAZWISKO")}, {QStringLiteral("NR"), Qt::AlignRight}, {QStringLiteral("LISTA")}},
-          {60, 18, 22})),
+      lvwPlace_(new WidokListy(kolumnyListy(), {40, 8, 11, 19, 22})), sumyPlace_(new WierszSum(*lvwPlace_)),
       zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy(wydruki_)),
       labPracownik_(napis(QStringLiteral("labPracownik"))), labKwoty_(napis(QStringLiteral("labKwoty"))),
       labIleWierszy_(napis(QStringLiteral("labIleWierszy"))), labUwaga_(Wyglad::baner({}, this)) {
@@ -56,7 +64,7 @@ frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QStrin
             ? QStringLiteral("Miesiąc jest zablokowany: dane można oglądać, nie można ich zmieniać.")
             : QString(),
         this));
-    uklad->addWidget(dzielnik(lewaStrona(), 43 * Wyglad::kSiatka, prawaStrona()), 1);
+    uklad->addWidget(dzielnik(lewaStrona(), kSzerokoscListy, prawaStrona()), 1);
     uklad->addWidget(pasek_);
     budujSkroty();
     resize(156 * Wyglad::kSiatka, 92 * Wyglad::kSiatka);
@@ -101,11 +109,16 @@ void frmPlaceLista::budujSkroty() {
 
 QWidget* frmPlaceLista::lewaStrona() {
     lvwPlace_->setObjectName(QStringLiteral("lvwPlace"));
+    sumyPlace_->setObjectName(QStringLiteral("sumyPlace"));
     auto* lewa = new QWidget;
     auto* uklad = new QVBoxLayout(lewa);
     uklad->setContentsMargins(0, 0, 0, 0);
     uklad->addWidget(new PoleSzukania(*lvwPlace_, LpNumer, LpNazwisko));
-    uklad->addWidget(lvwPlace_, 1);
+    auto* zSumami = new QVBoxLayout;
+    zSumami->setSpacing(0);
+    zSumami->addWidget(lvwPlace_, 1);
+    zSumami->addWidget(sumyPlace_);
+    uklad->addLayout(zSumami, 1);
     uklad->addWidget(labIleWierszy_);
     return lewa;
 }
@@ -143,13 +156,16 @@ WierszListy frmPlaceLista::wierszListy(qint64 id) const {
     const auto stan = doUwagi_.find({l.klucz.prcId, l.klucz.lista});
     return {id,
             {QString(l.nazwisko + QLatin1Char(' ') + l.imie).trimmed(), FormatNumeru(l.klucz.prcId),
-             l.klucz.lista.toUpper()},
+             l.klucz.lista.toUpper(), NapisKwoty(sumy_.wiersz(id).brutto),
+             NapisKwoty(sumy_.wiersz(id).doWyplaty)},
             stan == doUwagi_.end() ? QString() : stan->second.opis(),
             Waga::Wazna};
 }
 
 void frmPlaceLista::pokazListe(const std::optional<KluczListy>& zaznacz) {
     przejrzyjWiersze();
+    sumy_.wczytaj(o_.sesja.rsPLA, linie_);
+    pokazRazem();
     QList<WierszListy> wiersze;
     wiersze.reserve(linie_.size());
     qint64 wybrany = -1;
@@ -172,6 +188,16 @@ void frmPlaceLista::pokazListe(const std::optional<KluczListy>& zaznacz) {
     zakladki_->Blokada(true);
     pokazNaglowek();
     pokazOznaczenie();
+}
+
+void frmPlaceLista::pokazRazem() {
+    const auto& razem = sumy_.razem();
+    const QString zaDuzo = QStringLiteral("?"); // no amount can hold it
+    sumyPlace_->ustaw({QStringLiteral("Razem"),
+                       {},
+                       {},
+                       razem ? NapisKwoty(razem->brutto) : zaDuzo,
+                       razem ? NapisKwoty(razem->doWyplaty) : zaDuzo});
 }
 
 void frmPlaceLista::wybierzWiersz(qint64 id) {
@@ -232,7 +258,7 @@ void frmPlaceLista::pokazNaglowek() {
                                 : QString());
     labKwoty_->setText(
         jest ? QStringLiteral("Brutto: %1     Do wypłaty: %2")
-                   .arg(FormatKwoty(a.kwota(PLA("BRUTTO"))), FormatKwoty(a.kwota(PLA("DO_WYPLATY"))))
+                   .arg(NapisKwoty(a.kwota(PLA("BRUTTO"))), NapisKwoty(a.kwota(PLA("DO_WYPLATY"))))
              : QString());
 }
 
@@ -252,6 +278,8 @@ void frmPlaceLista::przejrzyjBiezacy() {
             .sprawdz(o_.sesja.rsPLA.biezacyWiersz(), o_.sesja.rsPLS.szukaj(klucz.prcId, klucz.lista));
     doUwagi_.erase({klucz.prcId, klucz.lista});
     if (stan.wymagaUwagi()) doUwagi_.emplace(Klucz{klucz.prcId, klucz.lista}, stan);
+    sumy_.odswiez(id, o_.sesja.rsPLA, klucz);
+    pokazRazem();
     const WierszListy wiersz = wierszListy(id);
     lvwPlace_->lista().zmien(id, wiersz.teksty, wiersz.uwaga, wiersz.waga);
     pokazOznaczenie();

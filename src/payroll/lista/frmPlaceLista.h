@@ -5,6 +5,7 @@
 #include "payroll/lista/KontrolaWierszy.h"
 #include "payroll/lista/ListaPlac.h"
 #include "payroll/lista/PortWydrukow.h"
+#include "payroll/lista/SumyListy.h"
 #include "payroll/miesiace/Miesiace.h"
 #include "payroll/nieobecnosci/frmWykazy.h"
 #include "rules/Otoczenie.h"
@@ -17,6 +18,7 @@ class QLabel;
 
 namespace tornel::okna {
 class WidokListy;
+class WierszSum;
 } // namespace tornel::okna
 
 namespace tornel::payroll {
@@ -77,6 +79,7 @@ private:
     [[nodiscard]] WierszListy wierszListy(qint64 id) const;
     void wskazPrzelicz(bool tak);
     void pokazOznaczenie();
+    void pokazRazem();
     void powiedzOUwagach() const;
 
     using Klucz = std::pair<qint64, QString>;
@@ -86,9 +89,11 @@ private:
     WykazyOkien wykazy_{this};
     ListaPlac lista_;
     QList<LiniaListy> linie_;
+    SumyListy sumy_;                       ///< of `linie_`
     std::map<Klucz, StanWiersza> doUwagi_; ///< the rows that need attention
     bool przeliczNastepne_ = false;        ///< the clerk has just done what `Przelicz1` follows
     WidokListy* lvwPlace_;
+    WierszSum* sumyPlace_;
     ZakladkiListy* zakladki_;
     PasekListy* pasek_;
     QLabel *labPracownik_, *labKwoty_, *labIleWierszy_, *labUwaga_;

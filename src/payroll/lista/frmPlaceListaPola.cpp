@@ -14,26 +14,33 @@ using enum Rodzaj;
 constexpr Dostep kEdycja = Dostep::Edycja;
 constexpr Dostep kOdczyt = Dostep::Odczyt;
 
-constexpr PoleEkranu kWynagrodzenie[] = {
+constexpr PoleEkranu kDoPodatku[] = {
     {u"txtBrutto", u"Brutto:", PLA("BRUTTO"), Kwota, kOdczyt},
     {u"txtFEPC", u"Fundusz emerytalny %1:", {}, Kwota, kEdycja, PLB("WSK_FEPRC")},
     {u"txtFRPC", u"Fundusz rentowy %1:", {}, Kwota, kEdycja, PLB("WSK_FRPRC")},
     {u"txtFC", u"Fundusz chorobowy %1:", {}, Kwota, kEdycja, PLB("WSK_FCPRC")},
+    {u"txtSkladki", u"Składki razem:", {}, Tekst, kOdczyt, {}, SumaEkranu::Skladki},
     {u"txtKosztyUz", u"Koszty uzysk. przych.:"},
     {u"txtNetto", u"Netto:", PLA("NETTO"), Kwota, kOdczyt},
-};
-
-constexpr PoleEkranu kPodatek[] = {
     {u"txtPodDoch", u"Podatek przed odliczeniami:", PLA("POD_DOCH"), Kwota, kOdczyt},
     {u"txtUlgaPod", u"Ulga podatkowa:"},
     {u"txtUZNA", u"Ubezp. zdrowotne należne %1:", {}, Kwota, kEdycja, PLB("WSK_UBZDR")},
     {u"txtUZPO", u"Ubezp. zdrowotne odliczone:"},
     {u"txtPodatek19", u"Podatek %1:", {}, Kwota, kEdycja, PLA("ST_PD")},
+    {u"txtPoPodatku", u"Po składkach i podatku:", {}, Tekst, kOdczyt, {}, SumaEkranu::PoPodatku},
 };
 
+constexpr PoleEkranu kDodatki[] = {{u"txtDodatki", u"Dodatki:", PLA("DODATKI"), Kwota, kOdczyt}};
+constexpr PoleEkranu kPotracenia[] = {{u"txtPotracenia", u"Potrącenia:", PLA("POTRACENIA"), Kwota, kOdczyt}};
+
 constexpr PoleEkranu kDoWyplaty[] = {
-    {u"txtDodatki", u"Dodatki:", PLA("DODATKI"), Kwota, kOdczyt},
-    {u"txtPotracenia", u"Potrącenia:", PLA("POTRACENIA"), Kwota, kOdczyt},
+    {ekranListy::kPozostale,
+     u"Zasiłek ZUS, PPE, zaokrąglenie:",
+     {},
+     Tekst,
+     kOdczyt,
+     {},
+     SumaEkranu::Pozostale},
     {u"txtDoWyplaty", u"Do wypłaty:", PLA("DO_WYPLATY"), Kwota, kOdczyt},
     {u"txtPrzelewem", u"Przelewem:"},
 };
@@ -113,8 +120,7 @@ constexpr PoleEkranu kPolaMultiCash[] = {
     {u"txtWyslaneMCS", u"Wysłane (T/N):", PLB("WYS_MCS"), Tekst},
 };
 
-constexpr GrupaEkranu kPlacaLewa[] = {{u"OD BRUTTO DO NETTO", kWynagrodzenie}, {u"PODATEK", kPodatek}};
-constexpr GrupaEkranu kPlacaPrawa[] = {{u"DO WYPŁATY", kDoWyplaty}, {u"PODSTAWY SKŁADEK", kPodstawy}};
+constexpr GrupaEkranu kPlacaPrawa[] = {{u"PODSTAWY SKŁADEK", kPodstawy}};
 constexpr GrupaEkranu kDni[] = {{u"DNI MIESIĄCA", kDniMiesiaca}, {u"ZWOLNIENIA L-4 (DNI)", kZwolnienia}};
 constexpr GrupaEkranu kDniUrlopow[] = {{u"URLOPY (DNI)", kUrlopy}};
 constexpr GrupaEkranu kIlosci[] = {{u"ŚWIADCZENIA (ILOŚĆ)", kSwiadczenia}};
@@ -132,7 +138,26 @@ constexpr int kZnakiSumy = 13;
 
 namespace ekranListy {
 
-KolumnaEkranu placaLewa() { return kPlacaLewa; }
+std::span<const PoleEkranu> drogaWyplaty(CzescDrogi czesc) {
+    switch (czesc) {
+    case CzescDrogi::DoPodatku:
+        return kDoPodatku;
+    case CzescDrogi::Dodatki:
+        return kDodatki;
+    case CzescDrogi::Potracenia:
+        return kPotracenia;
+    case CzescDrogi::DoWyplaty:
+        return kDoWyplaty;
+    }
+    return {};
+}
+
+Pole skladnikDrogi(QStringView tablica, int nr) {
+    const bool dodatni = tablica == kDrogaPlus;
+    return {nazwaPola(tablica, nr), QStringLiteral("%1:").arg(nr),
+            dodatni ? schemat::SP(nr) : schemat::SM(nr), Kwota, kOdczyt};
+}
+
 KolumnaEkranu placaPrawa() { return kPlacaPrawa; }
 KolumnaEkranu dniMiesiaca() { return kDni; }
 KolumnaEkranu dniUrlopow() { return kDniUrlopow; }

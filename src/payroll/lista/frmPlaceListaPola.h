@@ -5,8 +5,9 @@
 
 namespace tornel::payroll {
 
-/// A sum of the row that no column holds, shown from the last calculation.
-enum class SumaEkranu { Brak, PodstawaZUS, PodstawaUbzdr };
+/// A sum of the row that no column holds: the bases are shown from the last calculation, the others from what
+/// the row has.
+enum class SumaEkranu { Brak, PodstawaZUS, PodstawaUbzdr, Skladki, PoPodatku, Pozostale };
 
 struct PoleEkranu {
     QStringView nazwa;
@@ -28,8 +29,12 @@ using KolumnaEkranu = std::span<const GrupaEkranu>;
 
 namespace ekranListy {
 
-/// From brutto to the amount to pay.
-[[nodiscard]] KolumnaEkranu placaLewa();
+/// The way from the components to the amount to pay, part by part: to the income and the tax, the additions,
+/// the deductions, the end. Components of the row stand before the first part, and before the additions and
+/// the deductions that they make up.
+enum class CzescDrogi { DoPodatku, Dodatki, Potracenia, DoWyplaty };
+[[nodiscard]] std::span<const PoleEkranu> drogaWyplaty(CzescDrogi czesc);
+/// What stands beside that way.
 [[nodiscard]] KolumnaEkranu placaPrawa();
 /// The tab "CZAS PRACY".
 [[nodiscard]] KolumnaEkranu dniMiesiaca();
@@ -42,6 +47,11 @@ namespace ekranListy {
 /// The group with the bank file's marks, shown only with constant 600.
 inline constexpr QStringView kMultiCash = u"MULTICASH";
 
+/// The amount shown only where there is one.
+inline constexpr QStringView kPozostale = u"txtPozostale";
+inline constexpr QStringView kDrogaPlus = u"txtDrogaPlus";
+inline constexpr QStringView kDrogaMinus = u"txtDrogaMinus";
+
 /// The row of a table as the binding takes it.
 [[nodiscard]] Pole pole(const PoleEkranu& p);
 
@@ -49,6 +59,8 @@ inline constexpr QStringView kMultiCash = u"MULTICASH";
 [[nodiscard]] QList<Pole> polaDodatnie();
 /// `txtMinus(j)` for j from 1 to 15.
 [[nodiscard]] QList<Pole> polaUjemne();
+/// The same amounts on the way, only to be read: `txtDrogaPlus(i)`, `txtDrogaMinus(j)`.
+[[nodiscard]] Pole skladnikDrogi(QStringView tablica, int nr);
 [[nodiscard]] QString nazwaPola(QStringView tablica, int nr);
 
 } // namespace ekranListy

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QTabWidget>
 
+class QCheckBox;
 class QGroupBox;
 
 namespace tornel::payroll {
@@ -20,10 +21,14 @@ public:
     [[nodiscard]] Wartosc czytaj(const Pole& pole) const override;
     void zapisz(const Pole& pole, const Wartosc& wartosc) override { wiersze_.zapisz(pole, wartosc); }
 
+    /// Nothing for one that is not known, or that no amount can hold.
+    [[nodiscard]] std::optional<Waluta> czytajSume(SumaEkranu suma) const;
+
     void przyjmijSumy() { sumyWiersza_ = lista_.wiersz(); }
     void porzucSumy() { sumyWiersza_.reset(); }
 
 private:
+    const Sesja& sesja_;
     const ListaPlac& lista_;
     ZrodloWierszy wiersze_;
     std::optional<KluczListy> sumyWiersza_;
@@ -61,10 +66,26 @@ signals:
     /// Amounts of the row were stored.
     void kwotyZmienione();
 
+protected:
+    void resizeEvent(QResizeEvent* zdarzenie) override;
+
 private:
+    /// A list of components with the tab that it stands on.
+    struct ListaSkladnikow {
+        QWidget* zakladka = nullptr;
+        QWidget* tresc = nullptr;
+        QCheckBox* bezZerowych = nullptr;
+        QWidget* legenda = nullptr;
+    };
     [[nodiscard]] QWidget* kolumna(KolumnaEkranu grupy);
     [[nodiscard]] QWidget* strona(const QList<KolumnaEkranu>& kolumny);
-    [[nodiscard]] QWidget* stronaSkladnikow(const QList<Pole>& pola);
+    [[nodiscard]] QWidget* stronaPlacy();
+    [[nodiscard]] QWidget* droga();
+    void dodajDoDrogi(ekranListy::CzescDrogi czesc, QList<Pole>& pola);
+    void dodajSkladnikiDrogi(bool brutto, bool dodatnie, bool ujemne, QList<Pole>& pola) const;
+    void przyjmij(const PoleEkranu& pole, const Pole& zbudowane);
+    [[nodiscard]] QWidget* stronaSkladnikow(ListaSkladnikow& lista, const QString& nazwa,
+                                            const QList<Pole>& pola);
     [[nodiscard]] QGroupBox* grupa(const GrupaEkranu& grupa);
     void wykoncz();
     void NazwySkladnikow();
@@ -72,6 +93,12 @@ private:
     void opiszSkladnik(const QString& nazwa, const QString& ostatnie, const QString& podpis,
                        const QString& flagi);
     void opiszStawki();
+    /// On a wide window the components stand beside the way that they make up, else on their own tabs.
+    void rozmiesc();
+    void ukryjZerowe(bool ukryj);
+    /// Shows the components of the month, on the way and where the clerk wants it only those with an amount.
+    void pokazSkladniki();
+    [[nodiscard]] bool widoczny(const QString& pole, const PozycjaSkladnika& pozycja, Waluta kwota) const;
     void zapisz(const QString& nazwa);
     void zmienKwote(const PoleListy& pole);
     void wpiszDni(const QString& nazwa);
@@ -83,6 +110,11 @@ private:
     QHash<QString, Kolumna> kolumny_;
     QList<const PoleEkranu*> zeStawka_;
     std::optional<KluczListy> pokazany_;
+    ListaSkladnikow dodatnie_, ujemne_;
+    QWidget* obok_ = nullptr; ///< where they stand on a wide window
+    bool saObok_ = false;
+    bool ukryjZerowe_ = false;
+    QHash<QString, bool> widoczne_;
 };
 
 } // namespace tornel::payroll

@@ -28,7 +28,7 @@ TEST_F(ListaPlacOknaTest, OdNowegoMiesiacaDoSum) {
         rozmowa_.spodziewaj(pytania::dniWylaczone, Styl::Wykrzyknik);
         wybierzOsoby();
         klik(okno, u"cmdNowy"_s);
-        EXPECT_EQ(wiersze(okno, u"lvwPlace"_s), QStringList{u"Żak Anna|007| "_s});
+        EXPECT_EQ(wiersze(okno, u"lvwPlace"_s), QStringList{u"Żak Anna|007| |0,00|0,00"_s});
         auto& przelicz = widzet(okno, u"cmdPrzelicz"_s);
         EXPECT_TRUE(przelicz.property("doPrzeliczenia").toBool());
         EXPECT_EQ(widzet<QTabWidget>(okno, u"tabPlace"_s).currentIndex(), 1) << "the components";
