@@ -250,7 +250,7 @@ QWidget* ZakladkiListy::stronaSkladnikow(ListaSkladnikow& lista, const QString& 
     lista.legenda = new QLabel(
         QStringLiteral("Litery przy składniku: B – brutto, Z – podstawa ZUS, U – ubezpieczenie zdrowotne."));
     lista.legenda->setProperty("podpowiedz", true);
-    lista.bezZerowych = new QCheckBox(QStringLiteral("Ukryj składniki równe &zero"));
+    lista.bezZerowych = new QCheckBox(QStringLiteral("Ukryj &składniki równe zero"));
     lista.bezZerowych->setObjectName(nazwa);
     // From the list the Tab key leads straight to the fields; the letter reaches it from everywhere.
     lista.bezZerowych->setFocusPolicy(Qt::ClickFocus);
