@@ -1,8 +1,10 @@
 #include "okna/Okno.h"
 #include "common/Blad.h"
 #include "okna/Aplikacja.h"
+#include "okna/Klawisze.h"
 #include "okna/Mnemoniki.h"
 #include "okna/PamiecOkien.h"
+#include "okna/PoleSzukania.h"
 #include <algorithm>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -48,12 +50,45 @@ QSplitter* Okno::dzielnik(QWidget* lewa, int szerokosc, QWidget* prawa) {
 
 void Okno::showEvent(QShowEvent* zdarzenie) {
     if (!std::exchange(pokazane_, true)) {
+        podlaczKlawisze();
         mnemoniki::nadajPrzyciskom(*this);
         pamiecOkien::przywroc(*this);
         // A screen smaller than the one the window was made or left on.
         resize(size().boundedTo(screen()->availableSize() - kRamkaOkna));
     }
     QDialog::showEvent(zdarzenie);
+}
+
+void Okno::podlaczKlawisze() {
+    if (auto* pole = findChild<PoleSzukania*>()) {
+        podlacz(Polecenie::Szukaj, *this, [pole] {
+            pole->setFocus(Qt::ShortcutFocusReason);
+            pole->selectAll();
+        });
+        dopiszKlawisz(*pole, klawisz(Polecenie::Szukaj).napis);
+    }
+    if (cofaCzynnosci()) {
+        podlacz(Polecenie::Odswiez, *this, [this] { odczytajDane(); });
+        return podlaczZapis();
+    }
+    podlacz(Polecenie::Zatwierdz, *this, [this] {
+        const auto przyciski = findChildren<QPushButton*>();
+        const auto domyslny = std::ranges::find_if(przyciski, &QPushButton::isDefault);
+        if (domyslny != przyciski.end()) (*domyslny)->click();
+    });
+}
+
+void Okno::podlaczZapis() {
+    podlacz(Polecenie::Zapisz, *this, [this] { (void)zapiszTeraz(); });
+    podlacz(Polecenie::Zatwierdz, *this, [this] {
+        if (zapiszTeraz()) QDialog::accept();
+    });
+}
+
+void Okno::odczytajDane() {
+    if (!przygotujCofniecie()) return;
+    if (auto* program = qobject_cast<Aplikacja*>(qApp)) program->odczytajPonownie();
+    wczytajPonownie();
 }
 
 void Okno::done(int wynik) {
@@ -84,6 +119,11 @@ void Okno::keyPressEvent(QKeyEvent* zdarzenie) {
 OknoEdycji::OknoEdycji(const QString& nazwa, Rozmowa& rozmowa, Zamykanie zamykanie, QWidget* rodzic,
                        PoEnterze poEnterze)
     : Okno(nazwa, rodzic, poEnterze), rozmowa_(rozmowa), zamykanie_(zamykanie) {}
+
+void OknoEdycji::podlaczKlawisze() {
+    podlaczZapis();
+    Okno::podlaczKlawisze();
+}
 
 bool OknoEdycji::rozstrzygnijZmiany() {
     if (!jestZmiana()) return true;

@@ -43,11 +43,22 @@ protected:
     /// the rest.
     [[nodiscard]] QSplitter* dzielnik(QWidget* lewa, int szerokosc, QWidget* prawa);
 
+    /// Stores what the screen holds, without closing or asking. False if it was refused.
+    [[nodiscard]] virtual bool zapiszTeraz() { return przygotujCofniecie(); }
+    /// Binds the keys of the table (`Klawisze`) that need nothing but the window itself; called once, before
+    /// it is first shown, when everything stands in it.
+    virtual void podlaczKlawisze();
+
     void showEvent(QShowEvent* zdarzenie) override;
     void closeEvent(QCloseEvent* zdarzenie) override;
     void keyPressEvent(QKeyEvent* zdarzenie) override;
 
+    /// Ctrl+S and Ctrl+Enter of a screen that stores.
+    void podlaczZapis();
+
 private:
+    void odczytajDane();
+
     PoEnterze poEnterze_;
     bool pokazane_ = false;
 };
@@ -65,6 +76,8 @@ public:
 
 protected:
     [[nodiscard]] bool cofaCzynnosci() const override { return true; }
+    [[nodiscard]] bool zapiszTeraz() override { return !jestZmiana() || zapiszZmiany(); }
+    void podlaczKlawisze() override;
     OknoEdycji(const QString& nazwa, Rozmowa& rozmowa, Zamykanie zamykanie, QWidget* rodzic = nullptr,
                PoEnterze poEnterze = PoEnterze::NastepnePole);
 

@@ -1,4 +1,5 @@
 #include "okna/WidokListy.h"
+#include "okna/Klawisze.h"
 #include "okna/MenuListy.h"
 #include "okna/Wyglad.h"
 #include <algorithm>
@@ -166,7 +167,8 @@ void WidokListy::currentChanged(const QModelIndex& biezacy, const QModelIndex& p
 }
 
 void WidokListy::keyPressEvent(QKeyEvent* zdarzenie) {
-    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter;
+    const bool enter = zdarzenie->key() == Qt::Key_Return || zdarzenie->key() == Qt::Key_Enter ||
+                       zdarzenie->key() == okna::klawisz(Polecenie::Edycja).klawisz.key();
     // Where the list leads nowhere, Enter is left to the default button.
     const bool prowadzi = isSignalConnected(QMetaMethod::fromSignal(&WidokListy::wejscie));
     if (enter && prowadzi && currentIndex().isValid()) {

@@ -1,5 +1,6 @@
 #include "okna/frmListaPol.h"
 #include "common/Rozmowa.h"
+#include "okna/Klawisze.h"
 #include "okna/PoleSzukania.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -108,15 +108,8 @@ QWidget* frmListaPol::dol(const QList<QPushButton*>& wlasne) {
 }
 
 void frmListaPol::budujSkroty() {
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
-        txtSzukaj_->setFocus(Qt::ShortcutFocusReason);
-        txtSzukaj_->selectAll();
-    });
-    connect(new QShortcut(QKeySequence(Qt::Key_Insert), this), &QShortcut::activated, this,
-            &frmListaPol::nowy);
-    auto* kasowanie = new QShortcut(QKeySequence(Qt::Key_Delete), lvwLista_);
-    kasowanie->setContext(Qt::WidgetShortcut); // in a field the key deletes a letter
-    connect(kasowanie, &QShortcut::activated, this, &frmListaPol::usun);
+    podlacz(Polecenie::Nowy, *cmdNowy_);
+    podlacz(Polecenie::Usun, *cmdUsun_, *lvwLista_);
 }
 
 void frmListaPol::dodaj(QWidget* widzet) { ramki_->addWidget(widzet); }

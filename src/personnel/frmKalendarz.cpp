@@ -1,6 +1,7 @@
 #include "personnel/frmKalendarz.h"
 #include "common/Daty.h"
 #include "okna/frmInputData.h"
+#include "okna/Klawisze.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
@@ -11,7 +12,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace tornel::personnel {
@@ -101,11 +101,8 @@ QWidget* frmKalendarz::rzad(const QList<QPushButton*>& dodatkowe) {
 }
 
 void frmKalendarz::budujSkroty() {
-    connect(new QShortcut(QKeySequence(Qt::Key_Insert), this), &QShortcut::activated, cmdNowy_,
-            &QPushButton::click);
-    auto* kasowanie = new QShortcut(QKeySequence(Qt::Key_Delete), lvwMies_);
-    kasowanie->setContext(Qt::WidgetShortcut); // in a description the key deletes a letter
-    connect(kasowanie, &QShortcut::activated, cmdUsun_, &QPushButton::click);
+    podlacz(Polecenie::Nowy, *cmdNowy_);
+    podlacz(Polecenie::Usun, *cmdUsun_, *lvwMies_);
 }
 
 void frmKalendarz::dodajListe(QWidget* lista) { listy_->insertWidget(0, lista); }

@@ -1,6 +1,7 @@
 #include "personnel/frmPrac.h"
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
+#include "okna/Klawisze.h"
 #include "okna/Klepsydra.h"
 #include "okna/PamiecOkien.h"
 #include "okna/PoleSzukania.h"
@@ -141,8 +142,8 @@ void frmPrac::budujSkroty() {
     const auto skrot = [this](const QKeySequence& klawisze, auto czynnosc) {
         connect(new QShortcut(klawisze, this), &QShortcut::activated, this, czynnosc);
     };
-    skrot(QKeySequence::Find, [this] { szukaj(); });
-    skrot(QKeySequence::Save, [this] { zapisz(); });
+    podlacz(Polecenie::Nowy, *cmdNowy_);
+    podlacz(Polecenie::Usun, *cmdUsun_, *lvwPrac_);
     skrot(QKeySequence(Qt::CTRL | Qt::Key_Down), [this] { przejdz(1); });
     skrot(QKeySequence(Qt::CTRL | Qt::Key_Up), [this] { przejdz(-1); });
     skrot(QKeySequence(Qt::ALT | Qt::Key_L), [this] { lvwPrac_->setFocus(Qt::ShortcutFocusReason); });
@@ -150,8 +151,7 @@ void frmPrac::budujSkroty() {
                                  Qt::Key_7, Qt::Key_8, Qt::Key_9, Qt::Key_0, Qt::Key_Minus};
     for (int i = 0; i < zakladki_->count(); ++i)
         skrot(QKeySequence(Qt::ALT | cyfry[i]), [this, i] { zakladki_->setCurrentIndex(i); });
-    cmdWyszukaj_->setToolTip(QStringLiteral("Ctrl+F"));
-    cmdZapisz_->setToolTip(QStringLiteral("Ctrl+S"));
+    dopiszKlawisz(*cmdZapisz_, klawisz(Polecenie::Zapisz).napis);
     lvwPrac_->setToolTip(QStringLiteral("Alt+L: do listy, Enter: do pól, Ctrl+Góra i Ctrl+Dół: poprzedni i "
                                         "następny pracownik"));
 }

@@ -1,10 +1,10 @@
 #include "zus/frmUwagiKedu.h"
+#include "okna/Klawisze.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
 #include "okna/Wyglad.h"
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace tornel::zus {
@@ -24,7 +24,7 @@ frmUwagiKedu::frmUwagiKedu(std::function<QList<UwagaKedu>()> sprawdz, Popraw pop
     labIle_->setWordWrap(true);
     auto* cmdSprawdz = przycisk(QStringLiteral("cmdSprawdz"), QStringLiteral("&Sprawdź ponownie"));
     auto* cmdAnuluj = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Anuluj"));
-    cmdSprawdz->setToolTip(QStringLiteral("F5"));
+    podlacz(Polecenie::Odswiez, *cmdSprawdz);
     for (QPushButton* p : {cmdOtworz_, cmdMimo_, cmdSprawdz, cmdAnuluj}) p->setAutoDefault(false);
     auto* uklad = new QVBoxLayout(this);
     uklad->addWidget(labIle_);
@@ -38,7 +38,6 @@ frmUwagiKedu::frmUwagiKedu(std::function<QList<UwagaKedu>()> sprawdz, Popraw pop
     connect(cmdMimo_, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdAnuluj, &QPushButton::clicked, this, &QDialog::reject);
     connect(cmdSprawdz, &QPushButton::clicked, this, &frmUwagiKedu::wczytaj);
-    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this, &frmUwagiKedu::wczytaj);
     wczytaj();
     lvwUwagi_->setFocus();
 }

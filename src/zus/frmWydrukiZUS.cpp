@@ -1,6 +1,7 @@
 #include "zus/frmWydrukiZUS.h"
 #include "common/Rozmowa.h"
 #include "okna/frmInputData.h"
+#include "okna/Klawisze.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
@@ -18,7 +19,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 
 namespace tornel::zus {
 
@@ -145,8 +145,7 @@ QWidget* frmWydrukiZUS::rzad() {
     pomoc->setObjectName(QStringLiteral("cmdHelp"));
     QPushButton* powrot = przycisk(QStringLiteral("Command1"), QStringLiteral("&Powrót"), u"powrot");
     for (QPushButton* p : {Command2_, cmdPodglad_, powrot}) p->setAutoDefault(false);
-    Command2_->setToolTip(QStringLiteral("F9"));
-    connect(new QShortcut(Qt::Key_F9, this), &QShortcut::activated, Command2_, &QPushButton::click);
+    podlacz(Polecenie::Przelicz, *Command2_);
     connect(Command2_, &QPushButton::clicked, this, &frmWydrukiZUS::StworzPlik);
     connect(cmdPodglad_, &QPushButton::clicked, this, [this] { port_.pokaz(zapisany_, this); });
     cmdPodglad_->setVisible(static_cast<bool>(port_.pokaz));

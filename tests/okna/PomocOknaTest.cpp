@@ -10,6 +10,7 @@
 #include "okna/frmInputData.h"
 #include "okna/frmPomoc.h"
 #include "okna/frmZakresMies.h"
+#include "okna/Klawisze.h"
 #include "okna/Pomoc.h"
 #include "okna/RozmowaOkien.h"
 #include "payroll/lista/frmPlaceLista.h"
@@ -330,6 +331,7 @@ std::set<QKeySequence> klawiszeEkranu(const QWidget& ekran) {
     for (const auto* przycisk : ekran.findChildren<QAbstractButton*>())
         if (przycisk->objectName() != u"cmdPomoc") wynik.insert(przycisk->shortcut()); // F1 is told
     wynik.erase(QKeySequence());
+    for (const Klawisz& k : klawisze()) wynik.erase(QKeySequence(k.klawisz)); // told once for all
     // Shift+Tab reaches a program as one of two keys.
     wynik.erase(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab));
     return wynik;
@@ -346,6 +348,9 @@ QKeySequence klawisz(QString zapis) {
 
 TEST_F(PomocOkna, SciagaKlawiszyZgadzaSieZEkranami) {
     Podrecznik podrecznik;
+    QStringList wspolne;
+    for (const Klawisz& k : klawisze()) wspolne += k.napis.toString();
+    EXPECT_EQ(podrecznik.pierwszeKolumny(u"klawisze-wspolne"_s).join(u' '), wspolne.join(u' '));
     std::set<QString> sprawdzone;
     const auto porownaj = [&](const QWidget& ekran) {
         std::set<QKeySequence> opisane;

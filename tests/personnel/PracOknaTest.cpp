@@ -105,7 +105,7 @@ TEST_F(PracTest, SzukaPoNumerzeINazwiskuRazPoRaz) {
             EXPECT_EQ(dialog.isVisible(), !znaleziony) << "without a hit the next text may follow";
             if (!znaleziony) QTest::keyClick(pole, Qt::Key_Escape);
         });
-        QTest::keyClick(okno.get(), Qt::Key_F, Qt::ControlModifier);
+        k<QPushButton>(QStringLiteral("cmdWyszukaj")).click();
         ASSERT_TRUE(otwarte);
         EXPECT_EQ(lista().wybrany(), znaleziony ? wybrany : przedtem);
         EXPECT_TRUE(rozmowa_.gotowa());

@@ -101,7 +101,7 @@ void frmPlaceLista::budujSkroty() {
     const auto skrot = [this](const QKeySequence& klawisze, auto czynnosc) {
         connect(new QShortcut(klawisze, this), &QShortcut::activated, this, czynnosc);
     };
-    skrot(QKeySequence::Find, [this] { findChild<PoleSzukania*>()->setFocus(Qt::ShortcutFocusReason); });
+    pasek_->podlaczListe(*lvwPlace_);
     for (int i = 0; i < zakladki_->count(); ++i)
         skrot(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i)),
               [this, i] { zakladki_->setCurrentIndex(i); });

@@ -1,4 +1,5 @@
 #include "payroll/lista/frmPlaceListaPasek.h"
+#include "okna/Klawisze.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
 #include <QHBoxLayout>
@@ -37,8 +38,8 @@ PasekListy::PasekListy(const PortWydrukow& wydruki, QWidget* rodzic) : QWidget(r
     cmdKonto_->setToolTip(QStringLiteral("Cała kwota do wypłaty idzie przelewem"));
     cmdDrukuj_ = przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj");
     cmdAnuluj_ = przycisk(QStringLiteral("cmdAnuluj"), QStringLiteral("&Powrót"), u"powrot");
-    cmdPrzepisz_->setToolTip(QStringLiteral("Składniki na nowo z kadr, nadgodziny, L-4 i urlopy (F8)"));
-    cmdPrzelicz_->setToolTip(QStringLiteral("Podstawy, składki, podatek i kwota do wypłaty (F9)"));
+    cmdPrzepisz_->setToolTip(QStringLiteral("Składniki na nowo z kadr, nadgodziny, L-4 i urlopy"));
+    cmdPrzelicz_->setToolTip(QStringLiteral("Podstawy, składki, podatek i kwota do wypłaty"));
     cmdDni_->setToolTip(QStringLiteral("Dni miesiąca z kalendarza i rejestrów nieobecności (F7)"));
     // Enter moves on from field to field, so no button may catch it.
     const QList<QPushButton*> wszystkie{cmdNowy_,  cmdUsun_,      cmdPrzepisz_, cmdDni_,   cmdPrzelicz_,
@@ -51,10 +52,10 @@ PasekListy::PasekListy(const PortWydrukow& wydruki, QWidget* rodzic) : QWidget(r
     connect(cmdPrzelicz_, &QPushButton::clicked, this, &PasekListy::przelicz);
     connect(cmdKonto_, &QPushButton::clicked, this, &PasekListy::caloscNaKonto);
     connect(cmdAnuluj_, &QPushButton::clicked, this, &PasekListy::powrot);
-    // Not the buttons' own shortcuts, which would take the place of their mnemonics.
     connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, cmdDni_, &QPushButton::click);
-    connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, cmdPrzepisz_, &QPushButton::click);
-    connect(new QShortcut(Qt::Key_F9, this), &QShortcut::activated, cmdPrzelicz_, &QPushButton::click);
+    podlacz(Polecenie::Nowy, *cmdNowy_);
+    podlacz(Polecenie::Przepisz, *cmdPrzepisz_);
+    podlacz(Polecenie::Przelicz, *cmdPrzelicz_);
     budujMenu(wydruki);
 
     auto* uklad = new QHBoxLayout(this);
@@ -95,6 +96,8 @@ void PasekListy::budujMenu(const PortWydrukow& port) {
     }
     cmdDrukuj_->setMenu(wydruki);
 }
+
+void PasekListy::podlaczListe(QWidget& lista) { podlacz(Polecenie::Usun, *cmdUsun_, lista); }
 
 void PasekListy::ustawDostepnosc(bool zablokowany, bool pusta) {
     cmdNowy_->setEnabled(!zablokowany);

@@ -17,6 +17,8 @@ public:
     /// Opens and closes the buttons: nothing is changed in a blocked month, and a list without rows can only
     /// be added to.
     void ustawDostepnosc(bool zablokowany, bool pusta);
+    /// Delete on the list presses "&Usuń prac.".
+    void podlaczListe(QWidget& lista);
     /// Whether the row chosen waits for `Przelicz1`.
     void oznaczDoPrzeliczenia(bool tak);
     /// Where the clerk goes on from the last field, and from an empty list.

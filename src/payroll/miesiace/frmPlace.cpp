@@ -2,6 +2,7 @@
 #include "common/Daty.h"
 #include "common/Rozmowa.h"
 #include "okna/frmInputData.h"
+#include "okna/Klawisze.h"
 #include "okna/Klepsydra.h"
 #include "okna/Przyciski.h"
 #include "okna/WidokListy.h"
@@ -97,6 +98,8 @@ void frmPlace::budujPrzyciski() {
     connect(cmdBlokada_, &QPushButton::clicked, this, &frmPlace::blokuj);
     connect(cmdWejdz_, &QPushButton::clicked, this, &frmPlace::WejdzNaListe);
     connect(cmdAnuluj_, &QPushButton::clicked, this, &QDialog::reject);
+    podlacz(Polecenie::Nowy, *cmdNowy_);
+    podlacz(Polecenie::Usun, *cmdUsun_, *lvwLista_);
 }
 
 QWidget* frmPlace::ramki() {

@@ -5,6 +5,7 @@
 #include "common/Liczby.h"
 #include "common/Rozmowa.h"
 #include "okna/frmInputData.h"
+#include "okna/Klawisze.h"
 #include "okna/Klepsydra.h"
 #include "okna/PoleSzukania.h"
 #include "okna/Przyciski.h"
@@ -16,7 +17,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -141,8 +141,11 @@ void frmNadg::polacz() {
     connect(lvwOsoby_, &WidokListy::wejscie, this, [this] { siatka_->wejdz(); });
     connect(siatka_, &SiatkaNadgodzin::koniec, this, [this] { lvwOsoby_->setFocus(Qt::OtherFocusReason); });
     connect(&siatka_->nadgodziny(), &ModelNadgodzin::zmieniono, this, &frmNadg::pokazSumy);
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
-            [this] { findChild<PoleSzukania*>()->setFocus(Qt::ShortcutFocusReason); });
+    podlacz(Polecenie::Nowy, *cmdNowaLista_, *lvwLista_);
+    podlacz(Polecenie::Usun, *cmdUsunListe_, *lvwLista_);
+    podlacz(Polecenie::Nowy, *cmdNowaOsoba_, *lvwOsoby_);
+    podlacz(Polecenie::Usun, *cmdUsunOsobe_, *lvwOsoby_);
+    podlacz(Polecenie::Odswiez, *cmdOdswiez_);
 }
 
 QWidget* frmNadg::lewaStrona() {
