@@ -6,6 +6,7 @@
 #include "app/frmMainDziennik.h"
 #include "app/frmMainPodatki.h"
 #include "app/frmMainUmowy.h"
+#include "app/frmMainUmowyOPrace.h"
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmMainWydrukiListy.h"
 #include "app/frmMainZus.h"
@@ -65,6 +66,7 @@ void ZarejestrujEkrany(frmMain& okno, Otoczenie& otoczenie) {
     ZarejestrujZus(okno, otoczenie);
     ZarejestrujUmowy(okno, otoczenie);
     ZarejestrujPodatki(okno, otoczenie);
+    ZarejestrujUmowyOPrace(okno, otoczenie);
     ZarejestrujArchiwum(okno, otoczenie);
     ZarejestrujDziennik(okno, otoczenie);
     zarejestruj<frmHaslo>(okno, otoczenie, Wejscie::ZmianaHasla);

@@ -118,6 +118,11 @@ constexpr Wiersz kLitery[] = {
     {u"Lista obecności do podpisu", u"o"},
     {u"Karta przychodów", u"p"},
     {u"Zaświadczenie o zatrudnieniu i zarobkach", u"z"},
+    // employment contracts
+    {u"Umowa o pracę", u"u"},
+    {u"Zmiana warunków umowy", u"z"},
+    {u"Wypowiedzenie umowy", u"w"},
+    {u"Świadectwo pracy", u"p"},
     // buttons
     {u"OK", u"ok"},
     {u"Przepisz", u"r"},

@@ -11,6 +11,7 @@
 #include "start/NieobecnosciPrzykladu.h"
 #include "start/PracownicyPrzykladu.h"
 #include "start/Rozruch.h"
+#include "start/UmowyOPracePrzykladu.h"
 #include "start/UmowyPrzykladu.h"
 #include "store/TabelaCsv.h"
 #include <QFile>
@@ -172,6 +173,7 @@ void utworzFirme(const QString& sciezka, int pracownikow, int miesiecy, const QS
         zatrudnij(o, pracownikow);
         wpiszNieobecnosci(o, pracownikow);
         DodajUmowyPrzykladu(o, pracownikow);
+        DodajUmowyOPracePrzykladu(o, pracownikow);
         transakcja.zatwierdz();
     }
     QList<RokMies> miesiace;
