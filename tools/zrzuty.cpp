@@ -10,6 +10,7 @@
 #include "app/frmLogowanie.h"
 #include "app/frmMain.h"
 #include "app/frmMainEkrany.h"
+#include "app/frmMainUmowyOPrace.h"
 #include "app/frmMainWydrukiKadr.h"
 #include "app/frmOstatnieBazy.h"
 #include "app/frmRaport.h"
@@ -49,6 +50,7 @@
 #include "personnel/frmRejZwoln.h"
 #include "personnel/frmRodzina.h"
 #include "personnel/frmTrDoPr.h"
+#include "personnel/frmUmoP.h"
 #include "personnel/frmUS.h"
 #include "personnel/frmWybPr.h"
 #include "personnel/frmWydrukKadr.h"
@@ -253,6 +255,8 @@ void umowy(const Zrzuty& zrzuty, Otoczenie& o) {
             zrzuty.ekran(ekran, opis.nazwa.toString() + QStringLiteral("-skladki"));
         }
     }
+    frmUmoP oPrace(o, nullptr, DrukiUmowOPrace(o));
+    zrzuty.ekran(oPrace, QStringLiteral("umowy-o-prace"));
     frmUZLData data(RodzajeUmow().front());
     zrzuty.dialog(data, QStringLiteral("frmUZLData"));
 }
