@@ -12,7 +12,7 @@ using schemat::UMOP;
 
 namespace {
 
-constexpr int kSzerokoscListyUmoP = 96 * Wyglad::kSiatka;
+constexpr int kSzerokoscListyUmoP = 102 * Wyglad::kSiatka;
 
 const QString kZakladkaUmowa = QStringLiteral("Umowa"), kZakladkaKoniec = QStringLiteral("Rozwiązanie");
 
@@ -31,7 +31,7 @@ constexpr OkresKonczacych kOkresyKonczacych[] = {
     {u"Kończące się w ciągu pół roku", 6},
 };
 
-constexpr QStringView kRodzajeNaLiscie[] = {u"próbny", u"określony", u"nieokreślony", u"określona praca"};
+constexpr QStringView kRodzajeNaLiscie[] = {u"próbny", u"określony", u"nieokreślony", u"dana praca"};
 
 Pole poleUmoP(const char16_t* nazwa, const char16_t* podpis, std::string_view kolumna,
               Rodzaj rodzaj = Rodzaj::Tekst) {
@@ -79,7 +79,7 @@ QList<GrupaPol> grupyUmoP(Otoczenie& o) {
           poleUmoP(u"dtpdata_zaw", u"Data zawarcia:", "data_zaw", Rodzaj::Data),
           poleUmoP(u"dtpdata_od", u"Od dnia:", "data_od", Rodzaj::Data),
           poleUmoP(u"dtpdata_do", u"Do dnia:", "data_do", Rodzaj::Data),
-          poleUmoP(u"chkwyp_2tyg", u"Można wypowiedzieć z dwutygodniowym okresem", "wyp_2tyg",
+          poleUmoP(u"chkwyp_2tyg", u"Za 2-tygodniowym wypowiedzeniem", "wyp_2tyg",
                    Rodzaj::Flaga)},
          1,
          kZakladkaUmowa},
@@ -136,7 +136,7 @@ std::span<const PozycjaDrukuUmoP> MenuDrukuUmoP() { return kDrukUmoP; }
 std::span<const OkresKonczacych> OkresyKonczacych() { return kOkresyKonczacych; }
 
 QString RodzajNaLiscie(const UmowaOPrace& umowa) {
-    if (umowa.zmienia > 0) return QStringLiteral("zmiana warunków");
+    if (umowa.zmienia > 0) return QStringLiteral("zmiana");
     return umowa.rodzaj >= 0 && umowa.rodzaj < std::ssize(kRodzajeNaLiscie)
                ? kRodzajeNaLiscie[umowa.rodzaj].toString()
                : QString();
@@ -156,7 +156,7 @@ OpisListyPol OpisUmoP(Otoczenie& o) {
                     {QStringLiteral("MIEJSCE")},
                     {QStringLiteral("ETAT")},
                     {QStringLiteral("PŁACA"), Qt::AlignRight}};
-    opis.udzialy = {8, 15, 12, 10, 10, 13, 9, 8, 5, 10};
+    opis.udzialy = {9, 15, 12, 11, 11, 11, 9, 8, 5, 9};
     opis.pustaLista =
         QStringLiteral("Nie ma jeszcze umów o pracę.\nPrzycisk „Nowy” zakłada pierwszą z danymi "
                        "z kartoteki pracownika.");
