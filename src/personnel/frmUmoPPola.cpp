@@ -79,8 +79,7 @@ QList<GrupaPol> grupyUmoP(Otoczenie& o) {
           poleUmoP(u"dtpdata_zaw", u"Data zawarcia:", "data_zaw", Rodzaj::Data),
           poleUmoP(u"dtpdata_od", u"Od dnia:", "data_od", Rodzaj::Data),
           poleUmoP(u"dtpdata_do", u"Do dnia:", "data_do", Rodzaj::Data),
-          poleUmoP(u"chkwyp_2tyg", u"Za 2-tygodniowym wypowiedzeniem", "wyp_2tyg",
-                   Rodzaj::Flaga)},
+          poleUmoP(u"chkwyp_2tyg", u"Za 2-tygodniowym wypowiedzeniem", "wyp_2tyg", Rodzaj::Flaga)},
          1,
          kZakladkaUmowa},
         {QStringLiteral("WARUNKI PRACY I PŁACY"),
@@ -165,9 +164,10 @@ OpisListyPol OpisUmoP(Otoczenie& o) {
     opis.szukaj = QStringLiteral("Szukaj: numer umowy lub nazwisko");
     opis.grupy = grupyUmoP(o);
     opis.zakladki = QStringLiteral("tabUmoP");
-    opis.przyciski = {przycisk(QStringLiteral("cmdZmiana"), QStringLiteral("&Zmiana warunków"), u"kopiuj"),
-                      przycisk(QStringLiteral("cmdKartoteka"), QStringLiteral("Do &kartoteki"), u"pracownicy"),
-                      przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj")};
+    opis.przyciski = {
+        przycisk(QStringLiteral("cmdZmiana"), QStringLiteral("&Zmiana warunków"), u"kopiuj"),
+        przycisk(QStringLiteral("cmdKartoteka"), QStringLiteral("Do &kartoteki"), u"pracownicy"),
+        przycisk(QStringLiteral("cmdDrukuj"), QStringLiteral("&Drukuj"), u"drukuj")};
     return opis;
 }
 

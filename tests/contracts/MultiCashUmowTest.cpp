@@ -44,8 +44,7 @@ protected:
     }
     [[nodiscard]] QString plik(int dzien) const { return MultiCash::nazwaPliku(przebieg(dzien)); }
     std::optional<int> utworz(Program& program, int dzien) {
-        return MultiCash(program.otoczenie())
-            .utworz(przebieg(dzien), {.umowy = rodzajWyplat(u"UZL"_s)});
+        return MultiCash(program.otoczenie()).utworz(przebieg(dzien), {.umowy = rodzajWyplat(u"UZL"_s)});
     }
     void zabij(Akcja akcja);
     /// The keys of the contracts that are marked as sent.
