@@ -8,6 +8,7 @@
 #include "druk/Tabela.h"
 #include "okna/Drukowanie.h"
 #include "okna/frmPodglad.h"
+#include "reports/place/WydrukiListyPlac.h"
 #include "rules/Stale.h"
 #include "wsparcie/Litery.h"
 #include "wsparcie/OknaPlacTestowe.h"
@@ -106,6 +107,22 @@ TEST_F(PrzelewyOkna, NothingToPayAndNoAccountAreTold) {
     rozmowa_.spodziewaj(u"Brak zdefiniowanych kont bankowych"_s, Styl::Informacja);
     drukuj(*okno, u"Wydruk wszystkich przelewów"_s);
     EXPECT_TRUE(zapamietane(wykonanie::Przelew).isEmpty());
+}
+
+TEST_F(PrzelewyOkna, APrintedListIsNotedAndReceiptsAreNot) {
+    przygotuj();
+    auto okno = ekran();
+    for (const QString& napis : {u"Lista płac"_s, u"Pokwitowania"_s}) {
+        wOknie<frmPodglad>([&](frmPodglad& podglad) {
+            EXPECT_TRUE(zapamietane(reports::kWydrukListy).isEmpty() || napis != u"Lista płac"_s);
+            EXPECT_TRUE(podglad.zapiszPdf(plik(napis + u".pdf"_s)));
+        });
+        drukuj(*okno, napis);
+    }
+    const QList<Wykonanie> wydruki = zapamietane(reports::kWydrukListy);
+    ASSERT_EQ(wydruki.size(), 1);
+    EXPECT_EQ(wydruki.first().opis, u"Lista płac"_s);
+    EXPECT_EQ(wydruki.first().lista, QString()) << "of all lists";
 }
 
 TEST_F(PrzelewyOkna, ABatchIsOneDocumentAndWhatWasMadeIsSaidBeforeItIsMadeAgain) {

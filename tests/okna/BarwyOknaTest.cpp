@@ -11,9 +11,12 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTest>
 
 namespace tornel::testy {
@@ -38,9 +41,29 @@ double kontrast(const QColor& a, const QColor& b) {
     return (jasna + 0.05) / (ciemna + 0.05);
 }
 
+/// The program's look for one test; the others have that of the desktop.
+class ZWygladem {
+public:
+    ZWygladem() { Wyglad::zastosuj(*qApp); }
+    ~ZWygladem() {
+        qApp->setStyleSheet({});
+        QApplication::setPalette(QPalette());
+        QApplication::setStyle(QStyleFactory::create(styl_));
+        QApplication::setFont(pismo_);
+    }
+    ZWygladem(const ZWygladem&) = delete;
+    ZWygladem& operator=(const ZWygladem&) = delete;
+
+private:
+    QString styl_ = QApplication::style()->objectName();
+    QFont pismo_ = QApplication::font();
+};
+
 class BarwyTest : public testing::TestWithParam<Motyw> {
-protected:
-    ~BarwyTest() override { Wyglad::pokazMotyw(*qApp, WyborMotywu::JakPulpit); }
+    ZWygladem wyglad_;
+};
+class WygladOknaTest : public testing::Test {
+    ZWygladem wyglad_;
 };
 INSTANTIATE_TEST_SUITE_P(Motywy, BarwyTest, testing::Values(Motyw::Jasny, Motyw::Ciemny));
 
@@ -115,7 +138,25 @@ TEST_P(BarwyTest, KazdyObrazWidacNaKazdymTle) {
     EXPECT_GE(obrazow, 30);
 }
 
-TEST(WygladOknaTest, WyborWidacOdRazuAPamietaGoDopieroOK) {
+TEST_P(BarwyTest, ObrazZaznaczonegoWejsciaMenuMaBarweJegoTekstu) {
+    Wyglad::pokazMotyw(*qApp, GetParam() == Motyw::Ciemny ? WyborMotywu::Ciemny : WyborMotywu::Jasny);
+    QMenu menu;
+    QAction* wejscie = menu.addAction(Wyglad::ikona(u"haslo"_s), u"Zmiana hasła"_s);
+    menu.popup(QPoint(0, 0));
+    menu.setActiveAction(wejscie);
+    QApplication::processEvents();
+    const QImage obraz = menu.grab().toImage();
+    const QRect pozycja = menu.actionGeometry(wejscie);
+    const QColor tlo = QApplication::palette().color(QPalette::Highlight);
+    double najwiekszy = 0;
+    for (int y = pozycja.top() + 2; y < pozycja.bottom() - 1; ++y)
+        for (int x = pozycja.left() + 4; x < pozycja.left() + 22; ++x) // before the text
+            najwiekszy = std::max(najwiekszy, kontrast(obraz.pixelColor(x, y), tlo));
+    EXPECT_GE(najwiekszy, kNajmniejTekstu);
+    menu.close();
+}
+
+TEST_F(WygladOknaTest, WyborWidacOdRazuAPamietaGoDopieroOK) {
     const auto ciemno = [] { return QApplication::palette().color(QPalette::Window).lightness() < 128; };
     Wyglad::pokazMotyw(*qApp, zapamietanyMotyw());
     const bool pulpit = ciemno();
@@ -136,7 +177,7 @@ TEST(WygladOknaTest, WyborWidacOdRazuAPamietaGoDopieroOK) {
     EXPECT_EQ(ciemno(), pulpit) << "the desktop's own comes to light again";
 }
 
-TEST(WygladOknaTest, PowitanieUstepujePytaniu) {
+TEST_F(WygladOknaTest, PowitanieUstepujePytaniu) {
     frmSplash powitanie;
     powitanie.show();
     QApplication::processEvents();
