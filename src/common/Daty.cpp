@@ -33,6 +33,13 @@ std::optional<QDate> zPozycji(QStringView dziesiec) {
     return zCzesci(dziesiec.mid(6, 4), dziesiec.mid(3, 2), dziesiec.mid(0, 2));
 }
 
+/// Small letters without their marks, as a hurried hand types them.
+QString bezZnakow(const QString& tekst) {
+    QString wynik = tekst.toLower().normalized(QString::NormalizationForm_D);
+    wynik.removeIf([](QChar znak) { return znak.isMark(); });
+    return wynik;
+}
+
 } // namespace
 
 int DniWMiesiacu(int rok, int mies) {
@@ -52,6 +59,30 @@ QString NazwaMiesiaca(int mies) {
         QStringLiteral("Lipiec"),      QStringLiteral("Sierpień"), QStringLiteral("Wrzesień"),
         QStringLiteral("Październik"), QStringLiteral("Listopad"), QStringLiteral("Grudzień")};
     return mies >= 1 && mies <= 12 ? nazwy[static_cast<std::size_t>(mies - 1)] : QString();
+}
+
+QList<int> PasujaceMiesiace(const QString& tekst) {
+    static constexpr std::array<QStringView, 12> dopelniacze = {
+        u"stycznia", u"lutego",   u"marca",    u"kwietnia",     u"maja",      u"czerwca",
+        u"lipca",    u"sierpnia", u"wrzesnia", u"pazdziernika", u"listopada", u"grudnia"};
+    const QString szukany = bezZnakow(tekst.trimmed());
+    QList<int> wynik;
+    if (szukany.isEmpty()) return wynik;
+    for (int m = 1; m <= 12; ++m)
+        if (QString::number(m).startsWith(szukany) || FormatMiesiaca(m).startsWith(szukany) ||
+            bezZnakow(NazwaMiesiaca(m)).startsWith(szukany) ||
+            dopelniacze[static_cast<std::size_t>(m - 1)].startsWith(szukany))
+            wynik.append(m);
+    return wynik;
+}
+
+std::optional<int> CzytajMiesiac(const QString& tekst) {
+    const QList<int> pasujace = PasujaceMiesiace(tekst);
+    const QString numer = tekst.trimmed();
+    for (const int m : pasujace)
+        if (numer == QString::number(m) || numer == FormatMiesiaca(m)) return m;
+    const bool slowo = !numer.isEmpty() && numer.front().isLetter();
+    return slowo && pasujace.size() == 1 ? std::optional(pasujace.first()) : std::nullopt;
 }
 
 QString Nazwa_dnia(QDate data) {

@@ -3,6 +3,7 @@
 #include "common/Przestrzenie.h"
 #include <optional>
 #include <QDate>
+#include <QList>
 #include <QString>
 
 namespace tornel::common {
@@ -14,6 +15,13 @@ namespace tornel::common {
 
 /// "Styczeń" to "Grudzień" for 1 to 12, otherwise empty.
 [[nodiscard]] QString NazwaMiesiaca(int mies);
+/// The months that a typed text may become, in their order: by number with or without the leading zero ("1"
+/// is 1, 10, 11 or 12), or by the beginning of the name ("lipiec", "lipca"), in any letters and also without
+/// Polish marks.
+[[nodiscard]] QList<int> PasujaceMiesiace(const QString& tekst);
+/// The month that a text names by itself: "7", "07", "lip", "Lipiec", "paz". Nothing for a text that is none,
+/// or begins more than one name.
+[[nodiscard]] std::optional<int> CzytajMiesiac(const QString& tekst);
 /// "Poniedziałek" to "Niedziela", empty for an invalid date.
 [[nodiscard]] QString Nazwa_dnia(QDate data);
 /// The weekday as overtime stores it; the same names.

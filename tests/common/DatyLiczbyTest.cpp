@@ -28,6 +28,20 @@ TEST(Daty, MonthsAndWeekdays) {
     EXPECT_EQ(FormatMiesiaca(7) + FormatRoku(987), u("070987"));
 }
 
+TEST(Daty, AMonthIsReadByNumberAndByName) {
+    const std::pair<const char*, int> dobre[] = {
+        {"7", 7},      {"07", 7},     {" 12 ", 12},    {"1", 1},        {"01", 1},
+        {"lip", 7},    {"LIPIEC", 7}, {"lipca", 7},    {"lis", 11},     {"maj", 5},
+        {"mar", 3},    {"paź", 10},   {"pazdz", 10},   {"Września", 9}, {"s", 0},
+        {"li", 0},     {"0", 0},      {"13", 0},       {"007", 0},      {"", 0},
+        {"lipton", 0}, {"7.", 0},     {"lipiec 7", 0}, {"kwietnia", 4}, {"g", 12},
+    };
+    for (const auto& [tekst, miesiac] : dobre)
+        EXPECT_EQ(CzytajMiesiac(u(tekst)).value_or(0), miesiac) << tekst;
+    EXPECT_EQ(PasujaceMiesiace(u("1")), (QList<int>{1, 10, 11, 12}));
+    EXPECT_EQ(PasujaceMiesiace(u("m")), (QList<int>{3, 5}));
+}
+
 TEST(Daty, ReadingIsStrict) {
     for (const char* dobra : {"05-07-2001", "05/07/2001", "05.07.2001", "2001-07-05"})
         EXPECT_EQ(CzytajDate(u(dobra)), QDate(2001, 7, 5)) << dobra;
