@@ -51,7 +51,11 @@ QLineEdit* liniaTekstu(const Pole& pole) {
     else
         linia->setMinimumWidth(szerokoscZnakow(*linia, kNajmniejDlugiego));
     linia->setSizePolicy(waska ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
-    if (pole.dostep == Dostep::Odczyt) linia->setReadOnly(true);
+    if (pole.dostep == Dostep::Odczyt) {
+        linia->setReadOnly(true);
+        linia->setPlaceholderText({}); // nothing is asked for
+        linia->setToolTip({});
+    }
     return linia;
 }
 

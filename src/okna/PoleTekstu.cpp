@@ -1,7 +1,11 @@
 #include "okna/PoleTekstu.h"
 #include "common/Daty.h"
+#include "okna/KalendarzDaty.h"
 #include <algorithm>
+#include <memory>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
+#include <QMenu>
 #include <utility>
 
 namespace tornel::okna {
@@ -79,8 +83,31 @@ void PoleTekstu::mouseReleaseEvent(QMouseEvent* zdarzenie) {
 }
 
 PoleDaty::PoleDaty(QWidget* rodzic) : PoleTekstu(rodzic) {
+    setPlaceholderText(QStringLiteral("dd-mm-rrrr"));
+    setToolTip(QStringLiteral("Data dd-mm-rrrr, kalendarz: F4"));
     connect(this, &QLineEdit::textEdited, this, &PoleDaty::maskuj);
     connect(this, &QLineEdit::textChanged, this, [this] { poprzednia_ = text().size(); });
+}
+
+void PoleDaty::otworzKalendarz() {
+    if (!isReadOnly()) OtworzKalendarz(*this, QDate::currentDate());
+}
+
+void PoleDaty::keyPressEvent(QKeyEvent* zdarzenie) {
+    const bool strzalka = zdarzenie->key() == Qt::Key_Down && zdarzenie->modifiers() == Qt::AltModifier;
+    if (strzalka || (zdarzenie->key() == Qt::Key_F4 && zdarzenie->modifiers() == Qt::NoModifier))
+        otworzKalendarz();
+    else
+        PoleTekstu::keyPressEvent(zdarzenie);
+}
+
+void PoleDaty::contextMenuEvent(QContextMenuEvent* zdarzenie) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    menu->addSeparator();
+    QAction* kalendarz = menu->addAction(QStringLiteral("Kalendarz"), this, &PoleDaty::otworzKalendarz);
+    kalendarz->setShortcut(Qt::Key_F4);
+    kalendarz->setEnabled(!isReadOnly());
+    menu->exec(zdarzenie->globalPos());
 }
 
 void PoleDaty::maskuj(const QString& wpisany) {

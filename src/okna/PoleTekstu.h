@@ -28,7 +28,8 @@ private:
 };
 
 /// A date as dd-mm-yyyy: day and month get their dashes while they are typed at the end, unless a year may
-/// stand there ("2001-07-01" stays). What is no date stays until the owner checks it on leaving.
+/// stand there ("2001-07-01" stays). What is no date stays until the owner checks it on leaving. F4 or Alt
+/// with the arrow down opens a calendar; an empty field hints at its form.
 class PoleDaty : public PoleTekstu {
     Q_OBJECT
 public:
@@ -36,9 +37,12 @@ public:
 
 protected:
     void zaznacz() override { ZaznaczDate(*this); }
+    void keyPressEvent(QKeyEvent* zdarzenie) override;
+    void contextMenuEvent(QContextMenuEvent* zdarzenie) override;
 
 private:
     void maskuj(const QString& wpisany);
+    void otworzKalendarz();
     qsizetype poprzednia_ = 0;
 };
 

@@ -110,7 +110,9 @@ Wiazanie::Kontrolka& Wiazanie::nowa(const Pole& pole) {
 void Wiazanie::gotowa(Kontrolka& k) {
     if (!k.pole.opis.isEmpty()) {
         k.widzet->setAccessibleName(k.pole.opis);
-        k.widzet->setToolTip(k.pole.opis);
+        const QString podpowiedz = k.widzet->toolTip();
+        k.widzet->setToolTip(podpowiedz.isEmpty() ? k.pole.opis
+                                                  : k.pole.opis + QLatin1Char('\n') + podpowiedz);
     }
     poNazwie_.insert(k.pole.nazwa, &k);
     poWidzecie_.insert(k.widzet, &k);

@@ -1,8 +1,15 @@
 // Months chosen and dates entered by keys.
+#include "common/Daty.h"
+#include "okna/Kontrolki.h"
 #include "okna/PoleMiesiaca.h"
+#include "okna/PoleTekstu.h"
 #include "wsparcie/Przestrzen.h"
 #include <gtest/gtest.h>
+#include <QAbstractItemView>
+#include <QCalendarWidget>
 #include <QComboBox>
+#include <QPointer>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace tornel::testy {
@@ -35,6 +42,51 @@ TEST(PoleMiesiacaOknaTest, MiesiacPisanyNaKlawiaturze) {
         pole.show();
         QTest::keyClicks(pole.findChild<QComboBox*>(), wpisany);
         EXPECT_EQ(pole.pierwszyDzien(), QDate(2001, miesiac, 1)) << wpisany.toStdString();
+    }
+}
+
+/// A day taken from the calendar counts as typed, one that is not taken leaves all as it was.
+TEST(PoleDatyOknaTest, KalendarzPodKlawiszem) {
+    const struct {
+        QString przedtem;
+        QList<Qt::Key> klawisze;
+        QString potem;
+    } przypadki[] = {
+        {u"15-08-2001"_s, {Qt::Key_Right, Qt::Key_Return}, u"16-08-2001"_s},
+        {u"15-08-2001"_s, {Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Return}, u"08-07-2001"_s},
+        {u"31-01-2001"_s, {Qt::Key_PageDown, Qt::Key_Return}, u"28-02-2001"_s},
+        {u"15-08-2001"_s, {Qt::Key_Right, Qt::Key_Escape}, u"15-08-2001"_s},
+        {QString(), {Qt::Key_Return}, FormatDaty(QDate::currentDate())},
+        {u"31-02"_s, {Qt::Key_Escape}, u"31-02"_s},
+    };
+    for (const auto& [klawisz_, modyfikator] :
+         {std::pair{Qt::Key_F4, Qt::NoModifier}, std::pair{Qt::Key_Down, Qt::AltModifier}})
+        for (const auto& p : przypadki) {
+            PoleDaty pole;
+            pole.setText(p.przedtem);
+            pole.show();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&pole));
+            QSignalSpy wpisano(&pole, &QLineEdit::textEdited);
+            QTest::keyClick(&pole, klawisz_, modyfikator);
+            const QPointer<QCalendarWidget> kalendarz = pole.findChild<QCalendarWidget*>();
+            ASSERT_TRUE(kalendarz && kalendarz->isVisible());
+            for (const Qt::Key k : p.klawisze)
+                QTest::keyClick(kalendarz->findChild<QAbstractItemView*>(u"qt_calendar_calendarview"_s), k);
+            EXPECT_EQ(pole.text(), p.potem);
+            EXPECT_EQ(wpisano.isEmpty(), p.przedtem == p.potem);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !kalendarz; }));
+        }
+}
+
+TEST(PoleDatyOknaTest, PoleDoOdczytuNieMaKalendarzaAniPodpowiedzi) {
+    for (const Dostep dostep : {Dostep::Edycja, Dostep::Odczyt}) {
+        const std::unique_ptr<QWidget> pole(zbudujKontrolke(
+            {.nazwa = u"dtData"_s, .podpis = {}, .kolumna = {}, .rodzaj = Rodzaj::Data, .dostep = dostep}));
+        QTest::keyClick(pole.get(), Qt::Key_F4);
+        const bool edycja = dostep == Dostep::Edycja;
+        EXPECT_EQ(pole->findChild<QCalendarWidget*>() != nullptr, edycja);
+        EXPECT_EQ(static_cast<QLineEdit&>(*pole).placeholderText().isEmpty(), !edycja);
+        EXPECT_EQ(pole->toolTip().contains(u"F4"), edycja);
     }
 }
 
