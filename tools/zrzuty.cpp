@@ -256,6 +256,9 @@ void umowy(const Zrzuty& zrzuty, Otoczenie& o) {
         }
     }
     frmUmoP oPrace(o, nullptr, DrukiUmowOPrace(o));
+    oPrace.findChild<WidokListy*>()->wybierz(3); // a change that the personnel file does not know yet
+    zrzuty.ekran(oPrace, QStringLiteral("umowy-o-prace-zmiana"));
+    oPrace.findChild<WidokListy*>()->wybierz(12); // ended by notice
     zrzuty.ekran(oPrace, QStringLiteral("umowy-o-prace"));
     frmUZLData data(RodzajeUmow().front());
     zrzuty.dialog(data, QStringLiteral("frmUZLData"));

@@ -72,14 +72,17 @@ QList<Pozycja> miejscaDoWyboru(Sesja& sesja) {
 QList<GrupaPol> grupyUmoP(Otoczenie& o) {
     Pole etat2 = poleUmoP(u"txtetat2", u"", "etat2", Rodzaj::Liczba);
     etat2.opis = QStringLiteral("Wymiar etatu, mianownik");
+    Pole wypowiadalna =
+        poleUmoP(u"chkwyp_2tyg", u"Za 2-tygodniowym wypowiedzeniem", "wyp_2tyg", Rodzaj::Flaga);
+    wypowiadalna.opis = QStringLiteral("Umowę na czas określony dłuższy niż 6 miesięcy można rozwiązać za "
+                                       "dwutygodniowym wypowiedzeniem (art. 33 Kodeksu pracy)");
     return {
         {QStringLiteral("UMOWA"),
          {poleUmoP(u"txtumop_nr", u"Numer umowy:", "umop_nr"),
           wyborUmoP(u"cborodzaj", u"Rodzaj:", "rodzaj", rodzajeDoWyboru()),
           poleUmoP(u"dtpdata_zaw", u"Data zawarcia:", "data_zaw", Rodzaj::Data),
           poleUmoP(u"dtpdata_od", u"Od dnia:", "data_od", Rodzaj::Data),
-          poleUmoP(u"dtpdata_do", u"Do dnia:", "data_do", Rodzaj::Data),
-          poleUmoP(u"chkwyp_2tyg", u"Za 2-tygodniowym wypowiedzeniem", "wyp_2tyg", Rodzaj::Flaga)},
+          poleUmoP(u"dtpdata_do", u"Do dnia:", "data_do", Rodzaj::Data), wypowiadalna},
          1,
          kZakladkaUmowa},
         {QStringLiteral("WARUNKI PRACY I PŁACY"),

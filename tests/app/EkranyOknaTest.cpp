@@ -353,8 +353,8 @@ TEST_F(EkranyTest, KadryNieDochodzaDoPlac) {
     okno_.reset();
     otworzOkno();
     EXPECT_EQ(wszystkimi(),
-              (std::set<QString>{u"frmPrac"_s, u"frmHaslo"_s, u"frmAbout"_s, u"frmOstatnieBazy"_s,
-                                 u"QFileDialog"_s, u"frmDziennik"_s, u"frmWyglad"_s}));
+              (std::set<QString>{u"frmPrac"_s, u"frmUmoP"_s, u"frmHaslo"_s, u"frmAbout"_s,
+                                 u"frmOstatnieBazy"_s, u"QFileDialog"_s, u"frmDziennik"_s, u"frmWyglad"_s}));
 }
 
 } // namespace
