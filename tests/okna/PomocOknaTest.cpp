@@ -1,49 +1,18 @@
 #include "app/frmAbout.h"
-#include "app/frmHaslo.h"
-#include "app/frmLogNowy.h"
-#include "app/frmLogowanie.h"
-#include "app/frmMain.h"
-#include "app/frmMainEkrany.h"
-#include "app/ListaUzytkownikow.h"
-#include "bank/frmMCS.h"
-#include "bank/frmWybKonta.h"
-#include "okna/frmInputData.h"
-#include "okna/frmPomoc.h"
-#include "okna/frmZakresMies.h"
 #include "okna/Klawisze.h"
-#include "okna/Pomoc.h"
-#include "okna/RozmowaOkien.h"
 #include "payroll/lista/frmPlaceLista.h"
-#include "payroll/miesiace/frmSymboleList.h"
-#include "payroll/nieobecnosci/frmWykazy.h"
-#include "personnel/frmData.h"
-#include "personnel/frmDzial.h"
 #include "personnel/frmFind.h"
-#include "personnel/frmKartaEw.h"
-#include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
-#include "personnel/frmRodzina.h"
 #include "personnel/frmWybPr.h"
-#include "personnel/frmWydrukKadr.h"
-#include "personnel/Urlopy.h"
 #include "rules/frmSkladnikiPlac.h"
 #include "rules/frmStaleProgramu.h"
-#include "start/Przyklad.h"
-#include "tax/frmKontrolaPIT4.h"
-#include "tax/frmListaPIT4Nowy.h"
-#include "tax/frmPIT8BAnaliza.h"
-#include "tax/frmSeriaDeklaracji.h"
-#include "wsparcie/BazaTestowa.h"
+#include "wsparcie/PomocTestowa.h"
 #include "wsparcie/Przestrzen.h"
 #include "wsparcie/WejsciaBezEkranu.h"
-#include "zus/frmKedu.h"
-#include "zus/frmUwagiKedu.h"
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QShortcut>
@@ -51,119 +20,11 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QTextTable>
-#include <QTimer>
 #include <QTreeWidget>
 
 namespace tornel::testy {
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-QString plikPomocy() { return QCoreApplication::applicationDirPath() + u"/Help.hlp"_s; }
-
-frmPomoc* oknoPomocy() {
-    for (QWidget* okno : QApplication::topLevelWidgets())
-        if (auto* pomoc = qobject_cast<frmPomoc*>(okno); pomoc && pomoc->isVisible()) return pomoc;
-    return nullptr;
-}
-
-/// What F1 shows on the screen; the help is closed again as the clerk does it.
-QString tematPoF1(QWidget& ekran) {
-    QWidget* wPracy = ekran.focusWidget();
-    QTest::keyClick(wPracy ? wPracy : &ekran, Qt::Key_F1);
-    frmPomoc* pomoc = oknoPomocy();
-    if (!pomoc) return {};
-    const QString temat = pomoc->temat();
-    QTest::keyClick(pomoc, Qt::Key_Escape);
-    EXPECT_EQ(oknoPomocy(), nullptr);
-    return temat;
-}
-
-/// The page of the screen itself or the section of one of its tabs.
-bool stronaEkranu(const QString& temat, const QWidget& ekran) {
-    return temat == ekran.objectName() || temat.startsWith(ekran.objectName() + u'-');
-}
-
-/// Runs `reakcja` on the screen that opens next, then closes it.
-void naEkranie(const std::function<void(QWidget&)>& reakcja) {
-    QTimer::singleShot(0, qApp, [reakcja] {
-        QPointer<QWidget> ekran = QApplication::activeModalWidget();
-        ASSERT_NE(ekran, nullptr) << "nothing opened";
-        if (QTest::qWaitForWindowActive(ekran)) reakcja(*ekran);
-        if (ekran) ekran->close();
-    });
-}
-
-/// The handbook as its window shows it, by its tables and headings.
-class Podrecznik {
-public:
-    Podrecznik() {
-        QFile plik(plikPomocy());
-        EXPECT_TRUE(plik.open(QIODevice::ReadOnly)) << plikPomocy().toStdString();
-        okno_ = std::make_unique<frmPomoc>(QString::fromUtf8(plik.readAll()));
-    }
-    frmPomoc& okno() { return *okno_; }
-    QTextDocument& tekst() { return *okno_->findChild<QTextBrowser*>()->document(); }
-    QString tytul(const QString& temat) {
-        for (QTreeWidgetItemIterator i(okno_->findChild<QTreeWidget*>()); *i; ++i)
-            if ((*i)->data(0, Qt::UserRole) == temat) return (*i)->text(0);
-        return {};
-    }
-    /// The first columns of the tables under the heading `temat`, without their captions.
-    QStringList pierwszeKolumny(const QString& temat) {
-        QStringList wynik;
-        QString tutaj;
-        for (QTextBlock blok = tekst().begin(); blok.isValid(); blok = blok.next()) {
-            if (blok.blockFormat().headingLevel() > 0)
-                tutaj = blok.begin().fragment().charFormat().anchorNames().value(0);
-            QTextTable* tabela = QTextCursor(blok).currentTable();
-            if (tutaj != temat || !tabela) continue;
-            const QTextTableCell komorka = tabela->cellAt(blok.position());
-            if (komorka.column() == 0 && komorka.row() > 0) wynik.append(blok.text());
-        }
-        return wynik;
-    }
-
-private:
-    std::unique_ptr<frmPomoc> okno_;
-};
-
-/// The example firm, in which every screen has something to show, with everything switched on.
-class PomocOkna : public testing::Test {
-protected:
-    PomocOkna() {
-        const QString baza = folder_.filePath(u"Tornel.mdb"_s);
-        UtworzPrzyklad(baza);
-        program_ = std::make_unique<Program>(baza, folder_.path(), rozmowa_);
-        Stale& stale = o().stale;
-        for (bool Stale::*przelacznik :
-             {&Stale::AktRejPrzepDni, &Stale::OsobHarPrac, &Stale::AktRejNadg, &Stale::AktywneUmowyZlecenia,
-              &Stale::AktywneUmowyODzielo, &Stale::AktywneHonoraria})
-            stale.*przelacznik = true;
-        pomoc_ = std::make_unique<Pomoc>(plikPomocy(), rozmowa_);
-    }
-    Otoczenie& o() { return program_->otoczenie(); }
-    static void pokaz(QWidget& okno) {
-        okno.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&okno));
-    }
-    /// The main window as the program makes it.
-    std::unique_ptr<frmMain> glowne() {
-        auto okno = std::make_unique<frmMain>(o());
-        ZarejestrujEkrany(*okno, o());
-        okno->rejestruj(Wejscie::Pomoc, [this, w = okno.get()] { pomoc_->pokazSpis(*w); });
-        okno->wczytaj();
-        pokaz(*okno);
-        return okno;
-    }
-
-    QTemporaryDir folder_;
-    RozmowaSkrypt rozmowa_;
-    std::unique_ptr<Program> program_;
-    std::unique_ptr<Pomoc> pomoc_;
-};
 
 TEST_F(PomocOkna, KazdeWejscieMenuMaStroneIStoiWPodreczniku) {
     Podrecznik podrecznik;
@@ -189,66 +50,6 @@ TEST_F(PomocOkna, KazdeWejscieMenuMaStroneIStoiWPodreczniku) {
     okno->akcja(Wejscie::Pomoc)->trigger();
     ASSERT_NE(oknoPomocy(), nullptr);
     EXPECT_EQ(oknoPomocy()->temat(), u"spis"_s);
-}
-
-TEST_F(PomocOkna, KazdyDialogMaStrone) {
-    ListaUzytkownikow uzytkownicy(o());
-    using Dialog = std::unique_ptr<QDialog>;
-    const std::function<Dialog()> dialogi[] = {
-        [] { return std::make_unique<frmLogowanie>(); },
-        [] { return std::make_unique<frmAbout>(); },
-        [&] { return std::make_unique<frmLogNowy>(uzytkownicy); },
-        [&] { return std::make_unique<frmNowyPrc>(o()); },
-        [] { return std::make_unique<frmFind>([](const QString&) { return true; }); },
-        [&] { return std::make_unique<frmWybPr>(o(), 1); },
-        [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Miesiac, u"Nowa"_s, QDate()); },
-        [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Data, u"Dzień"_s, QDate()); },
-        [&] { return std::make_unique<frmData>(o(), u"1"_s, RodzajeUrlopu()); },
-        [&] {
-            return std::make_unique<frmZakresMies>(rozmowa_, u"Zakres"_s, RokMies{2001, 1}, RokMies{2001, 3});
-        },
-        [] {
-            return std::make_unique<frmSymboleList>(QList<SymbolListyPlac>{{u"A"_s, 1}});
-        },
-        [] {
-            return std::make_unique<frmDzial>(QList<DzialFirmy>{{u"Biuro"_s, 1}});
-        },
-        [&] {
-            return std::make_unique<frmWydrukKadr>(rozmowa_, PozycjaWydrukow{u"Karta"_s, CzasWydruku::Rok},
-                                                   ZlecenieWydruku{{}, {2001, 1}, {2001, 12}}, u"1"_s, 1);
-        },
-        [&] {
-            return std::make_unique<frmKartaEw>(o(), QList<Osoba>{{1, u"Adamska"_s, u"Barbara"_s, {}, false}},
-                                                1, 2001, PortWydrukowKadr());
-        },
-        [&] { return std::make_unique<frmWybKonta>(o()); },
-        [&] { return std::make_unique<frmMCS>(o(), ZrodloPrzelewow()); },
-        [] {
-            return std::make_unique<frmUwagiKedu>([] { return QList<UwagaKedu>(); }, frmUwagiKedu::Popraw());
-        },
-        [&] { return std::make_unique<frmRodzina>(o(), 11); },
-        [&] { return std::make_unique<frmKedu>(rozmowa_, QString(), QString()); },
-        [] { return std::make_unique<frmListaPIT4Nowy>(QDate(2001, 5, 2), frmListaPIT4Nowy::Listy::Pytaj); },
-        [&] { return std::make_unique<frmKontrolaPIT4>(o(), 2001); },
-        [&] { return std::make_unique<frmPIT8BAnaliza>(o(), 1, 2001); },
-        [&] {
-            return std::make_unique<frmSeriaDeklaracji>(
-                o(), Deklaracja::Pit11, OkresPodatkowy{{2001, 1}, {2001, 3}}, QList<qint64>{1, 2},
-                PortWydrukowDeklaracji(), frmSeriaDeklaracji::OtworzJedna());
-        },
-        [] { return std::make_unique<frmWykazPodstawL4>(QList<LiniaWykazu>(), Waluta()); },
-        [] { return std::make_unique<frmWykazPodstaw>(QList<LiniaWykazu>(), 0, Waluta()); },
-        [] { return std::make_unique<frmNrSkladnikaURL>(OkresUrlopu(), 0); },
-    };
-    for (const auto& zrob : dialogi) {
-        const Dialog dialog = zrob();
-        pokaz(*dialog);
-        EXPECT_EQ(tematPoF1(*dialog), dialog->objectName());
-    }
-    // A message box has the page of messages, over whatever screen it stands.
-    RozmowaOkien okienka;
-    naEkranie([](QWidget& okienko) { EXPECT_EQ(tematPoF1(okienko), u"komunikaty"_s); });
-    EXPECT_FALSE(okienka.pytanie(u"Usunąć ?"_s));
 }
 
 TEST_F(PomocOkna, KazdaZakladkaMaSwojRozdzialAKazdaStalaOpis) {
