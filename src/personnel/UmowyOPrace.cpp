@@ -286,10 +286,13 @@ QList<RoznicaWarunku> UmowyOPrace::roznice(const WarunkiPracy& dotad, const Waru
     return wynik;
 }
 
-// A change of terms is no new contract: the file goes on naming the day of the contract itself.
+// A change of terms is no new contract: the file goes on naming the day of the contract itself. A contract
+// that was ended lasts until that day, whatever was agreed on before.
 WarunkiPracy UmowyOPrace::warunkiDlaKartoteki(const UmowaOPrace& umowa) const {
+    const UmowaOPrace kontrakt = glowna(umowa);
     WarunkiPracy warunki = umowa.warunki;
-    warunki.od = glowna(umowa).warunki.od;
+    warunki.od = kontrakt.warunki.od;
+    if (kontrakt.rozwiazana.isValid()) warunki.dokad = kontrakt.rozwiazana;
     return warunki;
 }
 

@@ -176,14 +176,15 @@ bool frmUmoP::zapisz(qint64 id) {
     umowy_->Wpisz();
     const auto zapisana = umowy_->umowa(id);
     if (!zapisana) return true;
-    const WarunkiPracy przedtem = linie_.value(id).warunki;
-    const bool zastapiona = linie_.value(id).zastapiona;
+    const UmowaOPrace przedtem = linie_.value(id);
     linie_[id] = *zapisana;
-    linie_[id].zastapiona = zastapiona;
+    linie_[id].zastapiona = przedtem.zastapiona;
+    if (zapisana->zmienia > 0) linie_[id].rozwiazana = przedtem.rozwiazana; // that of its contract
     // New terms are asked about at once: a payroll takes them from the personnel file.
+    const bool zmienione = !(zapisana->warunki == przedtem.warunki) ||
+                           (zapisana->zmienia == 0 && zapisana->rozwiazana != przedtem.rozwiazana);
     const auto ostatnia = umowy_->ostatnia(zapisana->prcId);
-    if (!(zapisana->warunki == przedtem) && ostatnia && ostatnia->id == id)
-        (void)umowy_->PrzepiszDoKartoteki(id);
+    if (zmienione && ostatnia && ostatnia->id == id) (void)umowy_->PrzepiszDoKartoteki(id);
     return true;
 }
 

@@ -100,7 +100,7 @@ QList<GrupaPol> grupyUmoP(Otoczenie& o) {
          kZakladkaUmowa},
         {QStringLiteral("ROZWIĄZANIE UMOWY"),
          {wyborUmoP(u"cbosposob", u"Sposób:", "sposob", sposobyDoWyboru()),
-          poleUmoP(u"dtpdata_wyp", u"Data wypowiedzenia:", "data_wyp", Rodzaj::Data),
+          poleUmoP(u"dtpdata_wyp", u"Wypowiedziana:", "data_wyp", Rodzaj::Data),
           poleUmoP(u"dtpdata_roz", u"Ostatni dzień:", "data_roz", Rodzaj::Data)},
          1,
          kZakladkaKoniec},

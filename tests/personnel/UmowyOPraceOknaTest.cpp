@@ -99,7 +99,7 @@ protected:
 };
 
 const QString kPytanieOKartoteke = u"Czy wpisać do kartoteki pracownika Nowak Anna warunki tej umowy ?\n"
-                         "\npłaca zasadnicza: 1200,00 zł, w kartotece 1000,00 zł"_s;
+                                   "\npłaca zasadnicza: 1200,00 zł, w kartotece 1000,00 zł"_s;
 
 TEST_F(UmowyOPraceOkna, NewTermsAreStoredOnLeavingAndTheFileIsAskedAbout) {
     ekran();
@@ -182,7 +182,11 @@ TEST_F(UmowyOPraceOkna, TheLastDayFollowsFromTheNotice) {
     wpisz(u"dtpdata_roz"_s, u"31-05-2001"_s);
     wpisz(u"dtpdata_wyp"_s, u"6-3-2001"_s);
     EXPECT_EQ(k(u"dtpdata_roz"_s).text(), u"31-05-2001"_s);
+    rozmowa_.spodziewaj(u"Czy wpisać do kartoteki pracownika Nowak Anna warunki tej umowy ?\n"
+                        "\numowa do: 31-05-2001, w kartotece (brak)"_s,
+                        Odpowiedz::Tak);
     okno_->drukuj(PismoOPrace::Wypowiedzenie);
+    EXPECT_EQ(sesja().rsPRACPR.szukaj(1)->data(PRACPR("umowa_do")), QDate(2001, 5, 31));
     okno_->drukuj(PismoOPrace::Swiadectwo);
     EXPECT_EQ(wydane_, (QStringList{u"2:1"_s, u"3:1"_s}));
     EXPECT_EQ(naLiscie(4), QStringList{u"31-05-2001"_s});

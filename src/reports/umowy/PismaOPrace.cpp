@@ -70,10 +70,10 @@ void noweWarunki(PismoDoPodpisu& p, const StronyUmowy& s) {
 
 void pouczenieOOdwolaniu(PismoDoPodpisu& p, const StronyUmowy& s) {
     p.srodtytul(QStringLiteral("Pouczenie"));
-    p.akapit(QStringLiteral("W ciągu 7 dni od otrzymania tego pisma może %1 wnieść odwołanie do sądu "
-                            "rejonowego - sądu pracy w ........................................ "
-                            "(art. 264 § 1 Kodeksu pracy).")
-                 .arg(s.forma(u"Pan", u"Pani")));
+    p.akapit(
+        QStringLiteral("W ciągu 7 dni od otrzymania tego pisma (art. 264 § 1 Kodeksu pracy) może %1 wnieść "
+                       "odwołanie do sądu rejonowego - sądu pracy w ........................................")
+            .arg(s.forma(u"Pan", u"Pani")));
 }
 
 void przyczynaWypowiedzenia(PismoDoPodpisu& p, const UmowaOPrace& umowa, const QString& przyczyna) {
