@@ -221,6 +221,11 @@ bool UmowyOPrace::Ustaw(qint64 id) { return tabela().Znajdz(id); }
 
 QString UmowyOPrace::odmowa() const {
     const UmowaOPrace u = UmowaZWiersza(tabela().biezacyWiersz());
+    if (u.rodzaj < 0 || u.rodzaj >= std::ssize(RodzajeUmowOPrace()))
+        return QStringLiteral("Nie ma rodzaju umowy o pracę o numerze %1.").arg(u.rodzaj);
+    const qint64 sposob = tabela().liczba(UMOP("sposob"));
+    if (sposob < 0 || sposob >= std::ssize(SposobyRozwiazania()))
+        return QStringLiteral("Nie ma sposobu rozwiązania umowy o numerze %1.").arg(sposob);
     if (!u.warunki.od.isValid())
         return QStringLiteral("Umowa nie ma dnia, od którego trwa. Wpisz go w polu „Od dnia”.");
     if (u.warunki.dokad.isValid() && u.warunki.dokad < u.warunki.od)

@@ -64,7 +64,7 @@ QDate OkresWypowiedzenia::koniec(QDate dzien) const {
     case Miara::DniRobocze:
         return poDniachRoboczych(dzien, ile);
     case Miara::Tygodnie: {
-        const QDate minely = dzien.addDays(7 * ile);
+        const QDate minely = dzien.addDays(qint64{7} * ile);
         return minely.addDays((Qt::Saturday - minely.dayOfWeek() + 7) % 7);
     }
     case Miara::Miesiace:

@@ -192,11 +192,13 @@ TEST_F(UmowyOPraceTest, TheFilterFindsWhatRunsOut) {
     EXPECT_EQ(pasuja({.konczaceOd = od, .konczaceDo = {2001, 3, 31}}), QList{bezKonca});
 }
 
-TEST_F(UmowyOPraceTest, ImpossibleDaysAreRefusedAndTheRowStays) {
+TEST_F(UmowyOPraceTest, ImpossibleValuesAreRefusedAndTheRowStays) {
     UmowyOPrace umowy(otoczenie());
     const qint64 id = umowa(1, CzasOkreslony, {2001, 1, 1}, {2001, 6, 30});
     const std::initializer_list<std::pair<Kolumna, Wartosc>> niemozliwe[] = {
         {{UMOP("data_od"), std::monostate{}}},
+        {{UMOP("rodzaj"), qint64{4}}},
+        {{UMOP("sposob"), qint64{9}}},
         {{UMOP("data_do"), QDate(2000, 12, 31)}},
         {{UMOP("data_roz"), QDate(2000, 12, 31)}},
         {{UMOP("data_wyp"), QDate(2001, 3, 2)}, {UMOP("data_roz"), QDate(2001, 3, 1)}},
