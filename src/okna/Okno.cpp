@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSplitter>
 
@@ -125,7 +127,32 @@ void OknoEdycji::podlaczKlawisze() {
     Okno::podlaczKlawisze();
 }
 
+bool OknoEdycji::zapiszTeraz() {
+    const bool zapisane = !jestZmiana() || zapiszZmiany();
+    pokazZmiany();
+    return zapisane;
+}
+
+QLabel* OknoEdycji::etykietaZmian(const QString& sposob) {
+    labZmiana_ = new QLabel(sposob);
+    labZmiana_->setObjectName(QStringLiteral("labZmiana"));
+    labZmiana_->setProperty("podpowiedz", true);
+    labZmiana_->setWordWrap(true);
+    sposobZapisu_ = sposob;
+    return labZmiana_;
+}
+
+void OknoEdycji::pokazZmiany() {
+    const bool zmiana = jestZmiana();
+    const QString znak = QStringLiteral("[*]");
+    if (zmiana && !windowTitle().contains(znak)) setWindowTitle(windowTitle() + znak);
+    setWindowModified(zmiana);
+    if (labZmiana_)
+        labZmiana_->setText(zmiana ? QStringLiteral("●  Zmieniono. ") + sposobZapisu_ : sposobZapisu_);
+}
+
 bool OknoEdycji::rozstrzygnijZmiany() {
+    const auto poWszystkim = qScopeGuard([this] { pokazZmiany(); });
     if (!jestZmiana()) return true;
     if (zamykanie_ == Zamykanie::Zapis) return zapiszZmiany();
     const auto [tekst, tytul] = pytanieOZmiany();

@@ -4,6 +4,7 @@
 #include "common/Rozmowa.h"
 #include <QDialog>
 
+class QLabel;
 class QSplitter;
 
 namespace tornel::okna {
@@ -76,7 +77,7 @@ public:
 
 protected:
     [[nodiscard]] bool cofaCzynnosci() const override { return true; }
-    [[nodiscard]] bool zapiszTeraz() override { return !jestZmiana() || zapiszZmiany(); }
+    [[nodiscard]] bool zapiszTeraz() override;
     void podlaczKlawisze() override;
     OknoEdycji(const QString& nazwa, Rozmowa& rozmowa, Zamykanie zamykanie, QWidget* rodzic = nullptr,
                PoEnterze poEnterze = PoEnterze::NastepnePole);
@@ -96,6 +97,13 @@ protected:
         return {QStringLiteral("Czy zapisać zmiany ?"), QStringLiteral("Pytanie")};
     }
 
+    /// The line in which the screen says which way it saves (`sposob`, a sentence), and that something waits
+    /// for it. The caller places it.
+    [[nodiscard]] QLabel* etykietaZmian(const QString& sposob);
+    /// Tells in the title and in `etykietaZmian` whether something is not stored; to be called whenever that
+    /// may have changed.
+    void pokazZmiany();
+
     /// What a button does that says it drops the changes: closes at once, the field in work not even left.
     void zamknijBezZapisu();
 
@@ -108,6 +116,8 @@ protected:
 private:
     Rozmowa& rozmowa_;
     Zamykanie zamykanie_;
+    QLabel* labZmiana_ = nullptr;
+    QString sposobZapisu_;
     bool bezZapisu_ = false;
 };
 

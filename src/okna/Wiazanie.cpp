@@ -4,6 +4,7 @@
 #include "okna/PoleTekstu.h"
 #include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
+#include "okna/ZnakZmiany.h"
 #include "store/Recordset.h"
 #include <algorithm>
 #include <QCheckBox>
@@ -157,6 +158,7 @@ void Wiazanie::podlacz(Kontrolka& k) {
     k.widzet->installEventFilter(this);
     const auto zmiana = [this, &k] {
         k.sprawdzona = false;
+        oznacz(k);
         emit zmienione(k.pole.nazwa);
     };
     // A click or a choice is a whole act: the field is changed and done with at once.
@@ -212,6 +214,16 @@ void Wiazanie::pokazTekst(Kontrolka& k, const QString& tekst) {
     wpiszDoKontrolki(*k.widzet, tekst);
     k.wczytany = tekstKontrolki(*k.widzet);
     k.przyWejsciu = k.wczytany;
+    oznacz(k);
+}
+
+void Wiazanie::oznacz(Kontrolka& k) {
+    if (k.pole.dostep == Dostep::Odczyt) return;
+    ZnakZmiany::ustaw(*k.widzet, zmieniona(k) || zrodlo_.czekaNaZapis(k.pole));
+}
+
+void Wiazanie::odswiezZnaki() {
+    for (Kontrolka& k : kontrolki_) oznacz(k);
 }
 
 void Wiazanie::zapomnij(Kontrolka& k) {
@@ -237,6 +249,7 @@ void Wiazanie::opusc(Kontrolka& k) {
     if (tekst != tekstKontrolki(*k.widzet)) wpiszDoKontrolki(*k.widzet, tekst);
     if (!uwaga.isEmpty() && !bylo.isEmpty() && bylo != tekst)
         uwaga += QStringLiteral(" Ctrl+Z przywraca %1.").arg(bylo);
+    oznacz(k);
     if (wpisano || !uwaga.isEmpty()) powiedz(k, uwaga);
     if (tekst == bylo) return;
     k.przedZmiana = bylo;
@@ -263,6 +276,7 @@ bool Wiazanie::cofnij(Kontrolka& k) {
     zapomnij(k);
     wpiszDoKontrolki(*k.widzet, tekst);
     k.sprawdzona = false;
+    oznacz(k);
     emit zmienione(k.pole.nazwa);
     return true;
 }
@@ -312,6 +326,7 @@ void Wiazanie::zbierz() {
         const QString tekst = uporzadkuj(k.pole, tekstKontrolki(*k.widzet));
         zrodlo_.zapisz(k.pole, wartoscTekstu(k.pole, tekst));
         k.wczytany = tekst;
+        oznacz(k);
     }
 }
 
@@ -343,6 +358,7 @@ void Wiazanie::ustawTekst(const QString& nazwa, const QString& tekst) {
     if (nowy == tekstKontrolki(*k.widzet)) return;
     wpiszDoKontrolki(*k.widzet, nowy);
     k.przyWejsciu = nowy;
+    oznacz(k);
     if (k.pole.dostep == Dostep::Edycja) emit zmienione(nazwa);
 }
 

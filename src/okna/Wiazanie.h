@@ -26,6 +26,8 @@ public:
     virtual ~ZrodloPol() = default;
     [[nodiscard]] virtual Wartosc czytaj(const Pole& pole) const = 0;
     virtual void zapisz(const Pole& pole, const Wartosc& wartosc) = 0;
+    /// Whether what was collected from the field still waits here to be stored.
+    [[nodiscard]] virtual bool czekaNaZapis(const Pole& /*pole*/) const { return false; }
 };
 
 /// The current rows of one or more table handles, chosen by the field's column.
@@ -48,6 +50,8 @@ private:
 ///
 /// A field that could not take what was typed says so beside itself until its next good value. Undo (Ctrl+Z)
 /// in a field that was left brings back what it held before, also when that was stored at once.
+///
+/// A field whose value is not stored bears a mark (`ZnakZmiany`), also while the source keeps the value.
 ///
 /// A value goes back to its source only if its field was changed, so what a field cannot show (the third and
 /// fourth decimal, null against 0) stays as it was stored.
@@ -90,6 +94,8 @@ public:
     /// Shows the source's values anew after they were computed or stored: what fields say and undo stay. A
     /// handler of `opuszczone` that calls `wczytaj` gets this too.
     void odswiez();
+    /// Marks the fields whose values are not stored; to be called after the source has stored them.
+    void odswiezZnaki();
     /// Empties all fields, as for a list without rows; nothing counts as changed.
     void czysc();
     /// Leaves the field in work, then writes all changed fields to the source.
@@ -155,6 +161,7 @@ private:
     void pokazTekst(Kontrolka& k, const QString& tekst);
     void pokazWszystkie();
     void zapomnij(Kontrolka& k);
+    void oznacz(Kontrolka& k);
     void opusc(Kontrolka& k);
     void powiedz(Kontrolka& k, const QString& uwaga);
     [[nodiscard]] bool cofnij(Kontrolka& k);

@@ -26,7 +26,7 @@ constexpr int kNajmniejszaWysokosc = 50 * Wyglad::kSiatka;
 frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, const OpisListyPol& opis,
                          QWidget* rodzic)
     : OknoEdycji(opis.nazwa, rozmowa, Zamykanie::Zapis, rodzic), zrodlo_(std::move(zrodlo)),
-      wiazanie_(*zrodlo_), lvwLista_(new WidokListy(opis.kolumny, opis.udzialy)), labZmiana_(new QLabel),
+      wiazanie_(*zrodlo_), lvwLista_(new WidokListy(opis.kolumny, opis.udzialy)),
       cmdNowy_(przycisk(QStringLiteral("cmdNowy"), opis.nowy, u"nowy")),
       cmdUsun_(przycisk(QStringLiteral("cmdUsun"), opis.usun, u"usun")),
       cmdAnuluj_(przycisk(QStringLiteral("cmdAnuluj"), opis.powrot, u"powrot")) {
@@ -47,8 +47,8 @@ frmListaPol::frmListaPol(Rozmowa& rozmowa, std::unique_ptr<ZrodloPol> zrodlo, co
 
     connect(lvwLista_, &WidokListy::wybrano, this, &frmListaPol::wybierzWiersz);
     connect(lvwLista_, &WidokListy::wejscie, this, &frmListaPol::doPierwszegoPola);
-    connect(&wiazanie_, &Wiazanie::zmienione, this, &frmListaPol::pokazZmiane);
-    connect(&wiazanie_, &Wiazanie::opuszczone, this, &frmListaPol::pokazZmiane);
+    connect(&wiazanie_, &Wiazanie::zmienione, this, &frmListaPol::pokazZmiany);
+    connect(&wiazanie_, &Wiazanie::opuszczone, this, &frmListaPol::pokazZmiany);
 }
 
 frmListaPol::~frmListaPol() = default;
@@ -91,8 +91,6 @@ QWidget* frmListaPol::prawaStrona(const OpisListyPol& opis) {
 }
 
 QWidget* frmListaPol::dol(const QList<QPushButton*>& wlasne) {
-    labZmiana_->setObjectName(QStringLiteral("labZmiana"));
-    labZmiana_->setProperty("podpowiedz", true);
     // Enter belongs to the fields: no button takes it from them.
     const QList<QPushButton*> przyciski = QList{cmdNowy_, cmdUsun_} + wlasne;
     for (QPushButton* p : przyciski + QList{cmdAnuluj_}) p->setAutoDefault(false);
@@ -102,7 +100,7 @@ QWidget* frmListaPol::dol(const QList<QPushButton*>& wlasne) {
     auto* rzad = new QWidget;
     auto* uklad = new QHBoxLayout(rzad);
     uklad->setContentsMargins(0, 0, 0, 0);
-    uklad->addWidget(labZmiana_, 1);
+    uklad->addWidget(etykietaZmian(QStringLiteral("Zapis nastąpi przy opuszczeniu pozycji.")), 1);
     uklad->addWidget(rzadPrzyciskow(przyciski + QList{przyciskPomocy(), cmdAnuluj_}));
     return rzad;
 }
@@ -159,7 +157,7 @@ void frmListaPol::Wypisz(qint64 id) {
     else
         wiazanie_.czysc();
     pokazano(biezacy_);
-    pokazZmiane();
+    pokazZmiany();
 }
 
 bool frmListaPol::Wpisz() {
@@ -189,7 +187,7 @@ void frmListaPol::przywroc(const QHash<QString, QString>& wpisane) {
     if (!przejdz(biezacy_)) return;
     wiazanie_.wczytaj();
     for (const QString& pole : pola_) wiazanie_.ustawTekst(pole, wpisane.value(pole));
-    pokazZmiane();
+    pokazZmiany();
 }
 
 void frmListaPol::pokazPonownie() {
@@ -198,11 +196,6 @@ void frmListaPol::pokazPonownie() {
         przejdz(biezacy_);
     else
         Wczytaj(biezacy_);
-}
-
-void frmListaPol::pokazZmiane() {
-    labZmiana_->setText(jestZmiana() ? QStringLiteral("●  Zmieniono. Zapis nastąpi przy opuszczeniu pozycji.")
-                                     : QString());
 }
 
 void frmListaPol::doPierwszegoPola() {

@@ -100,7 +100,6 @@ private:
     void wybierzWiersz(qint64 id);
     void Wypisz(qint64 id);
     void przywroc(const QHash<QString, QString>& wpisane);
-    void pokazZmiane();
     void doPierwszegoPola();
     void nowy();
     void usun();
@@ -112,7 +111,6 @@ private:
     WidokListy* lvwLista_;
     PoleSzukania* txtSzukaj_ = nullptr;
     QVBoxLayout *ramki_ = nullptr, *lewy_ = nullptr;
-    QLabel* labZmiana_;
     QPushButton *cmdNowy_, *cmdUsun_, *cmdAnuluj_;
 };
 

@@ -132,6 +132,10 @@ bool KartotekaPracownika::zmienionyPracownik() const {
     return wpis != dziennik_.end() && wpis->first.prcId == *prcId_;
 }
 
+bool KartotekaPracownika::zmieniona(Kolumna kolumna) const {
+    return prcId_ && dziennik_.contains({*prcId_, ktoraTabela(kolumna), kolumna.nr});
+}
+
 void KartotekaPracownika::Zapisz() {
     Transakcja transakcja(o_.sesja.cnPlace,
                           prcId_ ? QStringLiteral("Zmiana danych pracownika nr %1").arg(*prcId_)

@@ -42,6 +42,8 @@ public:
     /// Whether anything waits to be stored, of anybody and of the employee taken up.
     [[nodiscard]] bool zmieniony() const { return !dziennik_.empty(); }
     [[nodiscard]] bool zmienionyPracownik() const;
+    /// Whether this value of the employee taken up does.
+    [[nodiscard]] bool zmieniona(Kolumna kolumna) const;
     /// Writes `PRACDP`, `PRACPR`, `PRACSK`, `PRACINF`, `PRACZUS` in one transaction. Throws `BladBazy`; once
     /// the handles were read again, `Ponow` brings the changes back.
     void Zapisz();

@@ -40,7 +40,7 @@ frmKalendarz::frmKalendarz(Otoczenie& otoczenie, const QString& nazwa, const QLi
       lvwMies_(new WidokListy(
           {{QStringLiteral("MIES."), Qt::AlignLeft, Porzadek::Data}, {QStringLiteral("ROK"), Qt::AlignRight}},
           {64, 36})),
-      dni_(new DniMiesiaca), labZmiana_(new QLabel), labDni_(licznik(QStringLiteral("labDni"))),
+      dni_(new DniMiesiaca), labDni_(licznik(QStringLiteral("labDni"))),
       labWolne_(licznik(QStringLiteral("labWolne"))),
       cmdNowy_(przycisk(QStringLiteral("cmdNowy"), QStringLiteral("&Nowy"), u"nowy")),
       cmdSwieta_(przycisk(QStringLiteral("cmdSwieta"), QStringLiteral("Święta us&tawowe"), u"dniwolne")),
@@ -71,9 +71,8 @@ frmKalendarz::frmKalendarz(Otoczenie& otoczenie, const QString& nazwa, const QLi
 QWidget* frmKalendarz::ramkaDni() {
     ramka_ = new QGroupBox;
     auto* liczniki = new QHBoxLayout;
-    labZmiana_->setObjectName(QStringLiteral("labZmiana"));
-    labZmiana_->setProperty("podpowiedz", true);
-    liczniki->addWidget(labZmiana_, 1);
+    liczniki->addWidget(
+        etykietaZmian(QStringLiteral("Zapis nastąpi przy wyborze innego miesiąca i przy zamknięciu.")), 1);
     for (const auto& [podpis, napis] : {std::pair{QStringLiteral("Dni w miesiącu:"), labDni_},
                                         {QStringLiteral("W tym wolnych:"), labWolne_}}) {
         liczniki->addSpacing(2 * Wyglad::kSiatka);
@@ -156,10 +155,7 @@ void frmKalendarz::WypiszDni(const std::optional<MiesiacKalendarza>& miesiac) {
 void frmKalendarz::policz() {
     const DniKalendarza dni = dni_->tresc().dni;
     const int wMiesiacu = biezacy_ ? DniWMiesiacu(biezacy_->rok, biezacy_->mies) : 0;
-    labZmiana_->setText(
-        dni_->jestZmiana()
-            ? QStringLiteral("●  Zmieniono. Zapis nastąpi przy wyborze innego miesiąca i przy zamknięciu.")
-            : QString());
+    pokazZmiany();
     labDni_->setText(QString::number(wMiesiacu));
     labWolne_->setText(QString::number(dni.ile(DniKalendarza::Wolny, 1, wMiesiacu)));
 }

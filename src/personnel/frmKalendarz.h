@@ -80,7 +80,7 @@ private:
     WidokListy* lvwMies_;
     QGroupBox* ramka_ = nullptr;
     DniMiesiaca* dni_;
-    QLabel *labZmiana_, *labDni_, *labWolne_;
+    QLabel *labDni_, *labWolne_;
     QPushButton *cmdNowy_, *cmdSwieta_, *cmdUsun_, *cmdAnuluj_;
 };
 

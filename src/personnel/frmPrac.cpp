@@ -102,6 +102,8 @@ QWidget* frmPrac::lewaStrona() {
     uklad->addWidget(new PoleSzukania(*lvwPrac_, KolNumer, KolNazwisko));
     uklad->addWidget(lvwPrac_, 1);
     uklad->addWidget(labIlu_);
+    uklad->addWidget(
+        etykietaZmian(QStringLiteral("Ctrl+S zapisuje; przy zamknięciu program zapyta o zapis.")));
     auto* sort = new QHBoxLayout;
     sort->addWidget(podpisSort);
     sort->addWidget(cboSort_, 1);
@@ -213,7 +215,7 @@ void frmPrac::pokazStan() {
     const bool jest = kartoteka_.pracownik().has_value();
     const bool wpisane = zakladki_->jestZmiana();
     const bool zmiany = jestZmiana();
-    setWindowModified(zmiany);
+    pokazZmiany();
     cmdZapisz_->setEnabled(zmiany);
     cmdAnuluj_->setEnabled(kartoteka_.zmienionyPracownik() || wpisane);
     cmdUsun_->setEnabled(jest);
@@ -314,6 +316,7 @@ bool frmPrac::zapiszZmiany() {
     if (!zapiszZakladke()) return false;
     const Klepsydra klepsydra;
     kartoteka_.Zapisz();
+    zakladki_->odswiezZnaki();
     odswiezWiersz();
     return true;
 }

@@ -279,6 +279,11 @@ void ZakladkiPracownika::zmienZakladke(int zakladka) {
     PokazZakladke(zakladka);
 }
 
+void ZakladkiPracownika::odswiezZnaki() {
+    for (const auto& w : wiazania_) w->odswiezZnaki();
+    wiazanieNotatki_.odswiezZnaki();
+}
+
 bool ZakladkiPracownika::jestZmiana() const {
     return wiazanieNotatki_.jestZmiana() ||
            std::ranges::any_of(wiazania_, [](const auto& w) { return w->jestZmiana(); });

@@ -22,6 +22,9 @@ public:
 
     [[nodiscard]] Wartosc czytaj(const Pole& pole) const override;
     void zapisz(const Pole& pole, const Wartosc& wartosc) override;
+    [[nodiscard]] bool czekaNaZapis(const Pole& pole) const override {
+        return kartoteka_.zmieniona(pole.kolumna);
+    }
     /// What was written since the last call.
     [[nodiscard]] KartotekaPracownika::Zmiany zabierz();
 
@@ -43,6 +46,8 @@ public:
     void Pokaz();
     /// Writes the current tab and the note to the handles.
     void Zapisz();
+    /// The handles were stored: the marks of the fields say so.
+    void odswiezZnaki();
     /// Something was typed that is not written yet.
     [[nodiscard]] bool jestZmiana() const;
     /// Whether a field has just had to say that it did not understand what was typed.

@@ -3,9 +3,11 @@
 #include "okna/Kontrolki.h"
 #include "okna/Przyciski.h"
 #include "okna/Wyglad.h"
+#include "okna/ZnakZmiany.h"
 #include "store/Sesja.h"
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -83,7 +85,11 @@ frmSkladnikiPlac::frmSkladnikiPlac(Otoczenie& otoczenie, QWidget* rodzic)
     for (QPushButton* p : {uaktywnienie, powrot}) p->setAutoDefault(false);
     connect(uaktywnienie, &QPushButton::clicked, this, &frmSkladnikiPlac::uaktywnij);
     connect(powrot, &QPushButton::clicked, this, &QDialog::reject);
-    uklad->addWidget(rzadPrzyciskow({uaktywnienie, przyciskPomocy(), powrot}));
+    auto* dol = new QHBoxLayout;
+    dol->addWidget(etykietaZmian(QStringLiteral("Ctrl+S zapisuje; przy zamknięciu program zapyta o zapis.")),
+                   1);
+    dol->addWidget(rzadPrzyciskow({uaktywnienie, przyciskPomocy(), powrot}));
+    uklad->addLayout(dol);
     pokaz();
     kontrolki_[0][0]->setFocus();
 }
@@ -122,7 +128,11 @@ QWidget* frmSkladnikiPlac::kontrolka(int numer, int kolumna) {
     QWidget* pole = zbudujKontrolke(poleKontrolki(k, numer));
     pole->setAccessibleName(QStringLiteral("%1 %2").arg(k.naglowek).arg(numerNaEkranie(numer)));
     pole->installEventFilter(this);
-    const auto zmiana = [this] { zmieniono_ = true; };
+    const auto zmiana = [this, pole] {
+        zmieniono_ = true;
+        ZnakZmiany::ustaw(*pole, true);
+        pokazZmiany();
+    };
     if (auto* linia = qobject_cast<QLineEdit*>(pole))
         connect(linia, &QLineEdit::textEdited, this, zmiana);
     else if (auto* flaga = qobject_cast<QCheckBox*>(pole))
@@ -141,7 +151,15 @@ void frmSkladnikiPlac::pokaz() {
             else if (pole)
                 wpiszDoKontrolki(*pole, katalog[n].*kKolumny[k].tekst);
         }
+    zdejmijZnaki();
+}
+
+void frmSkladnikiPlac::zdejmijZnaki() {
+    for (const auto& linia : kontrolki_)
+        for (QWidget* pole : linia)
+            if (pole) ZnakZmiany::ustaw(*pole, false);
     zmieniono_ = false;
+    pokazZmiany();
 }
 
 KatalogSkladnikow frmSkladnikiPlac::zbierz() const {
@@ -165,8 +183,12 @@ void frmSkladnikiPlac::uaktywnij() {
     };
     bool wszystkie = true;
     for (std::size_t i = 0; i < kNaZakladce; ++i) wszystkie = wszystkie && aktywny(i)->isChecked();
-    for (std::size_t i = 0; i < kNaZakladce; ++i) aktywny(i)->setChecked(!wszystkie);
+    for (std::size_t i = 0; i < kNaZakladce; ++i) {
+        if (aktywny(i)->isChecked() == wszystkie) ZnakZmiany::ustaw(*aktywny(i), true);
+        aktywny(i)->setChecked(!wszystkie);
+    }
     zmieniono_ = true;
+    pokazZmiany();
 }
 
 void frmSkladnikiPlac::pokazPonownie() {
@@ -177,7 +199,7 @@ void frmSkladnikiPlac::pokazPonownie() {
 bool frmSkladnikiPlac::zapiszZmiany() {
     const Klepsydra klepsydra;
     Zapisz_zmiany(o_, zbierz());
-    zmieniono_ = false;
+    zdejmijZnaki();
     return true;
 }
 

@@ -33,6 +33,8 @@ private:
     void pokaz();
     [[nodiscard]] KatalogSkladnikow zbierz() const;
     void uaktywnij();
+    /// Nothing counts as changed any more.
+    void zdejmijZnaki();
 
     Otoczenie& o_;
     QTabWidget* zakladki_;

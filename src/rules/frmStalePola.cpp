@@ -194,12 +194,18 @@ QString tekstZ(const Wartosc& wartosc) {
 
 } // namespace
 
-ZrodloStalych::ZrodloStalych(const Stale& stale) : stale_(stale) { przyjmijUklad(); }
+ZrodloStalych::ZrodloStalych(const Stale& stale) : stale_(stale), zapisane_(stale) { przyjmijUklad(); }
 
-Wartosc ZrodloStalych::czytaj(const Pole& pole) const {
+Wartosc ZrodloStalych::czytaj(const Pole& pole) const { return czytajZ(stale_, pole); }
+
+bool ZrodloStalych::czekaNaZapis(const Pole& pole) const {
+    return czytajZ(stale_, pole) != czytajZ(zapisane_, pole);
+}
+
+Wartosc ZrodloStalych::czytajZ(const Stale& stale, const Pole& pole) const {
     const MiejsceStalej m = miejsce(pole);
     if (const auto nr = okienko(m)) {
-        const QString* tekst = rownanie(stale_, uklad_, *nr);
+        const QString* tekst = rownanie(stale, uklad_, *nr);
         return wartosc(tekst ? *tekst : QString());
     }
     const Warianty naWartosc{
@@ -212,7 +218,7 @@ Wartosc ZrodloStalych::czytaj(const Pole& pole) const {
         },
         [](const auto& jedna) { return wartosc(jedna); },
     };
-    return zPolemStalej(m.stala, stale_, naWartosc);
+    return zPolemStalej(m.stala, stale, naWartosc);
 }
 
 void ZrodloStalych::zapisz(const Pole& pole, const Wartosc& wartosc) {

@@ -61,6 +61,9 @@ public:
 
     [[nodiscard]] Wartosc czytaj(const Pole& pole) const override;
     void zapisz(const Pole& pole, const Wartosc& wartosc) override;
+    [[nodiscard]] bool czekaNaZapis(const Pole& pole) const override;
+    /// The values so far are stored.
+    void przyjmijZapis() { zapisane_ = stale_; }
 
     /// The values so far.
     [[nodiscard]] const Stale& stale() const { return stale_; }
@@ -69,7 +72,9 @@ public:
     void przyjmijUklad() { uklad_ = stale_.SzczegRejNadg ? UkladNadgodzin::WgDni : UkladNadgodzin::WgGrup; }
 
 private:
-    Stale stale_;
+    [[nodiscard]] Wartosc czytajZ(const Stale& stale, const Pole& pole) const;
+
+    Stale stale_, zapisane_;
     UkladNadgodzin uklad_ = UkladNadgodzin::WgGrup;
 };
 

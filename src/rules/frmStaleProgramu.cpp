@@ -64,6 +64,8 @@ frmStaleProgramu::frmStaleProgramu(Otoczenie& otoczenie, PortyStalych porty, QWi
     pokazUrzedy();
     Wyswietl();
     connect(&wiazanie_, &Wiazanie::opuszczone, this, &frmStaleProgramu::poOpuszczeniu);
+    connect(&wiazanie_, &Wiazanie::zmienione, this, &frmStaleProgramu::pokazZmiany);
+    connect(&wiazanie_, &Wiazanie::opuszczone, this, &frmStaleProgramu::pokazZmiany);
     lstKarty_->setFocus();
 }
 
@@ -79,7 +81,11 @@ void frmStaleProgramu::buduj() {
     QPushButton* anuluj = przyciskBezWejscia(QStringLiteral("Command2"), QStringLiteral("&Anuluj"));
     connect(ok, &QPushButton::clicked, this, &frmStaleProgramu::accept);
     connect(anuluj, &QPushButton::clicked, this, &frmStaleProgramu::zamknijBezZapisu);
-    uklad->addWidget(rzadPrzyciskow({ok, anuluj, przyciskPomocy()}));
+    auto* dol = new QHBoxLayout;
+    dol->addWidget(etykietaZmian(QStringLiteral("OK zapisuje, Anuluj porzuca zmiany; Escape pyta o zapis.")),
+                   1);
+    dol->addWidget(rzadPrzyciskow({ok, anuluj, przyciskPomocy()}));
+    uklad->addLayout(dol);
     ok->setDefault(true);
     dodajSkroty();
     resize(kRozmiar);
@@ -211,6 +217,8 @@ bool frmStaleProgramu::zapiszZmiany() {
     const Stale nowe = zrodlo_.stale();
     ZapiszKonfiguracje(o_.sesja, nowe);
     o_.stale = nowe;
+    zrodlo_.przyjmijZapis();
+    wiazanie_.odswiezZnaki();
     if (porty_.UstawDostepnoscMenu) porty_.UstawDostepnoscMenu();
     return true;
 }

@@ -3,11 +3,13 @@
 #include "okna/Klawisze.h"
 #include "okna/PoleSzukania.h"
 #include "okna/WidokListy.h"
+#include "okna/ZnakZmiany.h"
 #include "personnel/frmNowyPrc.h"
 #include "personnel/frmPrac.h"
 #include "wsparcie/EkranyTestowe.h"
 #include "wsparcie/Widzet.h"
 #include <QAbstractButton>
+#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <set>
@@ -104,6 +106,57 @@ TEST_F(KlawiszeTest, JedenKlawiszJednoZnaczenieADymekGoPodaje) {
         for (const QString& ekran : ekrany)
             EXPECT_TRUE(gdzie[polecenie].contains(ekran))
                 << ekran.toStdString() << " has no " << klawisz(polecenie).napis.toString().toStdString();
+}
+
+/// What is typed and not stored is marked at its field and in the title; every screen says which way it
+/// saves.
+TEST_F(KlawiszeTest, NiezapisanaZmianaJestOznaczona) {
+    std::set<QString> sprawdzone;
+    naWszystkichEkranach([&](QWidget& ekran) {
+        if (!ekran.inherits("tornel::okna::OknoEdycji")) return;
+        auto* jak = ekran.findChild<QLabel*>(u"labZmiana"_s);
+        ASSERT_TRUE(jak && !jak->text().isEmpty()) << nazwa(ekran).toStdString();
+        const auto linie = pola(ekran);
+        const auto pole = std::ranges::find_if(linie, [](QWidget* w) {
+            const auto* linia = qobject_cast<QLineEdit*>(w);
+            return linia && !linia->isReadOnly() && !qobject_cast<PoleSzukania*>(w);
+        });
+        if (pole == linie.end() || ekran.inherits("tornel::personnel::frmKalendarz")) return;
+        auto& linia = static_cast<QLineEdit&>(**pole);
+        EXPECT_FALSE(ekran.isWindowModified() || ZnakZmiany::jest(linia)) << nazwa(ekran).toStdString();
+        linia.setFocus(Qt::TabFocusReason);
+        linia.selectAll();
+        QTest::keyClick(&linia, linia.text().startsWith(u'9') ? Qt::Key_8 : Qt::Key_9);
+        const QString opis = nazwa(ekran) + u' ' + nazwa(linia);
+        EXPECT_TRUE(ekran.isWindowModified()) << opis.toStdString();
+        EXPECT_TRUE(ZnakZmiany::jest(linia)) << opis.toStdString();
+        EXPECT_TRUE(jak->text().startsWith(u'●')) << opis.toStdString();
+        sprawdzone.insert(nazwa(ekran));
+        linia.undo();
+        if (ekran.objectName() == u"frmSkladnikiPlac") return; // it knows only that something was typed
+        EXPECT_FALSE(ekran.isWindowModified() || ZnakZmiany::jest(linia)) << opis.toStdString();
+        EXPECT_FALSE(jak->text().startsWith(u'●')) << opis.toStdString();
+    });
+    for (const QString& ekran : {u"frmPrac"_s, u"frmUZL"_s, u"frmUS"_s, u"frmKonta"_s, u"frmRejUrl"_s,
+                                 u"frmStaleProgramu"_s, u"frmSkladnikiPlac"_s})
+        EXPECT_TRUE(sprawdzone.contains(ekran)) << ekran.toStdString();
+}
+
+/// The mark stays while the screen itself keeps the value, until it is stored.
+TEST_F(KlawiszeTest, ZnakZostajeDoZapisu) {
+    frmPrac ekran(otoczenie(), FiltrPracownikow::Wszyscy);
+    ekran.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&ekran));
+    auto& nazwisko = widzet<QLineEdit>(ekran, u"txtNaz"_s);
+    auto& zakladki = *ekran.findChild<QTabWidget*>();
+    nazwisko.setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(&nazwisko, u"Inne"_s);
+    for (const int zakladka : {1, 0}) zakladki.setCurrentIndex(zakladka);
+    EXPECT_TRUE(ZnakZmiany::jest(nazwisko)) << "the file has not been written";
+    EXPECT_TRUE(ekran.isWindowModified());
+    QTest::keyClick(&ekran, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(ZnakZmiany::jest(nazwisko));
+    EXPECT_FALSE(ekran.isWindowModified());
 }
 
 TEST_F(KlawiszeTest, ZapisOdczytISzukanieWKartotece) {

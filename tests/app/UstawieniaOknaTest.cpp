@@ -91,7 +91,7 @@ protected:
         linia.insert(tekst);
         emit linia.textEdited(linia.text());
     }
-    bool jestZnak() { return !kontrolka<QLabel>(u"labZmiana"_s).text().isEmpty(); }
+    bool jestZnak() { return kontrolka<QLabel>(u"labZmiana"_s).text().startsWith(u'●'); }
     std::unique_ptr<QDialog> okno;
 };
 

@@ -120,6 +120,10 @@ QWidget* frmPlaceLista::lewaStrona() {
     zSumami->addWidget(sumyPlace_);
     uklad->addLayout(zSumami, 1);
     uklad->addWidget(labIleWierszy_);
+    auto* sposob = new QLabel(QStringLiteral("Każda zmiana zapisuje się od razu."));
+    sposob->setObjectName(QStringLiteral("labZmiana"));
+    sposob->setProperty("podpowiedz", true);
+    uklad->addWidget(sposob);
     return lewa;
 }
 

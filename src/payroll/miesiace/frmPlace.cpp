@@ -72,8 +72,11 @@ frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic, PortWydrukow wydruki)
     budujPrzyciski();
     auto* uklad = new QVBoxLayout(this);
     uklad->addWidget(dzielnik(lvwLista_, 44 * Wyglad::kSiatka, ramki()), 1);
-    uklad->addWidget(
+    auto* dol = new QHBoxLayout;
+    dol->addWidget(etykietaZmian(QStringLiteral("Opis zapisuje się przy wyborze innego miesiąca.")), 1);
+    dol->addWidget(
         rzadPrzyciskow({cmdNowy_, cmdUsun_, cmdBlokada_, cmdWejdz_, przyciskPomocy(), cmdAnuluj_}));
+    uklad->addLayout(dol);
     cmdWejdz_->setDefault(true);
     resize(122 * Wyglad::kSiatka, 68 * Wyglad::kSiatka);
 
@@ -82,6 +85,7 @@ frmPlace::frmPlace(Otoczenie& otoczenie, QWidget* rodzic, PortWydrukow wydruki)
         Wypisz_dane(RokMies::zId(id));
     });
     connect(lvwLista_, &WidokListy::wejscie, this, &frmPlace::WejdzNaListe);
+    connect(&wiazanie_, &Wiazanie::zmienione, this, &frmPlace::pokazZmiany);
     connect(&przeglad_, &QTimer::timeout, this, &frmPlace::przejrzyjNastepny);
     Wczytaj_liste();
     lvwLista_->setFocus();
@@ -163,6 +167,7 @@ void frmPlace::zapiszOpis() {
 bool frmPlace::zapiszZmiany() {
     miesiace_.ZapiszOpis(*biezacy_, wiazanie_.tekst(kOpis));
     wiazanie_.wczytaj();
+    pokazZmiany();
     return true;
 }
 
@@ -202,8 +207,8 @@ void frmPlace::WejdzNaListe() {
     if (!biezacy_) return;
     QString symbol = QStringLiteral(" ");
     if (o_.stale.AktOpWieluList) {
-        const auto podany =
-            o_.rozmowa.wprowadz(QStringLiteral("Podaj symbol listy.\n(Cancel - wszystkie)"), windowTitle());
+        const auto podany = o_.rozmowa.wprowadz(QStringLiteral("Podaj symbol listy.\n(Cancel - wszystkie)"),
+                                                QString(windowTitle()).remove(QStringLiteral("[*]")));
         if (podany && !podany->isEmpty()) symbol = podany->left(1);
     }
     przeglad_.stop(); // what the clerk waits for goes first

@@ -162,6 +162,10 @@ QWidget* frmNadg::lewaStrona() {
     uklad->addWidget(new PoleSzukania(*lvwOsoby_, Numer, Nazwisko));
     uklad->addWidget(lvwOsoby_, 1);
     uklad->addWidget(labIleOsob_);
+    auto* sposob = new QLabel(QStringLiteral("Każda zmiana zapisuje się od razu."));
+    sposob->setObjectName(QStringLiteral("labZmiana"));
+    sposob->setProperty("podpowiedz", true);
+    uklad->addWidget(sposob);
     return lewa;
 }
 
