@@ -304,7 +304,7 @@ void nieobecnosci(const Zrzuty& zrzuty, Otoczenie& o) {
     zrzuty.ekran(urlopy, QStringLiteral("urlopy"));
     frmRejZwoln zwolnienia(o);
     zrzuty.ekran(zwolnienia, QStringLiteral("zwolnienia"));
-    frmData zakres(o, QStringLiteral("1  Adamska Barbara"), RodzajeUrlopu());
+    frmData zakres(QStringLiteral("1  Adamska Barbara"), RodzajeUrlopu());
     zrzuty.dialog(zakres, QStringLiteral("zakres-dat"));
     frmNadg nadgodziny(o);
     zrzuty.ekran(nadgodziny, QStringLiteral("nadgodziny"));

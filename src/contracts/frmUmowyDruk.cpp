@@ -131,8 +131,7 @@ void frmUmowy::drukuj(DrukUmow co) {
 
 void frmUmowy::przelewyOkresu(bank::KomuPrzelew komu) {
     const bool podatek = komu == bank::KomuPrzelew::Urzedy;
-    frmData okno(o_,
-                 podatek ? QStringLiteral("Podatek od umów wypłaconych w dniach")
+    frmData okno(podatek ? QStringLiteral("Podatek od umów wypłaconych w dniach")
                          : QStringLiteral("Przelewy z umów zawartych w dniach"),
                  {}, this);
     const RokMies teraz = RokMies::dnia(QDate::currentDate());

@@ -10,9 +10,11 @@ namespace tornel::personnel {
 
 using schemat::PRACDP;
 
+QString odmowaZakresu() { return QStringLiteral("Data końcowa musi być większ od początkowej."); }
+
 bool ZakresPrzyjety(Rozmowa& rozmowa, const ZakresDat& zakres) {
     if (zakres.poprawny()) return true;
-    rozmowa.komunikat(QStringLiteral("Data końcowa musi być większ od początkowej."), Styl::Wykrzyknik);
+    rozmowa.komunikat(odmowaZakresu(), Styl::Wykrzyknik);
     return false;
 }
 

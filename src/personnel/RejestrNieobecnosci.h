@@ -29,6 +29,8 @@ struct ZakresDat {
 
 /// False, after a message, for an end before the start.
 [[nodiscard]] bool ZakresPrzyjety(Rozmowa& rozmowa, const ZakresDat& zakres);
+/// What is said of a range that ends before it begins.
+[[nodiscard]] QString odmowaZakresu();
 
 /// One line of the list.
 struct WierszRejestru {

@@ -1,6 +1,5 @@
 #include "personnel/frmData.h"
 #include "common/Daty.h"
-#include "common/Rozmowa.h"
 #include "okna/Pole.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
@@ -14,9 +13,8 @@
 
 namespace tornel::personnel {
 
-frmData::frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStringView> rodzaje,
-                 QWidget* rodzic)
-    : Okno(QStringLiteral("frmData"), rodzic), o_(otoczenie), dtOd_(new PoleDaty), dtDo_(new PoleDaty),
+frmData::frmData(const QString& kto, std::span<const QStringView> rodzaje, QWidget* rodzic)
+    : Okno(QStringLiteral("frmData"), rodzic), dtOd_(new PoleDaty), dtDo_(new PoleDaty),
       cboRodzaj_(new QComboBox) {
     setWindowTitle(QStringLiteral("Data"));
     setMinimumWidth(40 * Wyglad::kSiatka);
@@ -56,6 +54,7 @@ frmData::frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStri
     // A single day until the clerk says otherwise.
     connect(dtOd_, &QLineEdit::textEdited, this, [this] {
         if (!koniecWpisany_ && zakres().od.isValid()) dtDo_->setText(dtOd_->text());
+        if (zakres().poprawny()) UwagaPola::ustaw(*dtDo_, {});
     });
     connect(dtDo_, &QLineEdit::textEdited, this, &frmData::sprawdzKoniec);
 }
@@ -76,9 +75,10 @@ int frmData::rodzaj() const { return std::max(0, cboRodzaj_->currentIndex()); }
 void frmData::sprawdzKoniec() {
     koniecWpisany_ = true;
     const ZakresDat z = zakres();
-    if (!z.od.isValid() || !z.dokad.isValid() || z.poprawny()) return;
-    o_.rozmowa.komunikat(QStringLiteral("Data końcowa musi być większa lub równa od  daty początkowej."),
-                         Styl::Wykrzyknik);
+    const bool dobry = !z.od.isValid() || !z.dokad.isValid() || z.poprawny();
+    UwagaPola::ustaw(*dtDo_,
+                     dobry ? QString()
+                           : QStringLiteral("Data końcowa musi być większa lub równa od  daty początkowej."));
 }
 
 void frmData::accept() {
@@ -96,7 +96,8 @@ void frmData::accept() {
         pole->setFocus();
         return;
     }
-    if (ZakresPrzyjety(o_.rozmowa, z)) return QDialog::accept();
+    if (z.poprawny()) return QDialog::accept();
+    UwagaPola::ustaw(*dtDo_, odmowaZakresu());
     dtDo_->setFocus();
     ZaznaczDate(*dtDo_);
 }

@@ -17,8 +17,7 @@ class frmData : public Okno {
 public:
     /// `kto`: whose absence it is, as the clerk reads it. `rodzaje`: kinds to choose from, none for an
     /// absence of one kind only.
-    frmData(Otoczenie& otoczenie, const QString& kto, std::span<const QStringView> rodzaje,
-            QWidget* rodzic = nullptr);
+    frmData(const QString& kto, std::span<const QStringView> rodzaje, QWidget* rodzic = nullptr);
 
     /// Proposes a range in place of today.
     void ustawZakres(const ZakresDat& zakres);
@@ -27,13 +26,12 @@ public:
     /// The position of the kind, 0 if there is nothing to choose.
     [[nodiscard]] int rodzaj() const;
 
-    /// Stays open for a field that holds no date and, after a message, for an end before the start.
+    /// Stays open for a field that holds no date and for an end before the start, which the field says.
     void accept() override;
 
 private:
     void sprawdzKoniec();
 
-    Otoczenie& o_;
     PoleDaty *dtOd_, *dtDo_;
     QComboBox* cboRodzaj_;
     bool koniecWpisany_ = false;

@@ -1,9 +1,9 @@
 #include "personnel/frmNowyPrc.h"
 #include "common/Liczby.h"
-#include "common/Rozmowa.h"
 #include "okna/LinieDialogu.h"
 #include "okna/PoleTekstu.h"
 #include "okna/Przyciski.h"
+#include "okna/UwagaPola.h"
 #include "okna/Wyglad.h"
 #include "store/SchematKadr.h"
 #include <QPushButton>
@@ -49,7 +49,8 @@ DaneNowegoPracownika frmNowyPrc::dane() const {
 }
 
 void frmNowyPrc::odrzuc(const QString& komunikat, PoleTekstu& pole) {
-    o_.rozmowa.komunikat(komunikat, Styl::Wykrzyknik);
+    for (PoleTekstu* inne : {txtNR_, txtNazwisko_}) UwagaPola::ustaw(*inne, {});
+    UwagaPola::ustaw(pole, komunikat);
     pole.setFocus();
 }
 

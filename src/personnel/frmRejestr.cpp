@@ -97,8 +97,7 @@ std::optional<qint64> frmRejestr::utworz() {
                    frmWybPr::Przelacznik::TakzeZwolnieni);
     if (wybor.exec() != Accepted || wybor.wybrani().isEmpty()) return std::nullopt;
     const qint64 prcId = wybor.wybrani().first();
-    frmData dane(o_, FormatNumeru(prcId) + QLatin1Char(' ') + Pracownicy(o_).nazwisko(prcId), rodzaje(),
-                 this);
+    frmData dane(FormatNumeru(prcId) + QLatin1Char(' ') + Pracownicy(o_).nazwisko(prcId), rodzaje(), this);
     if (dane.exec() != Accepted) return std::nullopt;
     return Zarejestruj(prcId, dane);
 }

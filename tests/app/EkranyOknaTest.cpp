@@ -182,7 +182,7 @@ TEST_F(EkranyTest, KlawiaturaNaKazdymEkranie) {
     frmLogNowy(uzytkownicy).exec();
     frmInputData(frmInputData::Tryb::Miesiac, u"Miesiąc"_s, QDate(2001, 4, 1)).exec();
     frmInputData(frmInputData::Tryb::Data, u"Dzień"_s, QDate(2001, 4, 1)).exec();
-    frmData(o, u"1"_s, RodzajeUrlopu()).exec();
+    frmData(u"1"_s, RodzajeUrlopu()).exec();
     frmWybKonta(o, nullptr, PytanieOPrzelewy{u"1"_s, u"wydrukowano"_s, true}).exec();
     {
         const OtwartyMiesiac miesiac(o.sesja, {2001, 3});

@@ -44,7 +44,7 @@ TEST_F(PomocOkna, KazdyDialogMaStrone) {
         [&] { return std::make_unique<frmWybPr>(o(), 1); },
         [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Miesiac, u"Nowa"_s, QDate()); },
         [] { return std::make_unique<frmInputData>(frmInputData::Tryb::Data, u"Dzień"_s, QDate()); },
-        [&] { return std::make_unique<frmData>(o(), u"1"_s, RodzajeUrlopu()); },
+        [&] { return std::make_unique<frmData>(u"1"_s, RodzajeUrlopu()); },
         [&] {
             return std::make_unique<frmZakresMies>(rozmowa_, u"Zakres"_s, RokMies{2001, 1}, RokMies{2001, 3});
         },
