@@ -91,6 +91,26 @@ protected:
     }
     static WidokListy& lista(QWidget& okno) { return *okno.findChild<WidokListy*>(u"lvwLista"_s); }
 
+    /// An end before the start is refused in two sentences, then a good one is taken.
+    static void wpiszZakres(frmData& okno) {
+        EXPECT_EQ(okno.windowTitle(), u"Data"_s);
+        pisz("26022001");
+        EXPECT_EQ(pole(okno, u"dtDo"_s), u"26-02-2001"_s) << "one day, until the end is typed";
+        klawisz(Qt::Key_Tab);
+        const auto uwaga = [&] { return UwagaPola::zdanie(*okno.findChild<QLineEdit*>(u"dtDo"_s)); };
+        pisz("06022001");
+        EXPECT_EQ(uwaga(), u"Data końcowa musi być większa lub równa od  daty początkowej."_s);
+        klawisz(Qt::Key_Return);
+        EXPECT_TRUE(okno.isVisible());
+        EXPECT_EQ(uwaga(), u"Data końcowa musi być większ od początkowej."_s);
+        pisz("06032001");
+        EXPECT_EQ(uwaga(), QString());
+        klawisz(Qt::Key_Tab);
+        klawisz(Qt::Key_Down);
+        klawisz(Qt::Key_Down);
+        klawisz(Qt::Key_Return);
+    }
+
     QObject kontekst; ///< a doing that never came ends with the test
     using Czyn = std::function<void()>;
     std::deque<std::function<Czyn()>> kolejka; ///< each gives its doing once its window is there
@@ -129,24 +149,7 @@ TEST_F(RejestryOknaTest, UrlopOdMenuDoWiersza) {
         pisz("now");
         klawisz(Qt::Key_Return);
     });
-    potem<frmData>([](frmData& okno) {
-        EXPECT_EQ(okno.windowTitle(), u"Data"_s);
-        pisz("26022001");
-        EXPECT_EQ(pole(okno, u"dtDo"_s), u"26-02-2001"_s) << "one day, until the end is typed";
-        klawisz(Qt::Key_Tab);
-        const auto uwaga = [&] { return UwagaPola::zdanie(*okno.findChild<QLineEdit*>(u"dtDo"_s)); };
-        pisz("06022001");
-        EXPECT_EQ(uwaga(), u"Data końcowa musi być większa lub równa od  daty początkowej."_s);
-        klawisz(Qt::Key_Return);
-        EXPECT_TRUE(okno.isVisible());
-        EXPECT_EQ(uwaga(), u"Data końcowa musi być większ od początkowej."_s);
-        pisz("06032001");
-        EXPECT_EQ(uwaga(), QString());
-        klawisz(Qt::Key_Tab);
-        klawisz(Qt::Key_Down);
-        klawisz(Qt::Key_Down);
-        klawisz(Qt::Key_Return);
-    });
+    potem<frmData>(wpiszZakres);
     nastepny();
     glowne.akcja(Wejscie::Urlopy)->trigger();
     EXPECT_TRUE(kolejka.empty());
