@@ -97,9 +97,9 @@ int wydrukRocznej(Wywolanie& w, tax::Deklaracja ktora) {
     WymagajDrogi(w.argumenty);
     const tax::OkresPodatkowy okres = okresZOpcji(w.argumenty);
     const qint64 prcId = numerPracownikaZTekstu(w.argumenty.pozycje[0]);
-    const tax::WierszDeklaracji d =
-        tax::DaneRoczne(w.otoczenie(), ktora, okres, prcId).wypelnij(prcId, QDate::currentDate());
-    WypiszWydruk(w, *reports::UlozDeklaracje({ktora, 1, [&](int) { return d; }}));
+    const tax::DaneRoczne dane(w.otoczenie(), ktora, okres, prcId);
+    const auto wiersz = [&](int) { return dane.wypelnij(prcId, QDate::currentDate()); };
+    WypiszWydruk(w, *reports::UlozDeklaracje({ktora, 1, wiersz}));
     return status::Wykonane;
 }
 
@@ -108,8 +108,10 @@ int wydrukPit4(Wywolanie& w) {
     const tax::KluczPit4 klucz = kluczZArgumentow(w);
     if (!tax::Pit4(w.otoczenie()).zaznacz(klucz))
         throw Blad(QStringLiteral("Nie ma deklaracji PIT-4 %1.").arg(klucz.napis()));
-    const tax::WierszDeklaracji d(tax::Deklaracja::Pit4, w.otoczenie().sesja.rsPIT4);
-    WypiszWydruk(w, *reports::UlozDeklaracje({tax::Deklaracja::Pit4, 1, [&](int) { return d; }}));
+    const auto wiersz = [&](int) {
+        return tax::WierszDeklaracji(tax::Deklaracja::Pit4, w.otoczenie().sesja.rsPIT4);
+    };
+    WypiszWydruk(w, *reports::UlozDeklaracje({tax::Deklaracja::Pit4, 1, wiersz}));
     return status::Wykonane;
 }
 int wydrukPit11(Wywolanie& w) { return wydrukRocznej(w, tax::Deklaracja::Pit11); }

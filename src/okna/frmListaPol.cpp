@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QVBoxLayout>
 

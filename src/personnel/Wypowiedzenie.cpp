@@ -65,7 +65,7 @@ QDate OkresWypowiedzenia::koniec(QDate dzien) const {
         return poDniachRoboczych(dzien, ile);
     case Miara::Tygodnie: {
         const QDate minely = dzien.addDays(qint64{7} * ile);
-        return minely.addDays((Qt::Saturday - minely.dayOfWeek() + 7) % 7);
+        return minely.addDays(qint64{Qt::Saturday - minely.dayOfWeek() + 7} % 7);
     }
     case Miara::Miesiace:
         return RokMies::dnia(dzien).plus(ile).ostatniDzien();

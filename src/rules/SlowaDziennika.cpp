@@ -203,7 +203,7 @@ QString tekstZmiany(const PakietZmian& pakiet, int nr, const WartoscPliku& warto
         return QString::number(*r, 'g', 15).replace(u'.', u',');
     const auto* t = std::get_if<QByteArray>(&wartosc);
     if (!t) return {};
-    const QString tekst = QString::fromUtf8(*t);
+    QString tekst = QString::fromUtf8(*t);
     if (!jest(Typ::Date)) return tekst;
     const QDate dzien = QDate::fromString(tekst, Qt::ISODate);
     return dzien.isValid() ? FormatDaty(dzien) : tekst;

@@ -4,7 +4,6 @@
 #include "store/Struktura.h"
 #include <algorithm>
 #include <map>
-#include <ranges>
 
 namespace tornel::store {
 
@@ -65,7 +64,8 @@ public:
             return;
         }
         if (kierunek_ == Kierunek::Cofnij)
-            for (const ZmianaWiersza& z : std::views::reverse(pakiet.zmiany)) zastosuj(pakiet, z);
+            std::for_each(pakiet.zmiany.rbegin(), pakiet.zmiany.rend(),
+                          [&](const ZmianaWiersza& z) { zastosuj(pakiet, z); });
         else
             for (const ZmianaWiersza& z : pakiet.zmiany) zastosuj(pakiet, z);
     }

@@ -185,8 +185,9 @@ PakietZmian CzytajPakiet(const QByteArray& bajty) {
         ZmianaWiersza& z = pakiet.zmiany.emplace_back();
         z.rodzaj = static_cast<RodzajZmiany>(c.bajt());
         // Differences of numbers from a damaged packet may leave the range; they only have to stay defined.
-        nrWiersza = static_cast<qint64>(static_cast<std::uint64_t>(nrWiersza) +
-                                        static_cast<std::uint64_t>(odZygzaka(c.liczba())));
+        const std::uint64_t suma =
+            static_cast<std::uint64_t>(nrWiersza) + static_cast<std::uint64_t>(odZygzaka(c.liczba()));
+        nrWiersza = static_cast<qint64>(suma);
         z.nrWiersza = nrWiersza;
         czytajZmiane(c, pakiet, z);
     }

@@ -10,7 +10,7 @@ namespace tornel::store {
 namespace {
 
 /// A packet is written when it has so many bytes, so that a batch needs no more memory than that for a table.
-constexpr std::size_t kNajwiekszyPakiet = 32 * 1024;
+constexpr std::size_t kNajwiekszyPakiet = 32'768;
 /// Of more employees an entry says only that they are many.
 constexpr std::size_t kNajwiecejOsob = 30;
 
