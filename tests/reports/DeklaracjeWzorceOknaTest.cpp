@@ -1,6 +1,7 @@
 // The forms of the declarations: pictures that fit their boxes, sums that are those
 // of the tables, and each page as it stands on paper.
 #include "common/Liczby.h"
+#include "druk/Pisma.h"
 #include "druk/Wyjscie.h"
 #include "reports/deklaracje/FormularzePit.h"
 #include "reports/deklaracje/WydrukDeklaracji.h"
@@ -14,6 +15,8 @@
 #include "wsparcie/TekstStrony.h"
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
+#include <QPainter>
 #include <QTemporaryDir>
 
 namespace tornel::testy {
@@ -96,6 +99,8 @@ TEST_F(FormularzePit, BoxesKeepOffEachOtherAndEverythingStandsOnThePage) {
                         << i << " and " << j << " at " << a.x() << ',' << a.y();
                 }
             }
+            for (const NapisFormularza& n : s.formularz().napisy)
+                EXPECT_LE(szerTekstu(n.tekst, n.pismo), n.miejsce.szer) << n.tekst.toString().toStdString();
             for (const PoleFormularza& p : s.formularz().pola) {
                 const auto w = std::ranges::count_if(ramki, [&](const Miejsce& m) {
                     return prostokat(m).adjusted(-0.3, -0.3, 0.3, 0.3).contains(prostokat(p.miejsce));
@@ -110,8 +115,8 @@ TEST_F(FormularzePit, EveryPageOfTheExampleFirm) {
         const auto wydruk = uklad(przykladowa(ktora));
         ASSERT_EQ(wydruk->stron(), 2);
         const QString nazwa = wydruk->opis().nazwa;
-        porownajZWzorcem(__FILE__, nazwa + u"-1"_s, *wydruk, 0);
-        porownajZWzorcem(__FILE__, nazwa + u"-2"_s, *wydruk, 1);
+        porownajZWzorcem(__FILE__, nazwa + u"-1"_s, *wydruk, 1);
+        porownajZWzorcem(__FILE__, nazwa + u"-2"_s, *wydruk, 2);
         EXPECT_EQ(UlozDeklaracje({ktora, 3, [&](int) { return WierszDeklaracji(ktora); }}, 2)->stron(), 3);
     }
 }
@@ -138,6 +143,73 @@ TEST_F(FormularzePit, SumsOnPaperAreThoseOfTheTables) {
         EXPECT_TRUE(papier->zawiera(1, kwota(przychod)) && papier->zawiera(1, kwota(zaliczki)))
             << papier->opis().nazwa.toStdString();
     }
+}
+
+QImage obrazStrony(const Uklad& uklad, int strona, int punktowNaMm) {
+    QImage obraz(210 * punktowNaMm, 297 * punktowNaMm, QImage::Format_Grayscale8);
+    obraz.fill(Qt::white);
+    QPainter malarz(&obraz);
+    MalujStrone(malarz, punktowNaMm * 25.4, uklad, strona);
+    return obraz;
+}
+
+/// Where a page may change when its fields are filled: white inside the boxes that hold a field.
+QImage polaStrony(StronaFormularza& strona, int punktowNaMm) {
+    QImage obraz(210 * punktowNaMm, 297 * punktowNaMm, QImage::Format_Grayscale8);
+    obraz.fill(Qt::black);
+    QPainter malarz(&obraz);
+    for (const PoleFormularza& p : strona.formularz().pola) {
+        const QRectF pole(p.miejsce.x, p.miejsce.y, p.miejsce.szer, p.miejsce.wys);
+        for (const Miejsce& m : strona.ramki())
+            if (const QRectF ramka(m.x, m.y, m.szer, m.wys);
+                ramka.adjusted(-0.3, -0.3, 0.3, 0.3).contains(pole) && ramka.height() < 60)
+                malarz.fillRect(QRectF((12 + m.x) * punktowNaMm, (12 + m.y) * punktowNaMm,
+                                       m.szer * punktowNaMm, m.wys * punktowNaMm),
+                                Qt::white);
+    }
+    return obraz;
+}
+
+TEST_F(FormularzePit, TextsOfAnyLengthStayInTheirBoxes) {
+    constexpr int kPunktow = 4;
+    for (const Deklaracja ktora : kWszystkie) {
+        WierszDeklaracji d(ktora);
+        const auto pusty = uklad(d);
+        for (const KolumnaDef& k : d.tabela().kolumny)
+            if (k.typ == Typ::Text || k.typ == Typ::Memo)
+                d.ustaw(k.nazwa, (k.typ == Typ::Memo ? u"wyjaśnienie różnicy\n"_s : u"WŚ\nQ"_s).repeated(60));
+        const auto pelny = uklad(d);
+        for (const int strona : {0, 1}) {
+            const QImage dozwolone =
+                polaStrony(StronyFormularza(ktora).at(static_cast<std::size_t>(strona)), kPunktow);
+            const QImage bez = obrazStrony(*pusty, strona, kPunktow),
+                         z = obrazStrony(*pelny, strona, kPunktow);
+            int obce = 0, swoje = 0;
+            for (int y = 0; y < z.height(); ++y)
+                for (int x = 0; x < z.width(); ++x)
+                    if (bez.constScanLine(y)[x] != z.constScanLine(y)[x])
+                        ++(dozwolone.constScanLine(y)[x] > 0 ? swoje : obce);
+            EXPECT_EQ(obce, 0) << "form " << static_cast<int>(ktora) << ", page " << strona + 1;
+            EXPECT_GT(swoje, 500);
+        }
+    }
+}
+
+TEST_F(FormularzePit, ALongSeriesMakesADeclarationWhenItsPageIsDrawn) {
+    constexpr int kIle = 10'000;
+    QList<int> zrobione;
+    const auto seria = UlozDeklaracje({Deklaracja::Pit11, kIle, [&](int nr) {
+                                           zrobione.append(nr);
+                                           WierszDeklaracji d(Deklaracja::Pit11);
+                                           d.ustaw("Nazwisko", u"Osoba%1"_s.arg(nr));
+                                           return d;
+                                       }});
+    EXPECT_EQ(seria->stron(), 2 * kIle);
+    EXPECT_TRUE(zrobione.isEmpty());
+    EXPECT_TRUE(seria->zawiera(2 * 7777, u"Osoba7777"_s));
+    EXPECT_TRUE(seria->zawiera(2 * 7777 + 1, u"strona 2"_s));
+    EXPECT_TRUE(seria->zawiera(0, u"Osoba0"_s));
+    EXPECT_EQ(zrobione, (QList<int>{7777, 0})) << "both pages from one making";
 }
 
 } // namespace

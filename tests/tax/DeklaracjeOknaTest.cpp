@@ -1,4 +1,5 @@
 // The screens of the declarations: making, typing over, storing, printing, many at once.
+#include "common/Daty.h"
 #include "common/Liczby.h"
 #include "okna/PoleTekstu.h"
 #include "okna/WidokListy.h"
@@ -175,7 +176,11 @@ TEST_F(DeklaracjeOkna, PIT4MowiGdyMiesiacJestDzisInnyIDrukujeWybraneStrony) {
 }
 
 TEST_F(DeklaracjeOkna, KontrolaRokuZnaczyMiesiaceBezDeklaracji) {
-    for (int mies = 1; mies <= 3; ++mies) pit4({2001, mies});
+    program_.reset();
+    const QString rok = folder_.filePath(u"Rok.mdb"_s);
+    UtworzPrzyklad(rok, 12, 12, folder_.path());
+    program_ = std::make_unique<Program>(rok, folder_.path(), rozmowa_);
+    for (int mies = 1; mies <= 12; ++mies) pit4({2001, mies});
     frmKontrolaPIT4 okno(o(), 2001);
     pokaz(okno);
     const auto& wynik = widzet<QLabel>(okno, u"labWynik"_s);
@@ -221,6 +226,46 @@ TEST_F(DeklaracjeOkna, WpisaneKwotyPIT11ZostajaWWierszuIWSumach) {
     const frmDeklaracjaRoczna druga(o(), Deklaracja::Pit11, 4, kKwartal);
     EXPECT_EQ(rs.RecordCount(), 1);
     EXPECT_EQ(rs.kwota(PIT11("przy_9")), Waluta{});
+}
+
+TEST_F(DeklaracjeOkna, KazdePoleRocznejTrafiaDoSwojejKolumny) {
+    for (const Deklaracja ktora : {Deklaracja::Pit11, Deklaracja::Pit40, Deklaracja::Pit8B}) {
+        const RodzajDeklaracji& rodzaj = OpisDeklaracji(ktora);
+        SCOPED_TRACE(rodzaj.nazwa.toString().toStdString());
+        QHash<QString, Wartosc> wpisane;
+        {
+            frmDeklaracjaRoczna okno(o(), ktora, 3, kKwartal);
+            pokaz(okno);
+            for (const KolumnaDef& k : rodzaj.tabela->kolumny) {
+                const QString kolumna =
+                    QString::fromLatin1(k.nazwa.data(), static_cast<qsizetype>(k.nazwa.size()));
+                auto* pole = okno.findChild<QLineEdit*>(u"txt"_s + kolumna);
+                if (!pole) continue; // a choice has its own test
+                const auto nr = wpisane.size() + 1;
+                Wartosc wartosc = QString::number(nr % 10);
+                QString tekst = QString::number(nr % 10);
+                if (k.typ == Typ::Currency) {
+                    wartosc = Waluta::zSurowej(nr * 10000 + 1200);
+                    tekst = u"%1,12"_s.arg(nr);
+                } else if (k.typ == Typ::Date) {
+                    wartosc = QDate(2001, 1, 1).addDays(nr);
+                    tekst = FormatDaty(QDate(2001, 1, 1).addDays(nr));
+                }
+                pole->setFocus(Qt::TabFocusReason);
+                pole->setText(tekst);
+                emit pole->textEdited(tekst);
+                wpisane.insert(kolumna, wartosc);
+            }
+            QTest::keyClick(&okno, Qt::Key_Escape);
+            EXPECT_FALSE(okno.isVisible());
+        }
+        EXPECT_GT(wpisane.size(), 60);
+        const Recordset& rs = o().sesja.*rodzaj.uchwyt;
+        for (auto i = wpisane.begin(); i != wpisane.end(); ++i)
+            EXPECT_TRUE(rs.wartosc(rodzaj.tabela->nr(rodzaj.tabela->numer(i.key().toStdString()))) ==
+                        i.value())
+                << i.key().toStdString();
+    }
 }
 
 TEST_F(DeklaracjeOkna, PIT40SprawdzaWzorIRozliczaNaZadanie) {

@@ -41,7 +41,8 @@ constexpr QStringView kZrodla[] = {
 // -------------------------------------------------------------------------------------------------------
 
 void pit4Strona1(StronaFormularza& s) {
-    s.rzad({{2, u"Numer Identyfikacji Podatkowej płatnika", "Nip"}, {1, u"Nr dokumentu"}, {1, u"Status"}});
+    // The words of line 17 name box 66 as the tax to be paid over, so the head has no box for a status.
+    s.rzad({{2, u"Numer Identyfikacji Podatkowej płatnika", "Nip"}, {1.4, u"Nr dokumentu"}});
     s.tytul(u"PIT-4", u"DEKLARACJA NA ZALICZKĘ MIESIĘCZNĄ",
             u"na podatek dochodowy od osób fizycznych, pobraną przez płatnika");
     s.rzad({{3}, {1, u"Miesiąc", "mies_tyt", Format::Liczba}, {1, u"Rok", "rok_tyt", Format::Liczba}, {3}});

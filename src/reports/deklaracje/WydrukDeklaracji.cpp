@@ -23,10 +23,17 @@ public:
             nrOstatniego_ = wiersz;
         }
         const int kolumn = static_cast<int>(ostatni_.tabela().kolumny.size());
-        return nr < kolumn ? ostatni_.wartosc(nr) : Wartosc(sumy_.at(nr - kolumn));
+        return nr < kolumn ? wLinii(nr) : Wartosc(sumy_.at(nr - kolumn));
     }
 
 private:
+    /// An imported text may hold line breaks, which would lead it out of its box; only a memo has lines.
+    [[nodiscard]] Wartosc wLinii(int nr) const {
+        const Wartosc& wartosc = ostatni_.wartosc(nr);
+        const auto* tekst = std::get_if<QString>(&wartosc);
+        if (!tekst || ostatni_.tabela().nr(nr).def().typ == Typ::Memo) return wartosc;
+        return tekst->simplified();
+    }
     [[nodiscard]] static QList<Waluta> sumy(const WierszDeklaracji& d) {
         if (d.ktora() == Deklaracja::Pit4) {
             const tax::SumyPit4 s = tax::SumyDeklaracji(d);
