@@ -52,7 +52,7 @@ frmPlaceLista::frmPlaceLista(Otoczenie& otoczenie, RokMies miesiac, const QStrin
                              PortWydrukow wydruki)
     : Okno(QStringLiteral("frmPlaceLista"), rodzic, PoEnterze::NastepnePole), o_(otoczenie),
       wydruki_(std::move(wydruki)), lista_(otoczenie, miesiac.rok, miesiac.mies, symbol, &wykazy_),
-      lvwPlace_(new WidokListy(kolumnyListy(), {40, 8, 11, 19, 22})), sumyPlace_(new WierszSum(*lvwPlace_)),
+      lvwPlace_(new WidokListy(kolumnyListy(), {36, 9, 10, 21, 24})), sumyPlace_(new WierszSum(*lvwPlace_)),
       zakladki_(new ZakladkiListy(otoczenie, lista_)), pasek_(new PasekListy(wydruki_)),
       labPracownik_(napis(QStringLiteral("labPracownik"))), labKwoty_(napis(QStringLiteral("labKwoty"))),
       labIleWierszy_(napis(QStringLiteral("labIleWierszy"))), labUwaga_(Wyglad::baner({}, this)) {
