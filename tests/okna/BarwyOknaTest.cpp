@@ -37,7 +37,7 @@ double swiatlo(const QColor& barwa) {
 }
 
 double kontrast(const QColor& a, const QColor& b) {
-    const auto [ciemna, jasna] = std::minmax(swiatlo(a), swiatlo(b));
+    const auto [ciemna, jasna] = std::minmax({swiatlo(a), swiatlo(b)});
     return (jasna + 0.05) / (ciemna + 0.05);
 }
 
@@ -65,7 +65,8 @@ class BarwyTest : public testing::TestWithParam<Motyw> {
 class WygladOknaTest : public testing::Test {
     ZWygladem wyglad_;
 };
-INSTANTIATE_TEST_SUITE_P(Motywy, BarwyTest, testing::Values(Motyw::Jasny, Motyw::Ciemny));
+INSTANTIATE_TEST_SUITE_P(Motywy, BarwyTest, testing::Values(Motyw::Jasny, Motyw::Ciemny),
+                         [](const auto& motyw) { return motyw.param == Motyw::Ciemny ? "Ciemny" : "Jasny"; });
 
 TEST_P(BarwyTest, KazdyTekstMaKontrast) {
     using P = QPalette;
